@@ -1,0 +1,19 @@
+#include "apps/nodrim/rutinas.h"
+
+namespace nod::lote {
+
+const Rutinas& TodasLasRutinas()
+{
+    static const Rutinas rutinas = [] {
+        Rutinas r;
+        RegistraRutinasFrame(r);
+        RegistraRutinasTexto(r);
+        RegistraRutinasIdent(r);
+        RegistraRutinasGeo(r);
+        RegistraRutinasProtocolo(r);
+        return r;
+    }();
+    return rutinas;
+}
+
+} // namespace nod::lote

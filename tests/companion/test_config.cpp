@@ -1,0 +1,78 @@
+#include "companion/config.h"
+#include "tests/support/oficina_prueba.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+using namespace nod;
+using nod::prueba::OficinaPrueba;
+
+TEST(Config, MissingOfficeGivesDefaultsAndOneWarningPerFile)
+{
+    TConfig c;
+    c.Carga(QStringLiteral("/no/such/office"));
+    EXPECT_EQ(c.GetAliasNotario(), QStringLiteral("DBNOTARIO"));
+    EXPECT_EQ(c.GetnCuantos(), 1);
+    EXPECT_EQ(c.GetsNotario(), QStringLiteral("1"));
+    ASSERT_EQ(c.Avisos().size(), 3);
+    EXPECT_TRUE(c.Avisos()[0].contains(QStringLiteral("/no/such/office")));
+    EXPECT_TRUE(c.Avisos()[1].contains(QStringLiteral("CONFIG.INI")));
+}
+
+TEST(Config, ReadsWindows1252TextsIntact)
+{
+    OficinaPrueba o(QStringLiteral("[general]\naliasnotario = NOTARÍA\n[NOTARIO1]\n"));
+    EXPECT_EQ(Config.GetAliasNotario(), QStringLiteral("NOTARÍA")); // sections and keys ignore case
+    QFile f(o.ruta(QStringLiteral("CONFIG/CONFIG.INI")));
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(f.readAll().contains("NOTAR\xCD" "A")); // one byte, as Windows wrote it
+}
+
+TEST(Config, MalformedLinesAreSkippedWithFileAndLine)
+{
+    OficinaPrueba o(QStringLiteral("[GENERAL]\nNumeroNotarios=3\nthis line is junk\n[GENERAL]\nNumeroNotarios=tres\n"));
+    EXPECT_EQ(Config.GetnCuantos(), 1) << "a value that does not parse keeps the default";
+    const QString avisos = Config.Avisos().join(QLatin1Char('\n'));
+    EXPECT_TRUE(avisos.contains(QStringLiteral("CONFIG.INI:3:"))) << avisos.toStdString();
+    EXPECT_TRUE(avisos.contains(QStringLiteral("NumeroNotarios=tres"))) << avisos.toStdString();
+}
+
+TEST(Config, WarningsAreCappedPerFile)
+{
+    QString basura = QStringLiteral("[GENERAL]\n");
+    for (int i = 0; i < 50; ++i)
+        basura += QStringLiteral("junk\n");
+    OficinaPrueba o(basura);
+    EXPECT_EQ(Config.Avisos().size(), IniFile::kMaxAvisos + 1);
+    EXPECT_TRUE(Config.Avisos().last().contains(QStringLiteral("40")));
+}
+
+TEST(Config, AliasesMapToFoldersUnderTheOffice)
+{
+    OficinaPrueba o(QStringLiteral("[ALIAS]\nDB=DATOS\nABS=/srv/datos\n"));
+    EXPECT_EQ(Config.CarpetaAlias(QStringLiteral("DB")), o.ruta(QStringLiteral("DATOS")));
+    EXPECT_EQ(Config.CarpetaAlias(QStringLiteral("ABS")), QStringLiteral("/srv/datos"));
+    EXPECT_TRUE(Config.CarpetaAlias(QStringLiteral("NINGUNO")).isEmpty());
+    EXPECT_EQ(Config.RutaUnidadC(QStringLiteral("C:\\PasarelaWeb.ini")), o.ruta(QStringLiteral("C/PasarelaWeb.ini")));
+}
+
+TEST(Config, DescriptorsReadAndWriteByName)
+{
+    OficinaPrueba o;
+    const auto* d = TConfig::BuscaDescriptor(u"nCuantos");
+    ASSERT_NE(d, nullptr);
+    EXPECT_EQ(d->tipo, TConfig::Tipo::Entero);
+    d->escribe(Config, 7);
+    EXPECT_EQ(Config.GetnCuantos(), 7);
+    EXPECT_EQ(d->lee(Config).toInt(), 7);
+    EXPECT_EQ(TConfig::BuscaDescriptor(u"NoExiste"), nullptr);
+}
+
+TEST(Config, EveryValueIsDocumented)
+{
+    QFile doc(QStringLiteral(NOD_SOURCE_DIR "/docs/configuration.md"));
+    ASSERT_TRUE(doc.open(QIODevice::ReadOnly));
+    const QString texto = QString::fromUtf8(doc.readAll());
+    for (const auto& d : TConfig::Descriptores())
+        EXPECT_TRUE(texto.contains(QStringLiteral("`%1`").arg(QLatin1String(d.nombre)))) << d.nombre;
+}

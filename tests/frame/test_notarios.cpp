@@ -1,0 +1,61 @@
+#include "frame/notarios.h"
+#include "frame/unidades.h"
+#include "tests/support/oficina_prueba.h"
+
+#include <gtest/gtest.h>
+
+using namespace nod;
+using nod::prueba::OficinaPrueba;
+
+TEST(Notarios, AliasNotario)
+{
+    OficinaPrueba o(QStringLiteral("[GENERAL]\nAliasNotario=DBNOT\n"));
+    const struct {
+        int numero;
+        const char* alias;
+    } casos[] = {{0, "DBNOT1"}, {1, "DBNOT1"}, {2, "DBNOT2"}, {12, "DBNOT12"}, {-3, "DBNOT-3"}};
+    for (const auto& c : casos)
+        EXPECT_EQ(AliasNotario(c.numero), QLatin1String(c.alias)) << c.numero;
+}
+
+TEST(Notarios, AliasNotarioActualFollowsTheSelectedNotary)
+{
+    OficinaPrueba o(QStringLiteral("[GENERAL]\nNotario=2\n"));
+    EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO2"));
+    Config.SetsNotario(QStringLiteral("0"));
+    EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO1"));
+    Config.SetsNotario(QStringLiteral("x"));
+    EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO1"));
+}
+
+TEST(Notarios, NumeroDeNotariosNeverBelowOne)
+{
+    OficinaPrueba o;
+    for (auto [configurado, esperado] : {std::pair{0, 1}, {-3, 1}, {1, 1}, {4, 4}}) {
+        Config.SetnCuantos(configurado);
+        EXPECT_EQ(NumeroDeNotarios(), esperado) << configurado;
+    }
+}
+
+TEST(Notarios, SelectingANotaryReloadsItsOwnSection)
+{
+    // The per-notary values live in [NOTARIO<n>]; no frame value is per notary, so check the mechanism
+    // through the selected notary's alias alone.
+    OficinaPrueba o(QStringLiteral("[GENERAL]\nNotario=1\nNumeroNotarios=2\n"));
+    Config.SetsNotario(QStringLiteral("2"));
+    EXPECT_EQ(Config.GetsNotario(), QStringLiteral("2"));
+    EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO2"));
+}
+
+TEST(Unidades, StartAndStopOnlyCount)
+{
+    const int antes = VecesIniciada(QStringLiteral("Rut"));
+    {
+        NodRutinasCargada cargada;
+        EXPECT_EQ(VecesIniciada(QStringLiteral("Rut")), antes + 1);
+        EXPECT_EQ(VecesIniciada(QStringLiteral("Clasificardocumentos")), VecesIniciada(QStringLiteral("Mensajenod")));
+    }
+    EXPECT_EQ(VecesFinalizada(QStringLiteral("Rut")), antes + 1);
+    EXPECT_EQ(UnidadesNodRutinas().size(), 42);
+    EXPECT_EQ(VecesIniciada(QStringLiteral("NoEsUnidad")), 0);
+}
