@@ -1,0 +1,117 @@
+// Identity and tax numbers: the suite's CIF check, document-type labels and the companion checks.
+#include "companion/documentos.h"
+#include "ident/cif.h"
+#include "ident/tipodocumento.h"
+
+#include <gtest/gtest.h>
+
+namespace nod {
+namespace {
+
+struct CasoCif {
+    const char16_t* numero;
+    bool valido;
+};
+
+class EsCifTabla : public ::testing::TestWithParam<CasoCif> {};
+
+TEST_P(EsCifTabla, Verdict) {
+    EXPECT_EQ(EsCif(QString::fromUtf16(GetParam().numero)), GetParam().valido)
+        << qPrintable(QString::fromUtf16(GetParam().numero));
+}
+
+// A5881850: control 1 ("A"); P2800000: control 8 ("H"); B0000000: control 10, written "0" or "J".
+INSTANTIATE_TEST_SUITE_P(
+    Casos, EsCifTabla,
+    ::testing::Values(
+        CasoCif{u"A58818501", true}, CasoCif{u"A5881850A", true}, CasoCif{u"a-58.818.501", true},
+        CasoCif{u"A58818502", false}, CasoCif{u"P2800000H", true}, CasoCif{u"P28000008", true},
+        CasoCif{u"P2800000D", false}, CasoCif{u"B00000000", true}, CasoCif{u"B0000000J", true},
+        CasoCif{u"P0000000J", true}, CasoCif{u"P00000000", false}, CasoCif{u"S00000000", false},
+        // K, L, M and N take any ninth character once the 7 digits are there.
+        CasoCif{u"K1234567?", true}, CasoCif{u"L1234567Z", true}, CasoCif{u"M12345670", true},
+        CasoCif{u"N1234567*", true}, CasoCif{u"N1234567-", false}, CasoCif{u"N12345A7X", false},
+        // Organisation letters the suite does not take, whatever the control.
+        CasoCif{u"J58818501", false}, CasoCif{u"R5881850A", false}, CasoCif{u"U58818501", false},
+        CasoCif{u"V5881850A", false}, CasoCif{u"W58818501", false},
+        // A leading digit is a NIF, an X a NIE read with 0; Y and Z are not taken.
+        CasoCif{u"12345678Z", true}, CasoCif{u"12345678A", false}, CasoCif{u"X1234567L", true},
+        CasoCif{u"Y1234567X", false},
+        // Lengths other than 9 after normalising, and input nobody should type.
+        CasoCif{u"A5881850", false}, CasoCif{u"A588185011", false}, CasoCif{u"", false},
+        CasoCif{u"   ", false}, CasoCif{u"A58818\u00e91", false}, CasoCif{u"\u00d158818501", false}));
+
+TEST(TipoDeDocumento, LabelsOfCodes) {
+    const std::pair<int, const char16_t*> casos[] = {{1, u"N.I.F."},
+                                                     {2, u"C.I.F."},
+                                                     {3, u"N.I.E."},
+                                                     {4, u"PASAPORTE"},
+                                                     {0, u"DOCUMENTO DE IDENTIFICACION"},
+                                                     {5, u"DOCUMENTO DE IDENTIFICACION"},
+                                                     {-1, u"DOCUMENTO DE IDENTIFICACION"}};
+    for (const auto& [codigo, etiqueta] : casos)
+        EXPECT_EQ(TipoDeDocumento(codigo), QString::fromUtf16(etiqueta)) << codigo;
+}
+
+TEST(TipoDeDocumento, CodesOfLabelsKeepTheirCaseAsymmetry) {
+    const std::pair<const char16_t*, int> casos[] = {
+        {u"N.I.F.", 1},    {u"NIF", 1},       {u"C.I.F.", 2},     {u" N.I.E. ", 3}, {u"N.I.E", 3},
+        {u"PASAPORTE", 4}, {u"pasaporte", 4}, {u"Pasa.porte", 4}, {u"n.i.f.", 5},   {u"nie", 5},
+        {u"DNI", 5},       {u"", 5},          {u"....", 5}};
+    for (const auto& [etiqueta, codigo] : casos)
+        EXPECT_EQ(TipoDeDocumento(QString::fromUtf16(etiqueta)), codigo)
+            << qPrintable(QString::fromUtf16(etiqueta));
+}
+
+TEST(TipoDeDocumento, RoundTripOfTheFourKnownCodes) {
+    for (int codigo = 1; codigo <= 4; ++codigo)
+        EXPECT_EQ(TipoDeDocumento(TipoDeDocumento(codigo)), codigo);
+}
+
+TEST(QueTipoDeDocumentoEs, ShapesOfNumbers) {
+    const std::pair<const char16_t*, int> casos[] = {{u"12345678Z", 1},
+                                                     {u"12.345.678-a", 1},
+                                                     {u"K1234567L", 1},
+                                                     {u"B58818501", 2},
+                                                     {u"P2800000D", 2},
+                                                     {u"X1234567L", 3},
+                                                     {u"z-1234567-r", 3},
+                                                     {u"AB1234567", 4},
+                                                     {u"PAE123456", 4},
+                                                     {u"", 5},
+                                                     {u"   ", 5},
+                                                     {u"ABCDEFG", 5},
+                                                     {u"1234", 5},
+                                                     {u"12345678\u00d1", 5},
+                                                     {u"1234567890123456", 5}};
+    for (const auto& [numero, tipo] : casos)
+        EXPECT_EQ(QueTipoDeDocumentoEs(QString::fromUtf16(numero)), tipo)
+            << qPrintable(QString::fromUtf16(numero));
+}
+
+TEST(QueTipoDeDocumentoEsParaConsultaDNI, OnlyCifAndPassportKeepTheirType) {
+    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("X1234567L")), 1);
+    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("12345678Z")), 1);
+    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("")), 1);
+    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("B58818501")), 2);
+    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("AB1234567")), 4);
+}
+
+TEST(DocumentosCompanion, FlagDecidesWhetherTypingSeparatorsIsTolerated) {
+    EXPECT_EQ(PreparaCIFNIF(QStringLiteral(" b-12.345.674 ")), QStringLiteral("B12345674"));
+    EXPECT_TRUE(EsNif(QStringLiteral("12345678Z"), false));
+    EXPECT_TRUE(EsNif(QStringLiteral("12.345.678-z"), true));
+    EXPECT_FALSE(EsNif(QStringLiteral("12.345.678-z"), false));
+    EXPECT_TRUE(EsUnNie(QStringLiteral("x-1234567-l"), true));
+    EXPECT_FALSE(EsUnNie(QStringLiteral("x1234567l"), false));
+    EXPECT_TRUE(EsUnCif(QStringLiteral("a 58818501"), true));
+    EXPECT_FALSE(EsUnCif(QStringLiteral("a 58818501"), false));
+    EXPECT_EQ(LetraNIF(0), u'T');
+    EXPECT_EQ(LetraNIF(22), u'E');
+    EXPECT_TRUE(LetraNIF(-1).isNull());
+    EXPECT_EQ(ControlCIF(u"12345"), -1);
+    EXPECT_EQ(ControlCIF(u"12a4567"), -1);
+}
+
+} // namespace
+} // namespace nod
