@@ -1,0 +1,38 @@
+#pragma once
+// TFPreguntaZEB: the maker's contact box (unit Preguntazeb): a message, the maker's logo, and two links,
+// to the maker's web site (`LMDZeb`) and to its support desk by mail (`LMDCorreo`). The addresses are
+// the office's configuration values `WebFabricante` and `CorreoFabricante`.
+
+#include <QDialog>
+
+class QLabel;
+
+namespace nod {
+
+class TFPreguntaZEB : public QDialog {
+    Q_OBJECT
+public:
+    /// The box with `texto` in its message label `LMensaje`.
+    TFPreguntaZEB(QWidget* owner, const QString& texto);
+
+    /// Link hover: on entering, a pointing hand and a font one point larger in the highlight colour
+    /// (stored 0xFAC101 for the web, 0x0000B9 for the mail); on leaving, the default cursor, the font one
+    /// point smaller and the rest colour (0xFF0000 web, 0x000080 mail).
+    void EntraEnlace(QLabel* enlace);
+    void SaleEnlace(QLabel* enlace);
+
+    /// Opens the maker's web site / a "mailto:" to its support desk, through the shell opener.
+    void LMDZebClick();
+    void LMDCorreoClick();
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+
+private:
+    QLabel* m_web;
+    QLabel* m_correo;
+    QLabel* m_imagen;
+};
+
+} // namespace nod

@@ -1,0 +1,45 @@
+#pragma once
+// The message service of programs with a screen: real message boxes, the suite's coloured box and a
+// modeless wait window. Install it once at start-up:
+//
+//     nod::ServicioMensajesQt mensajes;
+//     nod::InstalaServicioMensajes(&mensajes);
+
+#include "companion/mensajes.h"
+
+#include <QPointer>
+
+class QDialog;
+class QLabel;
+class QWidget;
+
+namespace nod {
+
+class ServicioMensajesQt : public ServicioMensajes {
+public:
+    ~ServicioMensajesQt() override;
+
+    /// A box with the stop icon and one "&Aceptar" button.
+    void error(const QString& texto, const QString& titulo) override;
+    /// A box with the information icon and one "&Aceptar" button.
+    void info(const QString& texto, const QString& titulo) override;
+    /// "&Si" / "&No", the focus on "&Si" when `focoEnSi`; Escape answers No. 1 yes, 2 no.
+    int pregunta(const QString& kind, const QString& texto, const QString& titulo, bool focoEnSi) override;
+    /// A small window without buttons, shown at once and kept above the program until closed.
+    void muestraEspera(const QString& texto) override;
+    void cambiaEspera(const QString& texto) override;
+    void cierraEspera() override;
+    /// A TFMensajeNod filled as `Mensaje_Person` does.
+    int mensajePerson(const PeticionMensajePerson& p) override;
+    /// A TFMensajeActivosFinancieros of the given type.
+    int activosFinancieros(int tipo) override;
+
+    /// The wait window while it is shown (tests look at it).
+    QDialog* ventanaEspera() const { return m_espera; }
+
+private:
+    QPointer<QDialog> m_espera;
+    QPointer<QLabel> m_textoEspera;
+};
+
+} // namespace nod

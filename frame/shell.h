@@ -1,0 +1,17 @@
+#pragma once
+// Opening a web page or a "mailto:" link with the desktop's default program. Behind a seam so that tests
+// record what would have been opened instead of starting a browser.
+
+#include <QUrl>
+#include <functional>
+
+namespace nod {
+
+/// Opens `url` with the desktop's default program; false when nothing could open it.
+bool AbreEnShell(const QUrl& url);
+
+/// Replaces the opener (nullptr function: back to the desktop's); returns the previous one.
+using AbridorShell = std::function<bool(const QUrl&)>;
+AbridorShell FijaAbridorShell(AbridorShell abridor);
+
+} // namespace nod
