@@ -129,7 +129,7 @@ public:
 
 private:
     struct Impl;
-    explicit TTabla(std::unique_ptr<Impl> d);
+    explicit TTabla(std::unique_ptr<Impl> impl);
     std::unique_ptr<Impl> d;
 
     friend std::unique_ptr<TTabla> CreaTabla(const QString&, const QString&, const QString&);

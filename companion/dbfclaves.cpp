@@ -1,0 +1,126 @@
+#include "companion/dbfclaves.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <algorithm>
+#include <cstring>
+
+namespace nod {
+
+namespace {
+
+int comparaBytes(QByteArrayView a, QByteArrayView b, bool parcial) {
+    const qsizetype n = std::min(a.size(), b.size());
+    const int c = n ? std::memcmp(a.data(), b.data(), size_t(n)) : 0;
+    if (c != 0) return c;
+    if (parcial && b.size() <= a.size()) return 0;
+    return a.size() < b.size() ? -1 : a.size() > b.size() ? 1 : 0;
+}
+
+ValorPreparado numeroDe(const QVariant& valor, char tipo) {
+    ValorPreparado v;
+    switch (valor.typeId()) {
+    case QMetaType::QDate:
+        v.numero = QDateToTDateTime(valor.toDate());
+        break;
+    case QMetaType::QDateTime:
+        v.numero = QDateTimeToTDateTime(valor.toDateTime());
+        break;
+    case QMetaType::Bool:
+        v.numero = valor.toBool() ? 1 : 0;
+        break;
+    case QMetaType::QString: {
+        const QString t = valor.toString().trimmed().toUpper();
+        if (tipo == 'L' && (t == QLatin1String("T") || t == QLatin1String("TRUE")))
+            v.numero = 1;
+        else if (tipo == 'L' && (t == QLatin1String("F") || t == QLatin1String("FALSE")))
+            v.numero = 0;
+        else if (!LeeNumeroDbf(t.toLatin1(), v.numero))
+            return v; // a text that is no number matches no row
+        break;
+    }
+    default: {
+        bool ok = false;
+        v.numero = valor.toDouble(&ok);
+        if (!ok) return v;
+    }
+    }
+    v.clase = ValorPreparado::Clase::Numero;
+    return v;
+}
+
+} // namespace
+
+ValorPreparado PreparaValor(const DatosDbf& datos, int campo, const QVariant& valor) {
+    const char tipo = datos.campos()[campo].tipo;
+    if (CampoNumerico(tipo)) return numeroDe(valor, tipo);
+    ValorPreparado v;
+    QString texto =
+        valor.typeId() == QMetaType::Double ? QString::number(valor.toDouble(), 'f', -1) : valor.toString();
+    while (!texto.isEmpty() && texto.back() == QLatin1Char(' '))
+        texto.chop(1);
+    if (const auto bytes = Codifica(texto, datos.paginaCodigos())) {
+        v.texto = *bytes;
+        v.clase = ValorPreparado::Clase::Texto;
+    }
+    return v;
+}
+
+int ComparaCampo(const DatosDbf& datos, int fila, int campo, const ValorPreparado& valor, bool parcial) {
+    switch (valor.clase) {
+    case ValorPreparado::Clase::Numero: {
+        const double x = datos.numero(fila, campo);
+        return x < valor.numero ? -1 : x > valor.numero ? 1 : 0;
+    }
+    case ValorPreparado::Clase::Texto:
+        return comparaBytes(datos.crudo(fila, campo), valor.texto, parcial);
+    case ValorPreparado::Clase::Imposible:
+        break;
+    }
+    return -1;
+}
+
+const OrdenIndice& DatosDbf::orden(const std::vector<int>& campos) const {
+    std::string clave;
+    for (int c : campos)
+        clave += std::to_string(c) + ',';
+    std::lock_guard lock(m_mutexOrdenes);
+    auto& hueco = m_ordenes[clave];
+    if (hueco) return *hueco;
+    auto o = std::make_unique<OrdenIndice>();
+    o->campos = campos;
+    o->filas.reserve(size_t(m_numRegistros));
+    for (int i = 0; i < m_numRegistros; ++i)
+        if (!borrado(i)) o->filas.push_back(quint32(i));
+    if (!campos.empty()) {
+        // Numeric keys are decoded once per record before sorting (this also reports a bad value).
+        std::vector<std::vector<double>> numeros(campos.size());
+        for (size_t k = 0; k < campos.size(); ++k)
+            if (CampoNumerico(m_campos[campos[k]].tipo)) {
+                numeros[k].resize(size_t(m_numRegistros));
+                for (quint32 f : o->filas)
+                    numeros[k][f] = numero(int(f), campos[k]);
+            }
+        const auto menor = [&](quint32 a, quint32 b) {
+            for (size_t k = 0; k < campos.size(); ++k) {
+                int c = 0;
+                if (!numeros[k].empty())
+                    c = numeros[k][a] < numeros[k][b] ? -1 : numeros[k][a] > numeros[k][b] ? 1 : 0;
+                else
+                    c = comparaBytes(crudo(int(a), campos[k]), crudo(int(b), campos[k]), false);
+                if (c != 0) return c < 0;
+            }
+            return false;
+        };
+        std::stable_sort(o->filas.begin(), o->filas.end(), menor);
+        if (!numeros[0].empty()) {
+            o->claves.reserve(o->filas.size());
+            for (quint32 f : o->filas)
+                o->claves.push_back(numeros[0][f]);
+        }
+    }
+    hueco = std::move(o);
+    return *hueco;
+}
+
+} // namespace nod

@@ -1,0 +1,25 @@
+#pragma once
+// Filter expressions over a table's rows, as the routines write them:
+//     "GRUPO='2'"   "ENT_MENOR=False"   "ENT_MENOR=False AND COD_PROV = 28"
+// A comparison is FIELD op value, op one of = <> != < > <= >=; a value is a quoted text ('...' or "...",
+// a doubled quote inside stands for itself), a number or True/False (any case). Comparisons join with
+// AND, OR, NOT and parentheses; AND binds tighter than OR. A value compares by the field's type, as keys
+// do (companion/dbfclaves.h): '2' against a numeric field is the number 2.
+
+#include "companion/dbfclaves.h"
+
+#include <memory>
+
+namespace nod {
+
+class FiltroTabla {
+public:
+    /// Compiles `texto` for the fields of `datos`. Throws ErrorTabla naming the table, the text and the
+    /// position of what it cannot parse, or the field the table lacks.
+    static std::unique_ptr<FiltroTabla> Compila(const DatosDbf& datos, const QString& texto);
+    virtual ~FiltroTabla() = default;
+    /// Whether record `fila` passes.
+    virtual bool cumple(const DatosDbf& datos, int fila) const = 0;
+};
+
+} // namespace nod
