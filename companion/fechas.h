@@ -18,4 +18,18 @@ int Mes(TDateTime fecha);
 /// text (three or more digits, letters, empty) comes back unchanged.
 QString CompletaAnno(const QString& anno);
 
+/// Form of a month or weekday name: 0 lower case ("marzo"), 1 capitalised ("Marzo"), 2 upper case
+/// ("MARZO"); any other value gives lower case.
+enum FormaNombre { NombreMinusculas = 0, NombreCapital = 1, NombreMayusculas = 2 };
+
+/// The name of month `mes` (1..12) in Spanish (idioma 0, "septiembre") or Catalan (idioma 1, "març"),
+/// in the form `forma`: MesToStr(3, 1, 0) == "març", MesToStr(9, 0, 1) == "Septiembre".
+/// A month outside 1..12 gives "".
+QString MesToStr(int mes, int idioma, int forma);
+
+/// The weekday name of the date `fecha` in Spanish (idioma 0, "miércoles") or Catalan (idioma 1,
+/// "dimecres"), in the form `forma`: DiaTexto(EncodeDate(2010, 4, 15), 1, 1) == "Dijous".
+/// A serial outside the calendar gives "".
+QString DiaTexto(TDateTime fecha, int idioma, int forma);
+
 } // namespace nod

@@ -16,4 +16,36 @@ QString Float_Cad(double x);
 /// NaN and infinities come back unchanged; a negative count rounds to whole units.
 double RedondeaDec(double x, int decimales);
 
+/// Splits a figure written by `Float_Cad` at its decimal mark (",", or "." when there is no ","):
+/// ParteEnteraDecimal("1234,05", e, d) gives e == "1234" and d == "05"; without a mark `decimal` is empty.
+void ParteEnteraDecimal(const QString& numero, QString& entera, QString& decimal);
+
+/// Whole number of a text: blanks around it are ignored, an optional sign, then decimal digits only.
+/// Anything else, or a value beyond the type's range, gives 0: Cad_Int(" -42 ") == -42, Cad_Int("4a") == 0.
+int Cad_Int(const QString& texto);
+qint64 Cad_Int64(const QString& texto);
+
+/// Real number of a text with "," or "." as decimal mark; when both appear, "." groups thousands:
+/// Cad_Float("1.234,5") == 1234.5, Cad_Float("2.5") == 2.5. Blanks are ignored; anything else gives 0.
+double Cad_Float(const QString& texto);
+
+/// The first (last) `n` characters of `s`; all of it when shorter, "" when n <= 0.
+QString StrLeft(const QString& s, int n);
+QString StrRight(const QString& s, int n);
+
+/// `valor` in figures padded with zeros on the left to `ancho` characters (the sign counts):
+/// StrCeros(7, 3) == "007", StrCeros(-7, 3) == "-07", StrCeros(1234, 2) == "1234".
+QString StrCeros(qint64 valor, int ancho);
+
+/// Upper and lower case, letter by letter, accented and Catalan letters too ("ñ"/"Ñ", "ç"/"Ç", "à"/"À");
+/// the length never changes ("ß" and "µ" stay as they are): UpperCase("camión") == "CAMIÓN".
+QString UpperCase(const QString& s);
+QString lowerCase(const QString& s);
+
+/// True for the decimal digits "0" to "9" only.
+bool EsUnNumero(QChar c);
+
+/// The decimal digits of `s`, in order, everything else dropped: DejaSoloNumeros("B-12.3") == "123".
+QString DejaSoloNumeros(const QString& s);
+
 } // namespace nod

@@ -1,0 +1,191 @@
+#include "text/fechas.h"
+
+#include "companion/fechas.h"
+#include "companion/letrascatalan.h"
+#include "companion/rnumcad.h"
+#include "text/lecturanumeros.h"
+#include "text/letras.h"
+#include "text/limpieza.h"
+#include "text/mayusculas.h"
+#include "text/recorte.h"
+
+namespace nod {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kMascaraVacia = QStringLiteral("  /  /    ");
+
+QString dosCifras(int n) {
+    return QStringLiteral("%1").arg(n, 2, 10, QLatin1Char('0'));
+}
+
+QString cifras(const QDate& d, bool ceros, bool anioLargo) {
+    const QString anio =
+        anioLargo ? QStringLiteral("%1").arg(d.year(), 4, 10, QLatin1Char('0')) : dosCifras(d.year() % 100);
+    if (ceros) return dosCifras(d.day()) + u'/' + dosCifras(d.month()) + u'/' + anio;
+    return QString::number(d.day()) + u'/' + QString::number(d.month()) + u'/' + anio;
+}
+
+// The pieces a worded date is made of, already in the requested case.
+struct Piezas {
+    QString unirMes;  // between day and month
+    QString unirAnio; // between month and year (F4 to F7)
+    QString delAnio;  // between month and year (F8)
+    QString dia, anio, mes, diaSemana;
+};
+
+Piezas piezas(TDateTime fecha, const QDate& d, QChar caso, bool catalan) {
+    // With 'C' the joiners stay lower case; the other case characters convert them.
+    auto union_ = [caso](const QString& j) { return caso == u'C' ? j : MayusMinus(j, caso); };
+    Piezas p;
+    if (catalan) {
+        const int m = d.month();
+        p.unirMes = m == 4 || m == 8 || m == 10 ? QStringLiteral(" d'") : QStringLiteral(" de ");
+        p.unirAnio = QStringLiteral(" de ");
+        p.delAnio = union_(QStringLiteral(" de l'any  "));
+        p.dia = letrasEnCatalan(d.day(), u'M', caso, false);
+        p.anio = letrasEnCatalan(d.year(), u'M', caso, false);
+        p.mes = MayusMinus(MesToStr(m, 1, NombreMinusculas), caso);
+        p.diaSemana = MayusMinus(DiaTexto(fecha, 1, NombreCapital), caso);
+    } else {
+        p.unirMes = p.unirAnio = union_(QStringLiteral(" de "));
+        p.delAnio = union_(QStringLiteral(" del año "));
+        p.dia = LetrasNod(d.day(), u'M', caso, false);
+        p.anio = LetrasNod(d.year(), u'M', caso, false);
+        p.mes = MayusMinus(MesToStr(d.month(), 0, NombreMinusculas), caso);
+        p.diaSemana = MayusMinus(DiaTexto(fecha, 0, NombreMinusculas), caso);
+    }
+    return p;
+}
+
+// Lower case, outer blanks and final full stops gone, accents removed (after `preparar` has run on
+// the lower-cased text).
+template <typename F> QString limpiaFecha(const QString& texto, F preparar) {
+    QString t = TrimLeft(preparar(lowerCase(texto)));
+    qsizetype n = t.size();
+    while (n > 0 && (t[n - 1] <= u' ' || t[n - 1] == u'.'))
+        --n;
+    return QuitaAcentoMayMin(t.left(n));
+}
+
+// "<day><joiner><month> de <year>" with the month looked up in `meses`.
+QString leeFecha(const QString& t, qsizetype finDia, qsizetype largoUnion, const char16_t* const (&meses)[13],
+                 bool catalan) {
+    if (finDia < 0) return kMascaraVacia;
+    const QString resto = t.mid(finDia + largoUnion);
+    const qsizetype finMes = resto.indexOf(u" de ");
+    if (finMes < 0) return kMascaraVacia;
+    const QString mes = resto.left(finMes);
+    int numeroMes = 0;
+    for (int i = 0; i < 13 && numeroMes == 0; ++i)
+        if (mes == QStringView(meses[i]))
+            numeroMes = i < 12 ? i + 1 : 9; // the thirteenth word is another spelling of September
+    if (numeroMes == 0) return kMascaraVacia;
+    const int dia = ConvierteNumeroDeCadenaAEnteroNod(t.left(finDia), catalan);
+    const int anio = ConvierteNumeroDeCadenaAEnteroNod(resto.mid(finMes + 4), catalan);
+    return StrCeros(dia, 2) + u'/' + dosCifras(numeroMes) + u'/' + QString::number(anio);
+}
+
+const char16_t* const kMesesEs[13] = {u"enero",     u"febrero",   u"marzo",    u"abril",      u"mayo",
+                                      u"junio",     u"julio",     u"agosto",   u"septiembre", u"octubre",
+                                      u"noviembre", u"diciembre", u"setiembre"};
+// Catalan has a single spelling; the thirteenth slot never matches.
+const char16_t* const kMesesCa[13] = {u"gener",    u"febrer",   u"març",  u"abril",    u"maig",
+                                      u"juny",     u"juliol",   u"agost", u"setembre", u"octubre",
+                                      u"novembre", u"desembre", u"\n"};
+
+} // namespace
+
+QString FormateaFecha(const QString& formato, TDateTime fecha, bool catalan) {
+    const QDate d = TDateTimeToQDate(fecha);
+    if (!d.isValid()) return {};
+    const QChar caso = formato.size() >= 3 ? UpperCase(formato.mid(2, 1))[0] : QChar();
+    const QString codigo = formato.left(2);
+    if (codigo == u"F2") return cifras(d, true, false);
+    if (codigo == u"F3") return cifras(d, true, true);
+    const int numero = codigo.size() == 2 && codigo[0] == u'F' ? codigo[1].unicode() - u'0' : 0;
+    if (numero < 4 || numero > 8) return cifras(d, false, false); // "F1" and any other code
+    const Piezas p = piezas(fecha, d, caso, catalan);
+    const QString mesYAnio = p.unirMes + p.mes + p.unirAnio;
+    QString r;
+    switch (numero) {
+    case 4:
+        r = p.dia + mesYAnio + p.anio;
+        break;
+    case 5:
+        r = p.diaSemana + u", "_s + p.dia + mesYAnio + p.anio;
+        break;
+    case 6:
+        r = QString::number(d.day()) + mesYAnio + QString::number(d.year());
+        break;
+    case 7:
+        r = p.diaSemana + u", "_s + QString::number(d.day()) + mesYAnio + QString::number(d.year());
+        break;
+    case 8:
+        r = p.dia + p.unirMes + p.mes + p.delAnio + p.anio;
+        break;
+    }
+    return Trim(r);
+}
+
+QString PonerFechaNod(int modo, const QString& lugar, bool catalan, TDateTime fecha) {
+    if (fecha == 0) {
+        const QString enBlanco =
+            QStringLiteral("    ") + u" de "_s + QString(12, u' ') + u" de "_s + QString(6, u' ');
+        switch (modo) {
+        case 3:
+            return lugar + u" a "_s + enBlanco;
+        case 4:
+            return enBlanco;
+        case 5:
+            return QString(12, u' ');
+        default:
+            return {};
+        }
+    }
+    const QDate d = TDateTimeToQDate(fecha);
+    if (!d.isValid()) return {};
+    const QString mes = MesToStr(d.month(), catalan ? 1 : 0, NombreCapital);
+    const QString fechaLarga =
+        QString::number(d.day()) + u" de "_s + mes + u" de "_s + QString::number(d.year());
+    switch (modo) {
+    case 1:
+        return cifras(d, true, false);
+    case 2:
+        return cifras(d, true, true);
+    case 3:
+        return lugar + u" a "_s + fechaLarga;
+    case 4:
+        return fechaLarga;
+    case 5:
+        return mes;
+    default:
+        return {};
+    }
+}
+
+QString TraduceFechaNod(const QString& texto) {
+    const QString t = limpiaFecha(texto, [](QString s) { return s.replace(u"del año"_s, u"de"_s); });
+    return leeFecha(t, t.indexOf(u" de "), 4, kMesesEs, false);
+}
+
+QString TraduceFechaCatalan(const QString& texto) {
+    const QString t = limpiaFecha(texto, [](QString s) {
+        // "de l'any  dos mil" -> "de dos mil": the year's own blanks go with it.
+        qsizetype p;
+        while ((p = s.indexOf(u"l'any")) >= 0) {
+            qsizetype fin = p + 5;
+            while (fin < s.size() && s[fin] == u' ')
+                ++fin;
+            s.remove(p, fin - p);
+        }
+        return s;
+    });
+    const qsizetype de = t.indexOf(u" de "), d = t.indexOf(u" d'");
+    if (d >= 0 && (de < 0 || d < de)) return leeFecha(t, d, 3, kMesesCa, true);
+    return leeFecha(t, de, 4, kMesesCa, true);
+}
+
+} // namespace nod

@@ -1,0 +1,13 @@
+#pragma once
+// Trimming as the suite's routines trim: every character up to the blank (control characters too) goes
+// from the ends, never a letter; Unicode spaces beyond the Western code page are kept.
+
+#include <QString>
+
+namespace nod {
+
+QString Trim(const QString& s);
+QString TrimLeft(const QString& s);
+QString TrimRight(const QString& s);
+
+} // namespace nod
