@@ -1,0 +1,285 @@
+#include "companion/hoy.h"
+#include "companion/tdatetime.h"
+#include "frame/esperalistado.h"
+#include "frame/mensajeactivosfinancieros.h"
+#include "frame/preguntazeb.h"
+#include "frame/qtmensajes.h"
+#include "frame/relojnod.h"
+#include "frame/shell.h"
+#include "frame/versionnod.h"
+#include "tests/support/modal.h"
+#include "tests/support/oficina_prueba.h"
+
+#include <QDateEdit>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimeEdit>
+#include <gtest/gtest.h>
+
+using namespace nod;
+
+TEST(ActivosFinancieros, ButtonsByType) {
+    const struct {
+        int tipo;
+        bool si, no, aceptar;
+    } casos[] = {
+        {0, false, false, true}, {1, true, true, false}, {2, true, true, true}, {-1, true, true, true}};
+    for (const auto& k : casos) {
+        TFMensajeActivosFinancieros f;
+        f.CambiaTipoMensaje(k.tipo);
+        EXPECT_EQ(f.findChild<QPushButton*>(QStringLiteral("BBSi"))->isVisibleTo(&f), k.si) << k.tipo;
+        EXPECT_EQ(f.findChild<QPushButton*>(QStringLiteral("BBNo"))->isVisibleTo(&f), k.no) << k.tipo;
+        EXPECT_EQ(f.findChild<QPushButton*>(QStringLiteral("BBAceptar"))->isVisibleTo(&f), k.aceptar)
+            << k.tipo;
+    }
+}
+
+TEST(ActivosFinancieros, ModalResultsAndEscapeAnswersYes) {
+    const struct {
+        int tipo;
+        const char* boton; // nullptr: Escape
+        int resultado;
+    } casos[] = {{1, nullptr, 6}, {0, nullptr, 6}, {1, "BBSi", 6}, {1, "BBNo", 7}, {0, "BBAceptar", 1}};
+    for (const auto& k : casos) {
+        QString titulo;
+        prueba::AlAbrirseModal([&](QWidget* w) {
+            titulo = w->windowTitle();
+            if (k.boton)
+                QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(k.boton)), Qt::LeftButton);
+            else
+                QTest::keyClick(w, Qt::Key_Escape);
+        });
+        EXPECT_EQ(MuestraActivosFinancieros(k.tipo), k.resultado) << k.tipo << (k.boton ? k.boton : "Escape");
+        EXPECT_EQ(titulo, QStringLiteral("Información sobre los Activos Financieros"));
+        EXPECT_EQ(prueba::VentanasVisibles(), 0);
+    }
+}
+
+TEST(ActivosFinancieros, EnterMovesTheFocusInsteadOfAnswering) {
+    TFMensajeActivosFinancieros f;
+    f.CambiaTipoMensaje(1);
+    f.show();
+    QApplication::setActiveWindow(&f);
+    auto* si = f.findChild<QPushButton*>(QStringLiteral("BBSi"));
+    si->setFocus();
+    QTest::keyClick(si, Qt::Key_Return);
+    EXPECT_TRUE(f.isVisible());
+    EXPECT_EQ(f.focusWidget(), f.findChild<QPushButton*>(QStringLiteral("BBNo")));
+    EXPECT_TRUE(TFMensajeActivosFinancieros::TextoAyuda().contains(QStringLiteral("ZXX")));
+}
+
+TEST(EsperaListado, ProgressWindowLifecycle) {
+    TFEsperaListado* f = MuestraProgreso(QStringLiteral("Listando clientes"));
+    ASSERT_NE(f, nullptr);
+    EXPECT_FALSE(f->isVisible()) << "showing it is the caller's step";
+    EXPECT_EQ(f->windowTitle(), QStringLiteral("Listando clientes"));
+    auto* barra = f->findChild<QProgressBar*>(QStringLiteral("PbListado"));
+    ASSERT_NE(barra, nullptr);
+    EXPECT_EQ(barra->minimum(), 0);
+    EXPECT_EQ(barra->maximum(), 100);
+    f->show();
+    for (auto [dada, queda] : {std::pair{40, 40}, {100, 100}, {150, 100}, {-5, 0}}) {
+        CambiaProgreso(QStringLiteral("Paso %1").arg(dada), dada, f);
+        EXPECT_EQ(barra->value(), queda) << dada;
+        EXPECT_EQ(f->windowTitle(), QStringLiteral("Paso %1").arg(dada));
+    }
+    f->DibujaEstado(7);
+    EXPECT_EQ(f->posicion(), 7);
+    QPointer<TFEsperaListado> vigilada(f);
+    CierraProgreso(f);
+    EXPECT_TRUE(vigilada.isNull());
+    CambiaProgreso(QStringLiteral("x"), 1, nullptr); // a null form is ignored
+    CierraProgreso(nullptr);
+    EXPECT_EQ(TFEsperaListado().windowTitle(), QStringLiteral("Generando el Listado."));
+}
+
+namespace {
+// Records what the clock would have been set to, and refuses when asked to.
+struct RelojDePrueba {
+    QList<QDateTime> pedidas;
+    bool rechaza = false;
+    AjustadorReloj anterior;
+    RelojDePrueba() {
+        anterior = FijaAjustadorReloj([this](const QDateTime& t, QString& motivo) {
+            pedidas.append(t);
+            if (rechaza) motivo = QStringLiteral("Operación no permitida");
+            return !rechaza;
+        });
+    }
+    ~RelojDePrueba() { FijaAjustadorReloj(anterior); }
+};
+} // namespace
+
+TEST(RelojNod, AcceptSetsTheClockToTheChosenDateAndTime) {
+    FijaAhora(QDateTimeToTDateTime(QDateTime(QDate(2024, 5, 31), QTime(9, 15, 30))));
+    RelojDePrueba reloj;
+    ServicioMensajesGuionado mensajes;
+    ServicioMensajesInstalado instalado(mensajes);
+    for (bool rechaza : {false, true}) {
+        reloj.rechaza = rechaza;
+        reloj.pedidas.clear();
+        mensajes.limpia();
+        TFRelojNod f;
+        f.show();
+        EXPECT_EQ(f.findChild<QDateEdit*>(QStringLiteral("DTPFecha"))->date(), QDate(2024, 5, 31));
+        EXPECT_EQ(f.findChild<QTimeEdit*>(QStringLiteral("DTPHora"))->time(), QTime(9, 15, 30));
+        f.findChild<QDateEdit*>(QStringLiteral("DTPFecha"))->setDate(QDate(2025, 1, 2));
+        f.findChild<QTimeEdit*>(QStringLiteral("DTPHora"))->setTime(QTime(23, 59, 58));
+        QTest::mouseClick(f.findChild<QPushButton*>(QStringLiteral("BBAceptar")), Qt::LeftButton);
+        ASSERT_EQ(reloj.pedidas.size(), 1);
+        EXPECT_EQ(reloj.pedidas[0], QDateTime(QDate(2025, 1, 2), QTime(23, 59, 58)));
+        EXPECT_FALSE(f.isVisible());
+        EXPECT_EQ(f.result(), 1);
+        if (rechaza) {
+            ASSERT_EQ(mensajes.mostrados().size(), 1);
+            EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
+            EXPECT_TRUE(mensajes.mostrados()[0].text.startsWith(
+                QStringLiteral("No se ha podido cambiar la fecha y la hora del sistema.")));
+            EXPECT_TRUE(mensajes.mostrados()[0].text.contains(QStringLiteral("Operación no permitida")));
+        } else {
+            EXPECT_TRUE(mensajes.mostrados().isEmpty());
+        }
+    }
+    FijaAhora(std::nullopt);
+}
+
+TEST(RelojNod, CancelLeavesTheClockAlone) {
+    RelojDePrueba reloj;
+    TFRelojNod f;
+    f.show();
+    QTest::mouseClick(f.findChild<QPushButton*>(QStringLiteral("BBCancelar")), Qt::LeftButton);
+    EXPECT_TRUE(reloj.pedidas.isEmpty());
+    EXPECT_EQ(f.result(), QDialog::Rejected);
+}
+
+TEST(VersionNod, GridListsTheTablesOfTheSuiteAlias) {
+    prueba::OficinaPrueba o(QStringLiteral("[GENERAL]\nAliasNodrim=DB\n[ALIAS]\nDB=DATOS\n"));
+    for (const char* f : {"DATOS/CLIENTES.DBF", "DATOS/provin.dbf", "DATOS/CLIENTES.DBT", "DATOS/nota.txt"})
+        o.escribe(QLatin1String(f), QStringLiteral("x"));
+    EXPECT_EQ(TablasDelAlias(QStringLiteral("DB")),
+              (QStringList{QStringLiteral("CLIENTES.DBF"), QStringLiteral("provin.dbf")}));
+
+    TFVersionNod v;
+    auto* grid = v.findChild<QTableWidget*>(QStringLiteral("SGTablas"));
+    ASSERT_NE(grid, nullptr);
+    ASSERT_EQ(grid->rowCount(), 2);
+    EXPECT_EQ(grid->item(0, 0)->text(), QStringLiteral("CLIENTES.DBF"));
+    EXPECT_EQ(grid->item(1, 0)->text(), QStringLiteral("provin.dbf"));
+    EXPECT_EQ(v.findChild<QLabel*>(QStringLiteral("LFecha"))->text(), QStringLiteral("21/04/22"));
+    EXPECT_EQ(v.findChild<QLabel*>(QStringLiteral("LAviso")), nullptr);
+}
+
+TEST(VersionNod, AliasWithoutFolderSaysSo) {
+    prueba::OficinaPrueba o(QStringLiteral("[GENERAL]\nAliasNodrim=NADA\n"));
+    EXPECT_TRUE(TablasDelAlias(QStringLiteral("NADA")).isEmpty());
+    TFVersionNod v;
+    EXPECT_EQ(v.findChild<QTableWidget*>(QStringLiteral("SGTablas"))->rowCount(), 0);
+    auto* aviso = v.findChild<QLabel*>(QStringLiteral("LAviso"));
+    ASSERT_NE(aviso, nullptr);
+    EXPECT_TRUE(aviso->text().contains(QStringLiteral("NADA")));
+}
+
+TEST(PreguntaZEB, LinksReactToTheMouseAndOpenThroughTheShell) {
+    prueba::OficinaPrueba o(
+        QStringLiteral("[FABRICANTE]\nWeb=https://fabricante.example\nCorreo=ayuda@fabricante.example\n"));
+    QList<QUrl> abiertas;
+    AbridorShell anterior = FijaAbridorShell([&](const QUrl& u) {
+        abiertas.append(u);
+        return true;
+    });
+    TFPreguntaZEB f(nullptr, QStringLiteral("¿Llamar al fabricante?"));
+    EXPECT_EQ(f.findChild<QLabel*>(QStringLiteral("LMensaje"))->text(),
+              QStringLiteral("¿Llamar al fabricante?"));
+    const struct {
+        const char* nombre;
+        QColor encima, reposo;
+        const char* url;
+    } casos[] = {{"LMDZeb", QColor(0x01, 0xC1, 0xFA), QColor(0, 0, 0xFF), "https://fabricante.example"},
+                 {"LMDCorreo", QColor(0xB9, 0, 0), QColor(0x80, 0, 0), "mailto:ayuda@fabricante.example"}};
+    for (const auto& k : casos) {
+        auto* l = f.findChild<QLabel*>(QLatin1String(k.nombre));
+        ASSERT_NE(l, nullptr);
+        const int puntos = l->font().pointSize();
+        EXPECT_EQ(l->palette().color(QPalette::WindowText), k.reposo);
+        f.EntraEnlace(l);
+        EXPECT_EQ(l->font().pointSize(), puntos + 1);
+        EXPECT_EQ(l->palette().color(QPalette::WindowText), k.encima);
+        EXPECT_EQ(l->cursor().shape(), Qt::PointingHandCursor);
+        f.SaleEnlace(l);
+        EXPECT_EQ(l->font().pointSize(), puntos);
+        EXPECT_EQ(l->palette().color(QPalette::WindowText), k.reposo);
+        QTest::mouseClick(l, Qt::LeftButton);
+        ASSERT_FALSE(abiertas.isEmpty());
+        EXPECT_EQ(abiertas.last(), QUrl(QLatin1String(k.url)));
+    }
+    f.show();
+    QTest::mouseClick(f.findChild<QLabel*>(QStringLiteral("Imagen")), Qt::LeftButton);
+    EXPECT_FALSE(f.isVisible()) << "clicking the image closes the box";
+    FijaAbridorShell(anterior);
+}
+
+TEST(ServicioQt, QuestionsAnswerYesOrNoAndEscapeIsNo) {
+    ServicioMensajesQt qt;
+    ServicioMensajesInstalado instalado(qt);
+    const struct {
+        const char* accion; // "BSi", "BNo" or nullptr for Escape
+        bool focoEnSi;
+        int resultado;
+        const char* enfocado;
+    } casos[] = {{"BSi", true, 1, "BSi"},
+                 {"BNo", true, 2, "BSi"},
+                 {nullptr, true, 2, "BSi"},
+                 {nullptr, false, 2, "BNo"}};
+    for (const auto& k : casos) {
+        QString enfocado, titulo;
+        prueba::AlAbrirseModal([&](QWidget* w) {
+            enfocado = w->focusWidget() ? w->focusWidget()->objectName() : QString();
+            titulo = w->windowTitle();
+            if (k.accion)
+                QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(k.accion)), Qt::LeftButton);
+            else
+                QTest::keyClick(w, Qt::Key_Escape);
+        });
+        EXPECT_EQ(qt.pregunta(QStringLiteral("Mensaje_SiNo"), QStringLiteral("¿Seguro?"),
+                              QStringLiteral("Pregunta"), k.focoEnSi),
+                  k.resultado);
+        EXPECT_EQ(enfocado, QLatin1String(k.enfocado));
+        EXPECT_EQ(titulo, QStringLiteral("Pregunta"));
+    }
+}
+
+TEST(ServicioQt, WaitWindowIsShownChangedAndClosed) {
+    ServicioMensajesQt qt;
+    ServicioMensajesInstalado instalado(qt);
+    MuestraMensaje(QStringLiteral("Consultando el catastro..."));
+    ASSERT_NE(qt.ventanaEspera(), nullptr);
+    EXPECT_TRUE(qt.ventanaEspera()->isVisible());
+    CambiaMensaje(QStringLiteral("Leyendo la respuesta..."));
+    EXPECT_EQ(qt.ventanaEspera()->findChild<QLabel*>(QStringLiteral("LEspera"))->text(),
+              QStringLiteral("Leyendo la respuesta..."));
+    CierraMensaje();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(qt.ventanaEspera(), nullptr);
+    CierraMensaje(); // closing twice is harmless
+}
+
+TEST(ServicioQt, ErrorBoxHasOneAcceptButton) {
+    ServicioMensajesQt qt;
+    ServicioMensajesInstalado instalado(qt);
+    QStringList botones;
+    QString texto;
+    prueba::AlAbrirseModal([&](QWidget* w) {
+        for (auto* b : w->findChildren<QPushButton*>())
+            botones << b->text();
+        texto = static_cast<QMessageBox*>(w)->text();
+        QTest::keyClick(w, Qt::Key_Escape);
+    });
+    Mensaje_Error(QStringLiteral("No existe la carpeta"), QStringLiteral("Error"));
+    EXPECT_EQ(botones, QStringList{QStringLiteral("&Aceptar")});
+    EXPECT_EQ(texto, QStringLiteral("No existe la carpeta"));
+    EXPECT_EQ(prueba::VentanasVisibles(), 0);
+}

@@ -1,0 +1,218 @@
+#include "companion/foco.h"
+#include "frame/mensajenod.h"
+#include "frame/mensajeperson.h"
+#include "frame/qtmensajes.h"
+#include "tests/support/modal.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+#include <memory>
+
+using namespace nod;
+
+namespace {
+
+struct Caja {
+    std::unique_ptr<TFMensajeNod> forma = std::make_unique<TFMensajeNod>();
+    QLabel* l1 = forma->findChild<QLabel*>(QStringLiteral("lmensaje"));
+    QLabel* l2 = forma->findChild<QLabel*>(QStringLiteral("LMENSAJE2"));
+    QPushButton* b1 = forma->findChild<QPushButton*>(QStringLiteral("BACEPTAR"));
+    QPushButton* b2 = forma->findChild<QPushButton*>(QStringLiteral("BCANCELAR"));
+};
+
+} // namespace
+
+TEST(MensajeNod, DesignValues) {
+    Caja c;
+    ASSERT_TRUE(c.l1 && c.l2 && c.b1 && c.b2);
+    EXPECT_EQ(c.forma->windowTitle(), QStringLiteral("Mensaje"));
+    EXPECT_EQ(c.forma->size(), QSize(590, 149));
+    EXPECT_EQ(c.forma->palette().color(QPalette::Window), QColor(Qt::red));
+    EXPECT_EQ(c.l1->geometry(), QRect(59, 5, 526, 61));
+    EXPECT_EQ(c.l2->geometry(), QRect(45, 72, 540, 19));
+    EXPECT_EQ(c.l1->font().pixelSize(), 15);
+    EXPECT_EQ(c.l2->font().pixelSize(), 16);
+    EXPECT_TRUE(c.l1->wordWrap());
+    EXPECT_EQ(c.b1->text(), QStringLiteral("&Aceptar"));
+    EXPECT_EQ(c.b2->text(), QStringLiteral("&Salir"));
+    EXPECT_TRUE(c.b1->isDefault());
+    EXPECT_EQ(c.l1->palette().color(QPalette::WindowText), QColor(Qt::white));
+}
+
+TEST(MensajeNod, FormShowLaysTheBoxOutByWhichLinesArePresent) {
+    const struct {
+        const char *m1, *m2;
+        int alto, topLinea2, topBotones;
+        bool ve1, ve2;
+    } casos[] = {
+        {"arriba", "abajo", 150, 56, 89, true, true},
+        {"", "abajo", 123, 21, 62, false, true},
+        {"arriba", "", 123, 56, 62, true, false},
+        {"", "", 123, 21, 62, false, false}, // no text at all: the short box with no line
+    };
+    for (const auto& k : casos) {
+        Caja c;
+        c.forma->CambiaTipoMensaje(3, {}, {});
+        c.forma->CambiaMensaje1(QString::fromUtf8(k.m1));
+        c.forma->CambiaMensaje2(QString::fromUtf8(k.m2));
+        c.forma->show();
+        EXPECT_EQ(c.forma->height(), k.alto) << k.m1 << "|" << k.m2;
+        EXPECT_EQ(c.l2->y(), k.topLinea2) << k.m1 << "|" << k.m2;
+        EXPECT_EQ(c.b1->y(), k.topBotones) << k.m1 << "|" << k.m2;
+        EXPECT_EQ(c.b2->y(), k.topBotones) << k.m1 << "|" << k.m2;
+        EXPECT_EQ(c.l1->isVisible(), k.ve1);
+        EXPECT_EQ(c.l2->isVisible(), k.ve2);
+        EXPECT_LE(c.b1->geometry().bottom(), c.forma->height()) << "buttons stay inside the box";
+    }
+}
+
+TEST(MensajeNod, FormShowRestoresTheFullLayoutWhenShownAgainWithBothLines) {
+    Caja c;
+    c.forma->CambiaMensaje2(QStringLiteral("abajo"));
+    c.forma->show();
+    EXPECT_EQ(c.forma->height(), 123);
+    c.forma->hide();
+    c.forma->CambiaMensaje1(QStringLiteral("arriba"));
+    c.forma->show();
+    EXPECT_EQ(c.forma->height(), 150);
+    EXPECT_EQ(c.l2->y(), 56);
+    EXPECT_TRUE(c.l1->isVisible());
+}
+
+TEST(MensajeNod, SecondLineLongerThanFortyCharactersIsDrawnAtTenPoints) {
+    for (auto [largo, diezPuntos] : {std::pair{40, false}, {41, true}, {0, false}, {80, true}}) {
+        Caja c;
+        c.forma->CambiaMensaje2(QString(largo, QLatin1Char('x')));
+        EXPECT_EQ(c.l2->font().pointSize() == 10, diezPuntos) << largo;
+        if (!diezPuntos) EXPECT_EQ(c.l2->font().pixelSize(), 16) << largo;
+    }
+}
+
+TEST(MensajeNod, ButtonSetsForEveryType) {
+    const struct {
+        int tipo;
+        const char *c1, *c2;
+        bool ve2;
+        int izquierda1;
+        int foco; // 1 first, 2 second, 0 the box's default
+    } casos[] = {
+        {0, "&Aceptar", "&Cancelar", false, 491, 0},
+        {1, "&Si", "&No", true, 374, 1},
+        {2, "&Si", "&No", true, 374, 2},
+        {3, "&Aceptar", "&Cancelar", true, 374, 1},
+        {4, "&Aceptar", "&Cancelar", true, 374, 2},
+        {5, "Guardar", "Descartar", true, 374, 1},
+        {6, "Guardar", "Descartar", true, 374, 2},
+        {9, "&Aceptar", "&Cancelar", true, 374, 0},
+    };
+    for (const auto& k : casos) {
+        Caja c;
+        const int puntos = c.b1->font().pointSize();
+        c.forma->CambiaTipoMensaje(k.tipo, QStringLiteral("Guardar"), QStringLiteral("Descartar"));
+        c.forma->CambiaMensaje1(QStringLiteral("texto"));
+        c.forma->show();
+        QApplication::setActiveWindow(c.forma.get());
+        EXPECT_EQ(c.b1->text(), QLatin1String(k.c1)) << k.tipo;
+        EXPECT_EQ(c.b2->text(), QLatin1String(k.c2)) << k.tipo;
+        EXPECT_EQ(c.b2->isVisible(), k.ve2) << k.tipo;
+        EXPECT_EQ(c.b1->x(), k.izquierda1) << k.tipo;
+        EXPECT_EQ(c.b2->x(), 491) << k.tipo;
+        const bool personalizado = k.tipo == 5 || k.tipo == 6;
+        EXPECT_EQ(c.b1->font().pointSize(), puntos + (personalizado ? 2 : 0)) << k.tipo;
+        EXPECT_EQ(c.b1->icon().isNull(), personalizado) << k.tipo;
+        if (k.foco == 1)
+            EXPECT_EQ(c.forma->focusWidget(), c.b1) << k.tipo;
+        else if (k.foco == 2)
+            EXPECT_EQ(c.forma->focusWidget(), c.b2) << k.tipo;
+        EXPECT_EQ(c.forma->tipoMensaje(), k.tipo);
+    }
+}
+
+TEST(MensajeNod, IconFollowsTheStopValue) {
+    for (auto [icono, stop] : {std::pair{0, true}, {1, false}, {7, false}, {-1, false}}) {
+        Caja c;
+        c.forma->CambiaIcono(icono);
+        EXPECT_EQ(c.forma->findChild<QLabel*>(QStringLiteral("IconoStop"))->isVisibleTo(c.forma.get()), stop);
+        EXPECT_EQ(c.forma->findChild<QLabel*>(QStringLiteral("IconoPregunta"))->isVisibleTo(c.forma.get()),
+                  !stop);
+    }
+}
+
+TEST(MensajeNod, FocusMarkFollowsTheButtons) {
+    Caja c;
+    c.forma->CambiaTipoMensaje(1, {}, {});
+    c.forma->CambiaMensaje1(QStringLiteral("x"));
+    c.forma->show();
+    QApplication::setActiveWindow(c.forma.get());
+    EXPECT_TRUE(TieneFocoMarcado(c.b1));
+    c.b2->setFocus();
+    EXPECT_FALSE(TieneFocoMarcado(c.b1));
+    EXPECT_TRUE(TieneFocoMarcado(c.b2));
+}
+
+namespace {
+PeticionMensajePerson peticion(int tipo) {
+    PeticionMensajePerson p;
+    p.tipo = tipo;
+    p.titulo = QStringLiteral("Aviso");
+    p.mensaje1 = QStringLiteral("Se ha guardado la escritura");
+    p.fondo = 0x8C0000;
+    p.letras = 0xFFFFFF;
+    return p;
+}
+} // namespace
+
+TEST(MensajeNod, ModalResultsOfTheRealBox) {
+    // Escape answers 2 for every type, even when the second button is hidden (type 0).
+    for (int tipo : {0, 1, 2, 3, 4, 5, 6}) {
+        QString titulo;
+        QColor fondo;
+        prueba::AlAbrirseModal([&](QWidget* w) {
+            titulo = w->windowTitle();
+            fondo = w->palette().color(QPalette::Window);
+            QTest::keyClick(w, Qt::Key_Escape);
+        });
+        EXPECT_EQ(MuestraMensajePerson(peticion(tipo)), 2) << tipo;
+        EXPECT_EQ(titulo, QStringLiteral("Aviso"));
+        EXPECT_EQ(fondo, QColor(0, 0, 0x8C));
+        EXPECT_EQ(prueba::VentanasVisibles(), 0);
+        EXPECT_TRUE(FMensajeNod.isNull()) << "the box is freed after the call";
+    }
+    const struct {
+        int tipo;
+        const char* boton;
+        int resultado;
+    } clics[] = {{0, "BACEPTAR", 1}, {1, "BACEPTAR", 1}, {1, "BCANCELAR", 2}, {6, "BCANCELAR", 2}};
+    for (const auto& k : clics) {
+        prueba::AlAbrirseModal([&](QWidget* w) {
+            QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(k.boton)), Qt::LeftButton);
+        });
+        EXPECT_EQ(MuestraMensajePerson(peticion(k.tipo)), k.resultado) << k.tipo << k.boton;
+        EXPECT_EQ(prueba::VentanasVisibles(), 0);
+    }
+}
+
+TEST(MensajeNod, EnterPressesTheFocusedButton) {
+    for (auto [tipo, esperado] : {std::pair{1, 1}, {2, 2}}) {
+        prueba::AlAbrirseModal([](QWidget* w) { QTest::keyClick(w->focusWidget(), Qt::Key_Return); });
+        EXPECT_EQ(MuestraMensajePerson(peticion(tipo)), esperado) << tipo;
+    }
+}
+
+TEST(MensajeNod, MensajePersonThroughTheQtService) {
+    ServicioMensajesQt qt;
+    ServicioMensajesInstalado instalado(qt);
+    QString texto1, texto2;
+    prueba::AlAbrirseModal([&](QWidget* w) {
+        texto1 = w->findChild<QLabel*>(QStringLiteral("lmensaje"))->text();
+        texto2 = w->findChild<QLabel*>(QStringLiteral("LMENSAJE2"))->text();
+        QTest::mouseClick(w->findChild<QPushButton*>(QStringLiteral("BACEPTAR")), Qt::LeftButton);
+    });
+    EXPECT_EQ(Mensaje_Person(1, QStringLiteral("abajo"), 1, QStringLiteral("T"), QStringLiteral("arriba"), {},
+                             {}, 2, 0, 0xFFFFFF, 0),
+              1);
+    EXPECT_EQ(texto1, QStringLiteral("arriba"));
+    EXPECT_EQ(texto2, QStringLiteral("abajo"));
+}

@@ -1,0 +1,141 @@
+#include "companion/foco.h"
+#include "frame/mensajenod.h"
+#include "frame/ventanas.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPointer>
+#include <QScreen>
+#include <gtest/gtest.h>
+
+using namespace nod;
+
+TEST(Ventanas, CreaObjetoFindsByNameAmongTheApplicationsObjectsOnly) {
+    auto* suelto = new QObject(qApp);
+    suelto->setObjectName(QStringLiteral("DMEMAIL"));
+    QWidget propietario;
+    auto crea = [](QObject* owner) -> QObject* { return new QObject(owner); };
+
+    bool existia = false;
+    QObject* o = CreaObjeto(crea, QStringLiteral("DMEmail"), &propietario, existia);
+    EXPECT_TRUE(existia);
+    EXPECT_EQ(o, suelto);
+    BorraObjeto(o, existia); // found, not created: it survives
+    EXPECT_EQ(qApp->findChild<QObject*>(QStringLiteral("DMEMAIL"), Qt::FindDirectChildrenOnly), suelto);
+
+    // A child of the owner with that name is not looked at: the search is among the application's.
+    auto* hijo = new QObject(&propietario);
+    hijo->setObjectName(QStringLiteral("OTRO"));
+    o = CreaObjeto(crea, QStringLiteral("otro"), &propietario, existia);
+    EXPECT_FALSE(existia);
+    ASSERT_NE(o, hijo);
+    EXPECT_EQ(o->parent(), &propietario);
+    QPointer<QObject> creado(o);
+    BorraObjeto(o, existia);
+    EXPECT_TRUE(creado.isNull());
+
+    BorraObjeto(nullptr, false); // nothing to free
+    delete suelto;
+}
+
+TEST(Ventanas, CreaObjetoFindsTopLevelForms) {
+    TFMensajeNod forma;
+    bool existia = false;
+    EXPECT_EQ(CreaObjeto({}, QStringLiteral("FMENSAJENOD"), nullptr, existia), &forma);
+    EXPECT_TRUE(existia);
+}
+
+TEST(Ventanas, MostrarNoModalReusesTheOwnersFormByClassName) {
+    QWidget owner;
+    QWidget* primera = MostrarNoModal<TFMensajeNod>(&owner);
+    ASSERT_NE(primera, nullptr);
+    EXPECT_EQ(primera->objectName(), QStringLiteral("FMensajeNod"));
+    EXPECT_EQ(primera->parentWidget(), &owner);
+    EXPECT_FALSE(primera->isVisible()) << "showing it is the caller's step";
+    EXPECT_EQ(MostrarNoModal<TFMensajeNod>(&owner), primera);
+    QWidget otro;
+    EXPECT_NE(MostrarNoModal<TFMensajeNod>(&otro), primera);
+}
+
+TEST(Ventanas, CentroDeRoundsHalvesToEven) {
+    const struct {
+        QSize tamano;
+        QPoint centro;
+    } casos[] = {{{1920, 1080}, {960, 540}},
+                 {{1367, 769}, {684, 384}},
+                 {{1365, 767}, {682, 384}},
+                 {{1, 3}, {0, 2}},
+                 {{0, 0}, {0, 0}}};
+    for (const auto& c : casos)
+        EXPECT_EQ(CentroDe(c.tamano), c.centro) << c.tamano.width() << "x" << c.tamano.height();
+    EXPECT_EQ(CentroDeLaPantalla(), CentroDe(QGuiApplication::primaryScreen()->virtualSize()));
+}
+
+TEST(Ventanas, PosicionDelCursorLeavesThePointAloneOnFailure) {
+    QPoint p(7, 7);
+    auto anterior = FijaLectorCursor({});
+    EXPECT_FALSE(PosicionDelCursor(p));
+    FijaLectorCursor([] { return std::optional<QPoint>(); });
+    EXPECT_FALSE(PosicionDelCursor(p));
+    EXPECT_EQ(p, QPoint(7, 7));
+    FijaLectorCursor([] { return std::optional<QPoint>(QPoint(120, 45)); });
+    EXPECT_TRUE(PosicionDelCursor(p));
+    EXPECT_EQ(p, QPoint(120, 45));
+    FijaLectorCursor(anterior);
+}
+
+TEST(Ventanas, OcultaYMuestraNodrim) {
+    QWidget a, b, oculta;
+    a.show();
+    b.show();
+    ListaVentanas lista;
+    OcultaNodrim(lista);
+    ASSERT_TRUE(lista);
+    EXPECT_EQ(lista->size(), 2);
+    EXPECT_FALSE(a.isVisible());
+    EXPECT_FALSE(b.isVisible());
+    EXPECT_FALSE(lista->contains(&oculta));
+    {
+        QWidget efimera; // a form freed while hidden is skipped when showing again
+        efimera.show();
+        ListaVentanas otra;
+        OcultaNodrim(otra);
+        EXPECT_EQ(otra->size(), 1);
+        lista->append(&efimera);
+    }
+    MuestraNodrim(lista);
+    EXPECT_FALSE(lista);
+    EXPECT_TRUE(a.isVisible());
+    EXPECT_TRUE(b.isVisible());
+    EXPECT_FALSE(oculta.isVisible());
+    MuestraNodrim(lista); // an empty list is ignored
+}
+
+TEST(Ventanas, TomaFocoLeavesTheWindowRestoredAndActive) {
+    QWidget principal;
+    principal.show();
+    principal.showMinimized();
+    FijaVentanaPrincipal(&principal);
+    TomaFocoNodrim();
+    EXPECT_FALSE(principal.isMinimized());
+    EXPECT_TRUE(principal.isVisible());
+    EXPECT_EQ(VentanaPrincipal(), &principal);
+    FijaVentanaPrincipal(nullptr);
+    TomaFoco(WId(0)); // not a window of the program: ignored
+}
+
+TEST(Foco, MarkIsPutAndTakenOff) {
+    QLineEdit e;
+    const QPalette original = e.palette();
+    TomaFocoControl(&e);
+    TomaFocoControl(&e); // twice keeps the original to restore
+    EXPECT_TRUE(TieneFocoMarcado(&e));
+    EXPECT_EQ(e.palette().color(QPalette::Base), ColorQt(kColorFoco));
+    DejaFocoControl(&e);
+    EXPECT_FALSE(TieneFocoMarcado(&e));
+    EXPECT_EQ(e.palette().color(QPalette::Base), original.color(QPalette::Base));
+    DejaFocoControl(&e);
+    TomaFocoControl(nullptr);
+    EXPECT_EQ(ColorQt(0x0000FF), QColor(255, 0, 0));
+    EXPECT_EQ(ColorQt(0xFAC101), QColor(0x01, 0xC1, 0xFA));
+}
