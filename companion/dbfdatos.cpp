@@ -225,7 +225,7 @@ void DatosDbf::analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero) {
         m_bloqueMemo = le16(m_memo.constData() + 20);
 }
 
-std::shared_ptr<const DatosDbf> DatosDbf::Carga(const QString& ruta) {
+std::shared_ptr<const DatosDbf> DatosDbf::Carga(const QString& ruta, const BloqueoFichero* bloqueoPropio) {
     struct stat st {};
     const QByteArray nativa = ruta.toLocal8Bit();
     if (::stat(nativa.constData(), &st) != 0)
@@ -237,10 +237,12 @@ std::shared_ptr<const DatosDbf> DatosDbf::Carga(const QString& ruta) {
         if (it != c.entradas.cend() && it->identidad == identidadDe(st)) return it->datos;
     }
     // Read under a shared lock, so that no write is half done while the bytes are taken.
-    const BloqueoFichero bloqueo = BloqueoFichero::Toma(ruta, false, EsperaBloqueoConfigurada());
-    if (::fstat(bloqueo.descriptor(), &st) != 0)
-        throw ErrorTabla(QStringLiteral("No se puede leer la tabla %1").arg(ruta));
-    QByteArray bytes = leeTodo(bloqueo.descriptor(), st.st_size, ruta);
+    BloqueoFichero bloqueo;
+    if (!bloqueoPropio || !bloqueoPropio->activo())
+        bloqueo = BloqueoFichero::Toma(ruta, false, EsperaBloqueoConfigurada());
+    const int fd = bloqueo.activo() ? bloqueo.descriptor() : bloqueoPropio->descriptor();
+    if (::fstat(fd, &st) != 0) throw ErrorTabla(QStringLiteral("No se puede leer la tabla %1").arg(ruta));
+    QByteArray bytes = leeTodo(fd, st.st_size, ruta);
     const QString rutaMemo = compañero(ruta, ".dbt");
     const QString rutaCpg = compañero(ruta, ".cpg");
     auto datos = DesdeBytes(ruta, std::move(bytes), rutaMemo.isEmpty() ? QByteArray() : leeOpcional(rutaMemo),

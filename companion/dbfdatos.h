@@ -8,6 +8,7 @@
 // field whose text does not parse raises ErrorTabla naming the file, the record and the field.
 
 #include "companion/codepage.h"
+#include "companion/dbfbloqueo.h"
 #include "companion/tablas.h"
 
 #include <QByteArray>
@@ -40,7 +41,10 @@ struct OrdenIndice {
 class DatosDbf {
 public:
     /// The image of the file at `ruta`, from the cache when the file is unchanged. Throws ErrorTabla.
-    static std::shared_ptr<const DatosDbf> Carga(const QString& ruta);
+    /// `bloqueoPropio`: a write lock this handle already holds on the file; the bytes are read through it
+    /// (another lock of this process on the same file would wait for it).
+    static std::shared_ptr<const DatosDbf> Carga(const QString& ruta,
+                                                 const BloqueoFichero* bloqueoPropio = nullptr);
     /// Parses an image from the file's bytes (exposed for tests of damaged files). Throws ErrorTabla.
     static std::shared_ptr<DatosDbf> DesdeBytes(const QString& ruta, QByteArray bytes, QByteArray memo = {},
                                                 const QByteArray& cpg = {});

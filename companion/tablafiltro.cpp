@@ -205,6 +205,8 @@ private:
         case Pieza::Tipo::Numero: {
             bool ok = false;
             valor = actual().texto.toDouble(&ok);
+            if (!CampoNumerico(m_datos.campos()[campo].tipo))
+                valor = actual().texto; // COD_PROV = 09 against a character field compares "09"
             if (!ok) falla(QStringLiteral("\"%1\" no es un número").arg(actual().texto));
             break;
         }

@@ -182,7 +182,7 @@ struct TTabla::Impl {
 
     // After a write of this process: the new image, the same tag, range and filter, on record `registro`.
     void recarga(int registro) {
-        datos = DatosDbf::Carga(ruta);
+        datos = DatosDbf::Carga(ruta, &bloqueoRetenido);
         usaIndice(indice);
         filtro = textoFiltro.isEmpty() ? nullptr : FiltroTabla::Compila(*datos, textoFiltro);
         aplicaRango();

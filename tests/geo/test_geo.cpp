@@ -1,0 +1,167 @@
+// Geography and staff routines over the sample office's tables, and their defaults when a table is missing.
+#include "companion/config.h"
+#include "companion/tablas.h"
+#include "ident/domicilio.h"
+#include "ident/empleados.h"
+#include "ident/municipios.h"
+#include "ident/paises.h"
+#include "tests/support/oficina_prueba.h"
+
+#include <gtest/gtest.h>
+
+using namespace nod;
+
+namespace {
+
+class Geo : public ::testing::Test {
+protected:
+    void SetUp() override {
+        m_anterior = Config;
+        Config.Carga(prueba::OficinaMuestra());
+    }
+    void TearDown() override { Config = m_anterior; }
+    TConfig m_anterior;
+};
+
+struct Caso {
+    const char* e;
+    const char* s;
+    QString entrada = QString::fromUtf8(e);
+    QString esperado = QString::fromUtf8(s);
+};
+
+TEST_F(Geo, CountryCodesByName) {
+    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ALEMANIA")), QStringLiteral("276"));
+    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("  FRANCIA ")), QStringLiteral("250"));
+    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("")), QStringLiteral("999"));
+    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ATLANTIDA")), QStringLiteral("999"));
+    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ALEMAN")), QStringLiteral("999")) << "the key is matched whole";
+    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("MADRID")), QStringLiteral("999")) << "provinces are filtered out";
+    EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("FRANCIA")), QStringLiteral("FRA"));
+    EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("ESPAÑA")), QStringLiteral("ESP"));
+    EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("NINGUNO")), QStringLiteral("ESP"));
+    const QString codigo = Cod_PaisCodigo(QStringLiteral("ESPAÑA"));
+    EXPECT_GE(codigo.toInt(), 100);
+    EXPECT_LT(codigo.toInt(), 500) << "the group-2 row";
+    EXPECT_EQ(Cod_PaisCodigo(QStringLiteral("NINGUNO")), QStringLiteral("999"));
+    EXPECT_EQ(Cod_PaisToNombre(codigo), QStringLiteral("ESPAÑA"));
+    EXPECT_EQ(Cod_PaisISO3166PorCodigo(codigo), QStringLiteral("ESP"));
+}
+
+TEST_F(Geo, CodesToNames) {
+    EXPECT_EQ(Cod_PaisISO3166PorCodigo(QStringLiteral("99")), QStringLiteral("ESP"));
+    EXPECT_EQ(Cod_PaisToNombre(QStringLiteral("0")), QStringLiteral("999"));
+    EXPECT_EQ(Cod_PaisToNombre(QStringLiteral("28")), QStringLiteral("999")) << "a province is not a country";
+    EXPECT_EQ(Cod_PaisToNombre(QStringLiteral("9999")), QStringLiteral("999"));
+    for (const Caso& c :
+         {Caso{"28", "MADRID"}, Caso{"028", "MADRID"}, Caso{"15", "A CORUÑA"}, Caso{"52", "MELILLA"},
+          Caso{"000", ""}, Caso{"", ""}, Caso{"53", ""}, Caso{"XX", ""}})
+        EXPECT_EQ(Cod_ProvToNombre(c.entrada), c.esperado) << c.entrada.toStdString();
+    EXPECT_EQ(Cod_ISO3166_13ToNombre(QStringLiteral("DEU")), QStringLiteral("ALEMANIA"));
+    EXPECT_EQ(Cod_ISO3166_13ToNombre(QStringLiteral("deu")), QStringLiteral("ESPAÑA")) << "compared exactly";
+    EXPECT_EQ(Cod_ISO3166_13ToNombre(QStringLiteral("ZZZ")), QStringLiteral("ESPAÑA"));
+}
+
+TEST_F(Geo, Group3CodeFromGroup2Row) {
+    const int alemania = Cod_PaisCodigo(QStringLiteral("ALEMANIA")).toInt();
+    const QString cod2003 = DameCodPais_BOE2003_12_23_Anexo11_grupo3____a_partir_del_codigo_grupo2(alemania);
+    EXPECT_EQ(cod2003.size(), 3);
+    EXPECT_NE(cod2003, Cod_PaisBOE(QStringLiteral("ALEMANIA")));
+    auto tb = CreaTabla(Config.GetAliasNodrim(), QStringLiteral("PROVIN.DBF"), QStringLiteral("ALFABETICO"));
+    TBFiltra(*tb, QStringLiteral("GRUPO=3"));
+    ASSERT_TRUE(TBBusca(*tb, {{QStringLiteral("PROVINCIA"), QStringLiteral("ALEMANIA")}}));
+    EXPECT_EQ(tb->AsString(QStringLiteral("COD_198")), cod2003);
+    EXPECT_EQ(DameCodPais_BOE2003_12_23_Anexo11_grupo3____a_partir_del_codigo_grupo2(99999), QString());
+}
+
+TEST_F(Geo, Municipalities) {
+    EXPECT_EQ(BusquedaMunicipio(QStringLiteral("28"), QStringLiteral("079")), QStringLiteral("MADRID"));
+    EXPECT_EQ(BusquedaMunicipio(QStringLiteral(" 08 "), QStringLiteral("019")), QStringLiteral("BARCELONA"));
+    EXPECT_EQ(BusquedaMunicipio(QStringLiteral("28"), QStringLiteral("999")), QString());
+    EXPECT_EQ(BusquedaCodIne(false, QStringLiteral(" MADRID "), QStringLiteral("28")),
+              QStringLiteral("28079"));
+    EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("MADRID"), QString()), QStringLiteral("28079"));
+    EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("MADRID"), QStringLiteral("08")), QString());
+    EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("GAMINDE"), QString()), QString()) << "a minor entity";
+    EXPECT_EQ(BusquedaCodIne(true, QStringLiteral("GAMINDE"), QStringLiteral("09")), QStringLiteral("09209"));
+}
+
+TEST_F(Geo, MunicipalityOrEntityName) {
+    struct C {
+        const char *ine, *prov, *mun, *entidad, *esperado;
+    };
+    for (const C& c :
+         {C{"9209", "9", "209", "", "MEDINA DE POMAR"}, // entities stand first and are stepped over
+          C{"09209", "009", "0209", "GAMINDE", "GAMINDE"},
+          C{"09209", "009", "0209", "NO EXISTE", "MEDINA DE POMAR"}, C{"28079", "28", "79", "", "MADRID"},
+          C{"00000", "28", "79", "", ""}, C{"28079", "", "79", "", ""}, C{"28079", "28", "0", "", ""},
+          C{"99999", "99", "999", "", ""}})
+        EXPECT_EQ(Cod_MunToNombre(QString::fromUtf8(c.ine), QString::fromUtf8(c.prov),
+                                  QString::fromUtf8(c.mun), QString::fromUtf8(c.entidad)),
+                  QString::fromUtf8(c.esperado))
+            << c.ine << " " << c.entidad;
+}
+
+TEST_F(Geo, MinorEntityCheck) {
+    QString codMun = QStringLiteral("x"), municipio = QStringLiteral("sin tocar");
+    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("24089"), QStringLiteral("ARMUNIA"), codMun, municipio),
+              QStringLiteral("ARMUNIA"));
+    EXPECT_EQ(codMun, QStringLiteral("089"));
+    EXPECT_EQ(municipio, QStringLiteral("LEÓN"));
+
+    municipio = QStringLiteral("sin tocar");
+    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("28079"), QStringLiteral("MADRID"), codMun, municipio),
+              QString());
+    EXPECT_EQ(codMun, QStringLiteral("079")) << "the municipality itself sets the code only";
+    EXPECT_EQ(municipio, QStringLiteral("sin tocar"));
+
+    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("28079"), QStringLiteral("GETAFE"), codMun, municipio),
+              QString());
+    EXPECT_EQ(codMun, QStringLiteral("0000"));
+    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("  "), QStringLiteral("MADRID"), codMun, municipio),
+              QString());
+    EXPECT_EQ(codMun, QStringLiteral("0000"));
+}
+
+TEST(GeoPuro, PoblacionFormateada) {
+    for (const Caso& c :
+         {Caso{"CORUÑA (A)", "*CORUÑA*"}, Caso{"PALMAS (LAS)", "*PALMAS*"},
+          Caso{"SAN SEBASTIAN-DONOSTIA", "*SAN*SEBASTIAN*DONOSTIA*"}, Caso{"ALAVA/ARABA", "*ALAVA*ARABA*"},
+          Caso{"(A)", "**"}, Caso{"", "**"}, Caso{"PRAT DE LLOBREGAT (EL)", "*PRAT*DE*LLOBREGAT*"}})
+        EXPECT_EQ(PoblacionFormateada(c.entrada), c.esperado) << c.entrada.toStdString();
+}
+
+TEST(GeoPuro, PlantaYEscalera) {
+    for (const Caso& c :
+         {Caso{"3", "planta 3ª"}, Caso{"0", "planta baja"}, Caso{"pr", "principal"}, Caso{"+2", "sobreático"},
+          Caso{"+1", "ático"}, Caso{"-1", "sótano"}, Caso{"-2", "sótano 2º"}, Caso{"en", "entreplanta"},
+          Caso{"SS", "semisótano"}, Caso{"1234", "planta 1.234ª"}, Caso{"-3", "planta -3ª"},
+          Caso{"bajo", "BAJO"}, Caso{"", ""}})
+        EXPECT_EQ(Planta(c.entrada), c.esperado) << c.entrada.toStdString();
+    for (const Caso& c :
+         {Caso{"dr", "derecha"}, Caso{"IZ", "izquierda"}, Caso{"cn", "centro"}, Caso{"NO", "norte"},
+          Caso{"su", "sur"}, Caso{"ES", "este"}, Caso{"oe", "oeste"}, Caso{"b", "B"}})
+        EXPECT_EQ(Escalera_Bloque(c.entrada), c.esperado) << c.entrada.toStdString();
+}
+
+TEST_F(Geo, StaffAndSubstitutes) {
+    EXPECT_EQ(Empleado(1, QStringLiteral("EMAIL")), QStringLiteral("empleado1@notaria-ejemplo.es"));
+    EXPECT_FALSE(Empleado(1, QStringLiteral("NOMBRE")).isEmpty());
+    EXPECT_EQ(Empleado(999, QStringLiteral("NOMBRE")), QString());
+    EXPECT_EQ(Empleado(1, QStringLiteral("NO_EXISTE")), QString());
+    EXPECT_EQ(Sustituto(2, QStringLiteral("LOCALIDAD")), QStringLiteral("ALCALÁ DE HENARES"));
+    EXPECT_EQ(Sustituto(0, QStringLiteral("NOMBRE")), QString());
+}
+
+TEST(GeoSinTablas, MissingTablesGiveDefaults) {
+    prueba::OficinaPrueba oficina(QStringLiteral("[GENERAL]\nAliasNodrim=DB\n[ALIAS]\nDB=VACIA\n"));
+    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ALEMANIA")), QStringLiteral("999"));
+    EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("ALEMANIA")), QStringLiteral("ESP"));
+    EXPECT_EQ(Cod_ISO3166_13ToNombre(QStringLiteral("DEU")), QStringLiteral("ESPAÑA"));
+    EXPECT_EQ(Cod_ProvToNombre(QStringLiteral("28")), QString());
+    EXPECT_EQ(BusquedaMunicipio(QStringLiteral("28"), QStringLiteral("079")), QString());
+    EXPECT_EQ(Empleado(1, QStringLiteral("NOMBRE")), QString());
+    EXPECT_EQ(DomicilioClienteCompletoPorCodigo(1, 0, true), QString());
+}
+
+} // namespace

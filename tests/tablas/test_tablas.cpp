@@ -1,0 +1,233 @@
+// The table layer over real dBase files: writing and reading back (also through an independent reader),
+// searches, ranges, filters, deletion, packing, and two processes appending at once.
+#include "companion/tablas.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace nod;
+
+namespace {
+
+const QList<TCampoDbf> kCampos = {{QStringLiteral("CODIGO"), 'N', 6, 0},
+                                  {QStringLiteral("NOMBRE"), 'C', 20, 0},
+                                  {QStringLiteral("IMPORTE"), 'N', 10, 2},
+                                  {QStringLiteral("ACTIVO"), 'L', 1, 0},
+                                  {QStringLiteral("FECHA"), 'D', 8, 0}};
+
+struct Fila {
+    int codigo;
+    const char* nombre;
+    double importe;
+    bool activo;
+    QDate fecha;
+};
+
+const Fila kFilas[] = {{3, "PEÑA", 10.5, true, {2024, 2, 29}},
+                       {1, "ÁLVAREZ", -2.25, false, {}},
+                       {2, "GARCÍA", 1234567.89, true, {1999, 12, 31}},
+                       {2, "GARCÍA BIS", 0, false, {2000, 1, 1}}};
+
+class Tablas : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ruta = dir.filePath(QStringLiteral("PRUEBA.DBF"));
+        CreaFicheroDbf(ruta, kCampos);
+        auto tb = TTabla::AbreRuta(ruta);
+        for (const Fila& f : kFilas) {
+            tb->Append();
+            tb->SetInteger(QStringLiteral("CODIGO"), f.codigo);
+            tb->SetString(QStringLiteral("NOMBRE"), QString::fromUtf8(f.nombre));
+            tb->SetFloat(QStringLiteral("IMPORTE"), f.importe);
+            tb->SetBoolean(QStringLiteral("ACTIVO"), f.activo);
+            tb->SetDateTime(QStringLiteral("FECHA"), QDateToTDateTime(f.fecha));
+            tb->Post();
+        }
+    }
+    QTemporaryDir dir;
+    QString ruta;
+};
+
+TEST_F(Tablas, WrittenRowsReadBack) {
+    auto tb = TTabla::AbreRuta(ruta);
+    ASSERT_EQ(tb->RecordCount(), 4);
+    for (const Fila& f : kFilas) {
+        ASSERT_FALSE(tb->Eof());
+        EXPECT_EQ(tb->AsInteger(QStringLiteral("CODIGO")), f.codigo);
+        EXPECT_EQ(tb->AsString(QStringLiteral("NOMBRE")), QString::fromUtf8(f.nombre));
+        EXPECT_DOUBLE_EQ(tb->AsFloat(QStringLiteral("IMPORTE")), f.importe);
+        EXPECT_EQ(tb->AsBoolean(QStringLiteral("ACTIVO")), f.activo);
+        EXPECT_EQ(tb->AsDateTime(QStringLiteral("FECHA")), QDateToTDateTime(f.fecha));
+        EXPECT_EQ(tb->EsNulo(QStringLiteral("FECHA")), !f.fecha.isValid());
+        tb->Next();
+    }
+    EXPECT_TRUE(tb->Eof());
+    EXPECT_THROW(tb->AsString(QStringLiteral("NO_EXISTE")), ErrorTabla);
+}
+
+TEST_F(Tablas, IndependentReaderSeesTheSameRows) {
+    QProcess py;
+    py.start(
+        QStringLiteral("/usr/bin/python3"),
+        {QStringLiteral("-c"),
+         QStringLiteral("import dbfread,sys\n"
+                        "for r in dbfread.DBF(sys.argv[1], encoding='cp1252'):\n"
+                        "  print(r['CODIGO'], r['NOMBRE'], '%.2f' % r['IMPORTE'], r['ACTIVO'], r['FECHA'])"),
+         ruta});
+    ASSERT_TRUE(py.waitForFinished(30000));
+    ASSERT_EQ(py.exitCode(), 0) << py.readAllStandardError().toStdString();
+    EXPECT_EQ(QString::fromUtf8(py.readAllStandardOutput()),
+              QStringLiteral("3 PEÑA 10.50 True 2024-02-29\n1 ÁLVAREZ -2.25 False None\n"
+                             "2 GARCÍA 1234567.89 True 1999-12-31\n2 GARCÍA BIS 0.00 False 2000-01-01\n"));
+}
+
+TEST_F(Tablas, SearchesOnTagsAndWithoutThem) {
+    auto tb = TTabla::AbreRuta(ruta, QStringLiteral("NOMBRE"));
+    EXPECT_EQ(tb->AsString(QStringLiteral("NOMBRE")), QStringLiteral("GARCÍA"))
+        << "byte order: Á sorts after Z";
+    struct C {
+        const char* campo;
+        QVariant valor;
+        bool exacta;
+        int recno; // 0: not found
+    };
+    for (const C& c :
+         {C{"NOMBRE", QStringLiteral("GARCÍA"), true, 3}, C{"NOMBRE", QStringLiteral("GARC"), true, 0},
+          C{"NOMBRE", QStringLiteral("GARC"), false, 3}, C{"NOMBRE", QStringLiteral("GARCÍA "), true, 3},
+          C{"NOMBRE", QStringLiteral("ZZ"), false, 0}, C{"CODIGO", 2, true, 3},
+          C{"CODIGO", QStringLiteral("02"), true, 3}, C{"CODIGO", QStringLiteral("x"), true, 0},
+          C{"ACTIVO", false, true, 4}, C{"FECHA", QDate(2024, 2, 29), true, 1}}) {
+        tb->First();
+        EXPECT_EQ(TBBusca(*tb, {{QString::fromLatin1(c.campo), c.valor}}, c.exacta), c.recno != 0) << c.campo;
+        if (c.recno) EXPECT_EQ(tb->RecNo(), c.recno) << c.campo;
+    }
+    TBIndexa(*tb, QStringLiteral("CODIGO"));
+    tb->Last();
+    EXPECT_EQ(tb->AsInteger(QStringLiteral("CODIGO")), 3);
+    EXPECT_THROW(TBIndexa(*tb, QStringLiteral("NO_HAY")), ErrorTabla);
+}
+
+TEST_F(Tablas, RangesAndFilters) {
+    auto tb = TTabla::AbreRuta(ruta, QStringLiteral("CODIGO"));
+    TBRango(*tb, {{QStringLiteral("CODIGO"), 2}});
+    EXPECT_EQ(tb->RecordCount(), 2);
+    TBRango(*tb, {{QStringLiteral("IMPORTE"), 0}}, {{QStringLiteral("IMPORTE"), 100}});
+    EXPECT_EQ(tb->RecordCount(), 2) << "a range over fields that are not the tag's";
+    TBQuitaRango(*tb);
+    struct C {
+        const char* filtro;
+        int cuantos;
+    };
+    for (const C& c :
+         {C{"ACTIVO=True", 2}, C{"activo = false", 2}, C{"CODIGO='2'", 2},
+          C{"CODIGO = 2 AND ACTIVO=False", 1}, C{"CODIGO=1 OR NOT (IMPORTE < 100)", 2},
+          C{"NOMBRE <> 'PEÑA'", 3}, C{"NOMBRE=\"GARCÍA\"", 1}, C{"IMPORTE >= -2.25", 4}, C{"", 4}})
+        EXPECT_NO_THROW({
+            TBFiltra(*tb, QString::fromUtf8(c.filtro));
+            EXPECT_EQ(tb->RecordCount(), c.cuantos) << c.filtro;
+        });
+    for (const char* malo : {"CODIGO", "CODIGO = ", "NOEXISTE=1", "CODIGO == 1 AND", "(CODIGO=1",
+                             "NOMBRE='abc", "CODIGO # 1", "CODIGO=1 2"})
+        EXPECT_THROW(TBFiltra(*tb, QString::fromLatin1(malo)), ErrorTabla) << malo;
+}
+
+TEST_F(Tablas, DeleteAndPack) {
+    auto tb = TTabla::AbreRuta(ruta, QStringLiteral("CODIGO"));
+    ASSERT_TRUE(TBBusca(*tb, {{QStringLiteral("CODIGO"), 2}}));
+    ASSERT_TRUE(TBDelete(*tb));
+    EXPECT_EQ(tb->AsString(QStringLiteral("NOMBRE")), QStringLiteral("GARCÍA BIS"))
+        << "moves to the next row";
+    EXPECT_EQ(tb->RecordCount(), 3);
+    const qint64 antes = QFileInfo(ruta).size();
+    ASSERT_TRUE(TBPackDbf(*tb));
+    EXPECT_EQ(QFileInfo(ruta).size(), antes - 46) << "one record of 46 bytes less";
+    auto otra = TTabla::AbreRuta(ruta, QStringLiteral("CODIGO"));
+    EXPECT_EQ(otra->RecordCount(), 3);
+    EXPECT_FALSE(TBBusca(*otra, {{QStringLiteral("NOMBRE"), QStringLiteral("GARCÍA")}}));
+}
+
+TEST_F(Tablas, EditAndLastRowLock) {
+    auto tb = TTabla::AbreRuta(ruta, QStringLiteral("CODIGO"));
+    ASSERT_TRUE(BloqueaUltimo(*tb));
+    EXPECT_EQ(tb->AsInteger(QStringLiteral("CODIGO")), 3);
+    tb->Append();
+    tb->SetInteger(QStringLiteral("CODIGO"), tb->AsInteger(QStringLiteral("CODIGO")) + 1);
+    tb->Post();
+    LiberaBloqueo(*tb);
+    EXPECT_EQ(tb->AsInteger(QStringLiteral("CODIGO")), 4);
+    tb->Edit();
+    EXPECT_THROW(tb->SetString(QStringLiteral("NOMBRE"), QStringLiteral("ДОМ")), ErrorTabla)
+        << "not in Windows-1252";
+    EXPECT_THROW(tb->SetString(QStringLiteral("NOMBRE"), QString(21, QLatin1Char('X'))), ErrorTabla);
+    tb->SetString(QStringLiteral("NOMBRE"), QStringLiteral("NUEVO €"));
+    tb->Post();
+    EXPECT_EQ(TTabla::AbreRuta(ruta)->RecordCount(), 5);
+    auto otra = TTabla::AbreRuta(ruta, QStringLiteral("CODIGO"));
+    otra->Last();
+    EXPECT_EQ(otra->AsString(QStringLiteral("NOMBRE")), QStringLiteral("NUEVO €"));
+}
+
+TEST_F(Tablas, TwoProcessesAppendingLoseNothing) {
+    constexpr int kPorProceso = 1000;
+    const auto anade = [this](int base) {
+        auto tb = TTabla::AbreRuta(ruta);
+        for (int i = 0; i < kPorProceso; ++i) {
+            tb->Append();
+            tb->SetInteger(QStringLiteral("CODIGO"), base + i);
+            tb->SetString(QStringLiteral("NOMBRE"), QStringLiteral("P%1-%2").arg(base).arg(i));
+            tb->Post();
+        }
+    };
+    const pid_t hijo = fork();
+    ASSERT_GE(hijo, 0);
+    if (hijo == 0) {
+        try {
+            anade(100000);
+        } catch (...) {
+            _exit(1);
+        }
+        _exit(0);
+    }
+    anade(200000);
+    int estado = 0;
+    waitpid(hijo, &estado, 0);
+    ASSERT_TRUE(WIFEXITED(estado) && WEXITSTATUS(estado) == 0);
+    OlvidaTablasCargadas();
+    auto tb = TTabla::AbreRuta(ruta, QStringLiteral("CODIGO"));
+    EXPECT_EQ(tb->RecordCount(), 4 + 2 * kPorProceso);
+    for (int base : {100000, 200000})
+        for (int i = 0; i < kPorProceso; i += 97) {
+            ASSERT_TRUE(TBBusca(*tb, {{QStringLiteral("CODIGO"), base + i}}));
+            EXPECT_EQ(tb->AsString(QStringLiteral("NOMBRE")), QStringLiteral("P%1-%2").arg(base).arg(i));
+        }
+}
+
+TEST_F(Tablas, KilledPackLeavesTheTableWhole) {
+    {
+        auto tb = TTabla::AbreRuta(ruta);
+        for (int i = 0; i < 4000; ++i) {
+            tb->Append();
+            tb->SetInteger(QStringLiteral("CODIGO"), 1000 + i);
+            tb->Post();
+            if (i % 2 == 0) TBDelete(*tb);
+        }
+    }
+    const int vivas = TTabla::AbreRuta(ruta)->RecordCount();
+    const pid_t hijo = fork();
+    ASSERT_GE(hijo, 0);
+    if (hijo == 0) {
+        auto tb = TTabla::AbreRuta(ruta);
+        TBPackDbf(*tb);
+        _exit(0);
+    }
+    usleep(2000);
+    kill(hijo, SIGKILL);
+    waitpid(hijo, nullptr, 0);
+    OlvidaTablasCargadas();
+    EXPECT_EQ(TTabla::AbreRuta(ruta)->RecordCount(), vivas);
+}
+
+} // namespace
