@@ -1,0 +1,132 @@
+// Invoice headers in force by date, per notary, and the intervention descriptions of Tipo_Int.dbf.
+#include "companion/config.h"
+#include "companion/tablas.h"
+#include "protocol/actuaciones.h"
+#include "protocol/cabecerafacturas.h"
+#include "tests/support/oficina_prueba.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+
+using namespace nod;
+using namespace nod::prueba;
+
+namespace {
+
+const char* kConfig =
+    "[GENERAL]\nNumeroNotarios=2\nNotario=2\n[ALIAS]\nDB=DATOS\nDBNOTARIO1=N1\nDBNOTARIO2=N2\n"
+    "[FACTURACION]\nMultiplesCabeceras=1\n[NOTARIO1]\nfac_1=Cabecera del INI 1\n"
+    "[NOTARIO2]\nfac_1=Cabecera del INI 2\n";
+
+struct Fila {
+    TDateTime fecha;
+    const char* nombre;
+    const char* texto;
+};
+
+void escribeCabeceras(const OficinaPrueba& o, const QString& carpeta, std::initializer_list<Fila> filas) {
+    QDir().mkpath(o.ruta(carpeta));
+    const QString ruta = o.ruta(carpeta + QStringLiteral("/CAB_FACT.DBF"));
+    CreaFicheroDbf(ruta, {{QStringLiteral("FECHA_ENT"), 'D', 8, 0},
+                          {QStringLiteral("NOMBRE"), 'C', 10, 0},
+                          {QStringLiteral("DESCRIP"), 'C', 80, 0}});
+    auto t = TTabla::AbreRuta(ruta);
+    for (const Fila& f : filas) {
+        t->Append();
+        t->SetDateTime(QStringLiteral("FECHA_ENT"), f.fecha);
+        t->SetString(QStringLiteral("NOMBRE"), QString::fromUtf8(f.nombre));
+        t->SetString(QStringLiteral("DESCRIP"), QString::fromUtf8(f.texto));
+        t->Post();
+    }
+}
+
+TDateTime dia(int d, int m, int a) {
+    return EncodeDate(a, m, d);
+}
+
+class Cabeceras : public testing::Test {
+protected:
+    void SetUp() override {
+        escribeCabeceras(oficina, QStringLiteral("N1"),
+                         {{dia(1, 1, 2010), "fac_1", "Notaría Pérez 2010"},
+                          {dia(1, 1, 2015), "fac_1", "Notaría Pérez 2015"},
+                          {dia(1, 1, 2015), "fac_g_4", "Registro Mercantil"},
+                          {dia(1, 1, 2015), "FAC_2", "Nombre en mayúsculas: no es una línea"},
+                          {dia(1, 6, 2012), "fac_1", "Notaría Pérez 2012"}});
+        escribeCabeceras(
+            oficina, QStringLiteral("N2"),
+            {{dia(1, 3, 2014), "fac_1", "Notaría Gómez 2014"}, {dia(1, 3, 2014), "fac_d_2", "C/ Mayor, 1"}});
+        oficina.recarga();
+        OlvidaTablasCargadas();
+    }
+    OficinaPrueba oficina{QString::fromUtf8(kConfig)};
+};
+
+TEST_F(Cabeceras, EnVigorPorFecha) {
+    Config.SetsNotario(QStringLiteral("1"));
+    const std::pair<TDateTime, const char*> casos[] = {
+        {dia(1, 6, 2012), "Notaría Pérez 2012"}, // the day itself
+        {dia(31, 12, 2014) + 0.5, "Notaría Pérez 2012"},
+        {dia(2, 1, 2015), "Notaría Pérez 2015"},
+        {dia(2, 1, 2011), "Notaría Pérez 2010"},
+    };
+    for (const auto& [fecha, texto] : casos) {
+        ActualizaCabeceraFacturas(fecha, false);
+        EXPECT_EQ(Config.GetFac_1(), QString::fromUtf8(texto)) << fecha;
+    }
+    EXPECT_EQ(Config.GetFac_g_4(), QStringLiteral("Registro Mercantil"));
+    EXPECT_TRUE(Config.GetFac_2().isEmpty());
+}
+
+TEST_F(Cabeceras, SinFilaAnteriorNadaCambia) {
+    Config.SetsNotario(QStringLiteral("1"));
+    ActualizaCabeceraFacturas(dia(31, 12, 2009), false);
+    EXPECT_EQ(Config.GetFac_1(), QStringLiteral("Cabecera del INI 1"));
+    Config.SetsNotario(QStringLiteral("3")); // no alias, no table
+    Config.SetFac_1(QStringLiteral("sin tocar"));
+    ActualizaCabeceraFacturas(dia(1, 1, 2020), false);
+    EXPECT_EQ(Config.GetFac_1(), QStringLiteral("sin tocar"));
+}
+
+TEST_F(Cabeceras, TodosLosNotariosTerminanEnElSeleccionado) {
+    EXPECT_EQ(Config.GetsNotario(), QStringLiteral("2"));
+    ActualizaCabeceraFacturas(dia(1, 1, 2016), true);
+    EXPECT_EQ(Config.GetsNotario(), QStringLiteral("2"));
+    EXPECT_EQ(Config.GetFac_1(), QStringLiteral("Notaría Gómez 2014"));
+    EXPECT_EQ(Config.GetFac_d_2(), QStringLiteral("C/ Mayor, 1"));
+
+    Config.SetsNotario(QStringLiteral("1"));
+    Config.SetHayMultiplesCabeceras(false); // only the notary in use
+    ActualizaCabeceraFacturas(dia(1, 1, 2016), true);
+    EXPECT_EQ(Config.GetFac_1(), QStringLiteral("Notaría Pérez 2015"));
+}
+
+TEST(ActuacionINTI, DescripcionPorCodigo) {
+    OficinaPrueba oficina(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
+    QDir().mkpath(oficina.ruta(QStringLiteral("DATOS")));
+    const QString ruta = oficina.ruta(QStringLiteral("DATOS/Tipo_Int.dbf"));
+    CreaFicheroDbf(ruta, {{QStringLiteral("CODIGO"), 'N', 4, 0}, {QStringLiteral("DESCRIPCIO"), 'C', 60, 0}});
+    {
+        auto t = TTabla::AbreRuta(ruta);
+        for (const auto& [codigo, texto] :
+             {std::pair{3, "Mandatario verbal"}, std::pair{1, "En su nombre"}}) {
+            t->Append();
+            t->SetInteger(QStringLiteral("CODIGO"), codigo);
+            t->SetString(QStringLiteral("DESCRIPCIO"), QLatin1String(texto));
+            t->Post();
+        }
+    }
+    OlvidaTablasCargadas();
+    EXPECT_EQ(Actuacion_INTI(1), QStringLiteral("En su nombre"));
+    EXPECT_EQ(Actuacion_INTI(3), QStringLiteral("Mandatario verbal"));
+    EXPECT_EQ(Actuacion_INTI(2), QString());
+    auto abierta = CreaTabla(QStringLiteral("DB"), QStringLiteral("Tipo_Int.dbf"), QStringLiteral("CODIGO"));
+    EXPECT_EQ(Actuacion_INTI(3, *abierta), QStringLiteral("Mandatario verbal"));
+    EXPECT_EQ(abierta->AsInteger(QStringLiteral("CODIGO")), 3); // left open, on the row found
+    QFile::remove(ruta);
+    OlvidaTablasCargadas();
+    EXPECT_EQ(Actuacion_INTI(1), QString()); // no table
+}
+
+} // namespace
