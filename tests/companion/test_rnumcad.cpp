@@ -1,0 +1,180 @@
+#include "companion/fechas.h"
+#include "companion/letrascatalan.h"
+#include "companion/rnumcad.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+using namespace nod;
+
+namespace {
+QString u8(const char* s) {
+    return QString::fromUtf8(s);
+}
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInf = std::numeric_limits<double>::infinity();
+} // namespace
+
+TEST(Rnumcad, Float_CadWritesTheShortestExactDigits) {
+    const struct {
+        double x;
+        const char* esperado;
+    } casos[] = {{7.5, "7,5"},         {21, "21"},          {-0.25, "-0,25"},
+                 {0.1, "0,1"},         {-0.0, "0"},         {1e15, "1000000000000000"},
+                 {1234.56, "1234,56"}, {1e-7, "0,0000001"}, {kNan, "0"},
+                 {kInf, "0"}};
+    for (const auto& c : casos)
+        EXPECT_EQ(Float_Cad(c.x), QString::fromLatin1(c.esperado)) << c.x;
+}
+
+TEST(Rnumcad, RedondeaDecHalfAwayFromZeroOnTheWrittenDigits) {
+    const struct {
+        double x;
+        int decimales;
+        double esperado;
+    } casos[] = {{2.675, 2, 2.68},  {-0.5, 0, -1}, {0.5, 0, 1},      {1.005, 2, 1.01}, {9.995, 2, 10},
+                 {1.234, 5, 1.234}, {0.004, 2, 0}, {123.4, -2, 123}, {2.5, 0, 3}};
+    for (const auto& c : casos)
+        EXPECT_DOUBLE_EQ(RedondeaDec(c.x, c.decimales), c.esperado) << c.x << ' ' << c.decimales;
+    EXPECT_TRUE(std::isnan(RedondeaDec(kNan, 2)));
+}
+
+TEST(Rnumcad, ParteEnteraDecimal) {
+    const struct {
+        const char* numero;
+        const char* entera;
+        const char* decimal;
+    } casos[] = {{"1234,05", "1234", "05"}, {"21", "21", ""}, {"-0,25", "-0", "25"},
+                 {"3.5", "3", "5"},         {"", "", ""},     {",5", "", "5"}};
+    for (const auto& c : casos) {
+        QString entera = QStringLiteral("x"), decimal = QStringLiteral("x");
+        ParteEnteraDecimal(QString::fromLatin1(c.numero), entera, decimal);
+        EXPECT_EQ(entera, QString::fromLatin1(c.entera)) << c.numero;
+        EXPECT_EQ(decimal, QString::fromLatin1(c.decimal)) << c.numero;
+    }
+}
+
+TEST(Rnumcad, TextToNumbers) {
+    const struct {
+        const char* texto;
+        qint64 entero;
+    } enteros[] = {{" -42 ", -42},    {"+7", 7},  {"4a", 0}, {"", 0}, {"2147483647", 2147483647},
+                   {"2147483648", 0}, {"1.5", 0}, {"ñ", 0}};
+    for (const auto& c : enteros)
+        EXPECT_EQ(Cad_Int(u8(c.texto)), c.entero) << c.texto;
+    EXPECT_EQ(Cad_Int64(QStringLiteral("2147483648")), 2147483648LL);
+    EXPECT_EQ(Cad_Int64(QStringLiteral("-9223372036854775808")), std::numeric_limits<qint64>::min());
+    EXPECT_EQ(Cad_Int64(QStringLiteral("9223372036854775808")), 0);
+
+    const struct {
+        const char* texto;
+        double valor;
+    } reales[] = {{"1.234,5", 1234.5}, {"2.5", 2.5}, {"2,5", 2.5}, {" 1 234,5 ", 1234.5},
+                  {"-0,25", -0.25},    {"abc", 0},   {"", 0},      {"1e400", 0},
+                  {"nan", 0}};
+    for (const auto& c : reales)
+        EXPECT_DOUBLE_EQ(Cad_Float(QString::fromLatin1(c.texto)), c.valor) << c.texto;
+}
+
+TEST(Rnumcad, CutsAndZeros) {
+    const QString s = QStringLiteral("ABCDE");
+    EXPECT_EQ(StrLeft(s, 2), QStringLiteral("AB"));
+    EXPECT_EQ(StrLeft(s, 9), s);
+    EXPECT_EQ(StrLeft(s, -1), QString());
+    EXPECT_EQ(StrRight(s, 2), QStringLiteral("DE"));
+    EXPECT_EQ(StrRight(s, 0), QString());
+    const struct {
+        qint64 valor;
+        int ancho;
+        const char* esperado;
+    } ceros[] = {{7, 3, "007"},
+                 {-7, 3, "-07"},
+                 {1234, 2, "1234"},
+                 {0, 0, "0"},
+                 {std::numeric_limits<qint64>::min(), 2, "-9223372036854775808"}};
+    for (const auto& c : ceros)
+        EXPECT_EQ(StrCeros(c.valor, c.ancho), QString::fromLatin1(c.esperado)) << c.valor;
+}
+
+TEST(Rnumcad, CaseKeepsTheLength) {
+    EXPECT_EQ(UpperCase(u8("camión ñandú çà")), u8("CAMIÓN ÑANDÚ ÇÀ"));
+    EXPECT_EQ(lowerCase(u8("CAMIÓN ÑANDÚ ÇÀ DIECISÉIS")), u8("camión ñandú çà dieciséis"));
+    EXPECT_EQ(UpperCase(u8("straße µ")), u8("STRAßE µ"));
+    EXPECT_EQ(UpperCase(u8("ÿ")), u8("Ÿ"));
+}
+
+TEST(Rnumcad, Digits) {
+    for (char c = '0'; c <= '9'; ++c)
+        EXPECT_TRUE(EsUnNumero(QLatin1Char(c)));
+    for (QChar c : u8("a /:½²٣"))
+        EXPECT_FALSE(EsUnNumero(c)) << int(c.unicode());
+    EXPECT_EQ(DejaSoloNumeros(QStringLiteral("B-12.3")), QStringLiteral("123"));
+    EXPECT_EQ(DejaSoloNumeros(QStringLiteral("abc")), QString());
+}
+
+TEST(Fechas, CompletaAnnoCentury) {
+    const struct {
+        const char* anno;
+        const char* esperado;
+    } casos[] = {{"05", "2005"},   {"5", "2005"},    {"49", "2049"}, {"50", "1950"}, {"98", "1998"},
+                 {" 07 ", "2007"}, {"2005", "2005"}, {"123", "123"}, {"ab", "ab"},   {"", ""}};
+    for (const auto& c : casos)
+        EXPECT_EQ(CompletaAnno(QString::fromLatin1(c.anno)), QString::fromLatin1(c.esperado)) << c.anno;
+}
+
+TEST(Fechas, MonthAndWeekdayNames) {
+    EXPECT_EQ(MesToStr(3, 1, 0), u8("març"));
+    EXPECT_EQ(MesToStr(9, 0, 1), u8("Septiembre"));
+    EXPECT_EQ(MesToStr(8, 1, 2), u8("AGOST"));
+    EXPECT_EQ(MesToStr(12, 0, 7), u8("diciembre"));
+    EXPECT_EQ(MesToStr(0, 0, 0), QString());
+    EXPECT_EQ(MesToStr(13, 1, 0), QString());
+    const TDateTime jueves = EncodeDate(2010, 4, 15);
+    EXPECT_EQ(DiaTexto(jueves, 1, 1), u8("Dijous"));
+    EXPECT_EQ(DiaTexto(jueves + 6, 0, 0), u8("miércoles"));
+    EXPECT_EQ(DiaTexto(jueves + 2, 0, 2), u8("SÁBADO"));
+    EXPECT_EQ(DiaTexto(kNan, 0, 0), QString());
+}
+
+TEST(LetrasEnCatalan, FormsGenderAndCase) {
+    const struct {
+        qint64 n;
+        char genero, caso;
+        bool corto;
+        const char* esperado;
+    } casos[] = {
+        {0, 'M', 'N', false, "ZERO"},
+        {0, 'M', 'S', false, "zero"},
+        {1, 'M', 'S', false, "u"},
+        {1, 'M', 'S', true, "un"},
+        {1, 'F', 'S', false, "una"},
+        {2, 'F', 'S', false, "dues"},
+        {17, 'M', 'S', false, "disset"},
+        {21, 'M', 'N', false, "VINT-I-U"},
+        {22, 'F', 'S', false, "vint-i-dues"},
+        {31, 'M', 'S', true, "trenta-un"},
+        {45, 'M', 'S', false, "quaranta-cinc"},
+        {100, 'M', 'S', false, "cent"},
+        {200, 'M', 'S', false, "dos-cents"},
+        {221, 'F', 'S', false, "dues-centes vint-i-una"},
+        {1000, 'M', 'S', false, "mil"},
+        {2010, 'M', 'S', false, "dos mil deu"},
+        {2000, 'F', 'S', false, "dues mil"},
+        {21000, 'M', 'S', false, "vint-i-un mil"},
+        {101001, 'M', 'S', false, "cent un mil u"},
+        {1000000, 'M', 'N', false, "UN MILIÓ"},
+        {1000000, 'M', 'S', false, "un milió"},
+        {2000002, 'F', 'S', false, "dos milions dues"},
+        {21000000, 'M', 'S', false, "vint-i-un milions"},
+        {1000000000, 'M', 'S', false, "mil milions"},
+        {999999999999, 'M', 'S', false,
+         "nou-cents noranta-nou mil nou-cents noranta-nou milions nou-cents noranta-nou mil nou-cents "
+         "noranta-nou"},
+        {1000000000000, 'M', 'S', false, ""},
+        {-5, 'M', 'S', false, ""},
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(letrasEnCatalan(c.n, QLatin1Char(c.genero), QLatin1Char(c.caso), c.corto), u8(c.esperado))
+            << c.n;
+}
