@@ -247,7 +247,6 @@ std::shared_ptr<const DatosDbf> DatosDbf::Carga(const QString& ruta, const Bloqu
     const QString rutaCpg = compañero(ruta, ".cpg");
     auto datos = DesdeBytes(ruta, std::move(bytes), rutaMemo.isEmpty() ? QByteArray() : leeOpcional(rutaMemo),
                             rutaCpg.isEmpty() ? QByteArray() : leeOpcional(rutaCpg));
-    qCDebug(lcTablas) << "cargada" << ruta << datos->numRegistros() << "registros";
     std::lock_guard lock(c.mutex);
     if (c.entradas.size() >= kMaxTablasEnCache) c.entradas.erase(c.entradas.begin());
     c.entradas.insert(ruta, {identidadDe(st), datos});
