@@ -1,0 +1,41 @@
+#pragma once
+// The small dialog with which a clerk works out the letter of a DNI or checks a CIF or NIE by hand.
+
+#include <QDialog>
+
+class QRadioButton;
+class QLineEdit;
+class QLabel;
+class QPushButton;
+class QFrame;
+
+namespace nod {
+
+class TFCalculaLetraNIF : public QDialog {
+    Q_OBJECT
+public:
+    explicit TFCalculaLetraNIF(QWidget* owner = nullptr);
+
+    QRadioButton *RBDNI = nullptr, *RBCIF = nullptr, *RBNIE = nullptr;
+    QFrame *PDNI = nullptr, *PCIF = nullptr, *PNIE = nullptr;
+    QLineEdit *ENIF = nullptr, *ECIF = nullptr, *ENIE = nullptr;
+    QLabel *PLETRA = nullptr, *LResultadoCIF_ = nullptr, *LResultadoNIE_ = nullptr;
+    QPushButton *BBCalculaLetra = nullptr, *BBValidaCIF = nullptr, *BBSalir = nullptr;
+
+    /// "&Letra": the letter of the number in ENIF, shown in PLETRA (cleared when there is none).
+    void CalculaLetra();
+
+protected:
+    void showEvent(QShowEvent* e) override;
+    bool eventFilter(QObject* o, QEvent* e) override;
+
+private:
+    void eligeTipo(QRadioButton* rb);
+    void Valida();
+    void muestraVeredicto(QLabel* etiqueta, bool correcto);
+};
+
+/// Opens the dialog modally on `owner` and frees it.
+void ICalculaLetraNif(QWidget* owner);
+
+} // namespace nod
