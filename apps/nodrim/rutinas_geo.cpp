@@ -1,5 +1,6 @@
 // Country, province and municipality codes, addresses and the staff tables, offered to scripts.
 #include "apps/nodrim/rutinas.h"
+#include "ident/colegios.h"
 #include "ident/domicilio.h"
 #include "ident/empleados.h"
 #include "ident/municipios.h"
@@ -7,8 +8,7 @@
 
 namespace nod::lote {
 
-void RegistraRutinasGeo(Rutinas& r)
-{
+void RegistraRutinasGeo(Rutinas& r) {
     r.agrega("Cod_PaisBOE", &Cod_PaisBOE);
     r.agrega("Cod_PaisISO3166", &Cod_PaisISO3166);
     r.agrega("Cod_PaisCodigo", &Cod_PaisCodigo);
@@ -22,6 +22,7 @@ void RegistraRutinasGeo(Rutinas& r)
     r.agrega("BusquedaCodIne", &BusquedaCodIne);
     r.agrega("Cod_MunToNombre", &Cod_MunToNombre);
     r.agrega("CompruebaEntidadMenor", &CompruebaEntidadMenor);
+    r.agrega("ObtenCodColegioPorNombre", &ObtenCodColegioPorNombre);
     r.agrega("PoblacionFormateada", &PoblacionFormateada);
     r.agrega("Planta", &Planta);
     r.agrega("Escalera_Bloque", &Escalera_Bloque);

@@ -1,12 +1,16 @@
 // Geography and staff routines over the sample office's tables, and their defaults when a table is missing.
 #include "companion/config.h"
 #include "companion/tablas.h"
+#include "ident/colegios.h"
 #include "ident/domicilio.h"
 #include "ident/empleados.h"
 #include "ident/municipios.h"
 #include "ident/paises.h"
 #include "tests/support/oficina_prueba.h"
 
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace nod;
@@ -162,6 +166,55 @@ TEST(GeoSinTablas, MissingTablesGiveDefaults) {
     EXPECT_EQ(BusquedaMunicipio(QStringLiteral("28"), QStringLiteral("079")), QString());
     EXPECT_EQ(Empleado(1, QStringLiteral("NOMBRE")), QString());
     EXPECT_EQ(DomicilioClienteCompletoPorCodigo(1, 0, true), QString());
+}
+
+} // namespace
+
+namespace {
+
+TEST(Colegios, ExactNamesThenFragmentsInOrder) {
+    struct C {
+        const char *nombre, *alternativo, *esperado;
+    };
+    for (const C& c :
+         {C{"MADRID", "", "2850172"}, C{"COMUNIDAD DE MADRID", "", "2850172"},
+          C{"CASTILLA-LEON", "", "3350178"}, C{"CASTILLA Y LEON", "", "4750148"},
+          C{" cataluña ", "", "0850153"}, C{"", "GALICIA", "1550160"}, C{"LAS CANARIAS", "", "3550180"},
+          C{"ARAGON", "", "5050195"}, C{"LA RIOJA", "", "2650177"}, C{"ATLANTIDA", "", ""}})
+        EXPECT_EQ(ObtenCodColegioPorNombre(QString::fromUtf8(c.nombre), QString::fromUtf8(c.alternativo)),
+                  QString::fromUtf8(c.esperado))
+            << c.nombre;
+}
+
+TEST(Colegios, ConfiguredCollegeWhenNoNameIsGiven) {
+    prueba::OficinaPrueba oficina(QStringLiteral("[NOTARIO1]\nColegio2=Navarra\n"));
+    EXPECT_EQ(ObtenCodColegioPorNombre({}, {}), QStringLiteral("3150177"));
+    Config.SetColegio(QStringLiteral("País Vasco"));
+    EXPECT_EQ(ObtenCodColegioPorNombre({}, {}), QStringLiteral("4850194")) << "through the fragment VAS";
+    EXPECT_EQ(ObtenCodColegioPorNombre(QStringLiteral("  "), {}), QStringLiteral("3150177"))
+        << "blank: Coleg2";
+}
+
+TEST(OficinaMuestra, GeneratorGivesTheCommittedTables) {
+    QTemporaryDir dir;
+    QProcess py;
+    py.start(QStringLiteral("/usr/bin/python3"),
+             {QStringLiteral(NOD_SOURCE_DIR "/tools/genera-oficina.py"), dir.path()});
+    ASSERT_TRUE(py.waitForFinished(120000));
+    ASSERT_EQ(py.exitCode(), 0) << py.readAllStandardError().toStdString();
+    int comparadas = 0;
+    for (const char* carpeta : {"DATOS", "NOTARIO1", "NOTARIO2"})
+        for (const QFileInfo& fi :
+             QDir(dir.filePath(QString::fromLatin1(carpeta))).entryInfoList(QDir::Files)) {
+            QFile nueva(fi.filePath()),
+                comprometida(prueba::OficinaMuestra() + QLatin1Char('/') + QString::fromLatin1(carpeta) +
+                             QLatin1Char('/') + fi.fileName());
+            ASSERT_TRUE(nueva.open(QIODevice::ReadOnly) && comprometida.open(QIODevice::ReadOnly))
+                << fi.fileName().toStdString();
+            EXPECT_TRUE(nueva.readAll() == comprometida.readAll()) << fi.fileName().toStdString();
+            ++comparadas;
+        }
+    EXPECT_EQ(comparadas, 11);
 }
 
 } // namespace
