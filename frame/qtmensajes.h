@@ -7,10 +7,9 @@
 
 #include "companion/mensajes.h"
 
+#include <QDialog>
+#include <QLabel>
 #include <QPointer>
-
-class QDialog;
-class QLabel;
 class QWidget;
 
 namespace nod {

@@ -64,6 +64,7 @@ TFRelojNod::TFRelojNod(QWidget* owner)
               Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::MSWindowsFixedSizeDialogHint) {
     setObjectName(QStringLiteral("FRelojNod"));
     setWindowTitle(QStringLiteral("Fecha y hora del sistema"));
+    setMinimumWidth(300);
 
     m_fecha = new QDateEdit(this);
     m_fecha->setObjectName(QStringLiteral("DTPFecha"));

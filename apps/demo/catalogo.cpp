@@ -1,0 +1,11 @@
+#include "apps/demo/catalogo.h"
+
+namespace nod::demo {
+
+CatalogoDemo RegistraTodos() {
+    CatalogoDemo c;
+    RegistraDialogosFrame(c);
+    return c;
+}
+
+} // namespace nod::demo
