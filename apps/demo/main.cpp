@@ -9,6 +9,7 @@
 #include "apps/demo/catalogo.h"
 #include "apps/demo/ventanademo.h"
 #include "companion/config.h"
+#include "frame/dosexe.h"
 #include "frame/qtmensajes.h"
 #include "frame/ventanas.h"
 
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
 
     ServicioMensajesQt mensajes;
     InstalaServicioMensajes(&mensajes);
+    FijaPitido(&QApplication::beep);
 
     demo::VentanaDemo ventana(demo::RegistraTodos());
     FijaVentanaPrincipal(&ventana);
