@@ -1,6 +1,7 @@
 #include "text/formatos.h"
 
 #include "companion/rnumcad.h"
+#include "text/cifras.h"
 #include "text/letras.h"
 
 namespace nod {
@@ -13,25 +14,24 @@ QChar caracter(const QString& s, int i) {
     return i < s.size() ? s[i] : QChar();
 }
 
-// The figure of x by the picture "#," followed by `decimales` decimal places (its own digits padded
-// with zeros); x is written exactly, never rounded, as the callers give at most that many decimals.
-QString figura(double x, qsizetype decimales) {
-    QString entera, decimal;
-    ParteEnteraDecimal(Float_Cad(x), entera, decimal);
-    QString r;
-    if (entera.startsWith(u'-')) {
-        r += u'-';
-        entera.remove(0, 1);
+void anadeAgrupado(QString& r, std::string_view digitos) {
+    for (size_t i = 0; i < digitos.size(); ++i) {
+        if (i > 0 && (digitos.size() - i) % 3 == 0) r += u'.';
+        r += QLatin1Char(digitos[i]);
     }
-    if (entera != u"0") r += AgrupaMiles(entera);
-    if (decimales > 0) r += u',' + (decimal + QString(decimales, u'0')).left(qMax(decimales, decimal.size()));
-    return r;
 }
 
-qsizetype cifrasDecimales(double x) {
-    QString entera, decimal;
-    ParteEnteraDecimal(Float_Cad(x), entera, decimal);
-    return decimal.size();
+// The figure by the picture "#," followed by `decimales` decimal places (the number's own digits padded
+// with zeros); the number is written exactly, never rounded, as the callers give at most that many.
+void anadeFigura(QString& r, const Cifras& c, size_t decimales) {
+    if (c.negativo()) r += u'-';
+    if (c.entera() != "0") anadeAgrupado(r, c.entera());
+    if (decimales > 0) {
+        r += u',';
+        r += QLatin1StringView(c.decimal().data(), qsizetype(c.decimal().size()));
+        for (size_t k = c.decimal().size(); k < decimales; ++k)
+            r += u'0';
+    }
 }
 
 } // namespace
@@ -49,8 +49,10 @@ QString AgrupaMiles(const QString& digitos) {
 QString FormateaNumero(const QString& formato, double numero) {
     const QString modo = formato.left(2);
     const QChar genero = caracter(formato, 2), caso = caracter(formato, 3);
-    const qsizetype k = cifrasDecimales(numero);
-    const QString cifra = figura(numero, k);
+    const Cifras c(numero);
+    const size_t k = c.decimal().size();
+    QString cifra;
+    anadeFigura(cifra, c, k);
     // Without decimals LetrasDecimalNod reads the whole number, as LetrasNod would.
     auto palabras = [&] { return LetrasDecimalNod(numero, int(k), genero, caso); };
     auto porCiento = [&] { return LetrasPorCientoNod(numero, genero, caso); };
@@ -64,14 +66,30 @@ QString FormateaNumero(const QString& formato, double numero) {
 }
 
 QString FormateaCantidad(const QString& formato, double importe) {
-    const QString modo = formato.left(2);
-    const qsizetype k = cifrasDecimales(importe);
-    const QString cifra = figura(importe, k >= 3 ? k : k > 0 ? 2 : 0);
-    auto euros = [&] { return EurosEnLetra(importe, formato.mid(2, 1)); };
-    if (modo == u"M2") return euros();
-    if (modo == u"M3") return cifra + u" € ("_s + euros() + u')';
-    if (modo == u"M4") return euros() + u" ("_s + cifra + u" € )"_s;
-    return cifra + u" €"_s; // "M1" and any other code
+    const QStringView modo = QStringView(formato).left(2);
+    const Cifras c(importe);
+    const size_t k = c.decimal().size();
+    const size_t decimales = k >= 3 ? k : k > 0 ? 2 : 0;
+    if (modo == u"M2") return EurosEnLetra(importe, formato.mid(2, 1));
+    QString r;
+    if (modo == u"M3" || modo == u"M4") {
+        const QString euros = EurosEnLetra(importe, formato.mid(2, 1));
+        r.reserve(euros.size() + 40);
+        if (modo == u"M4") {
+            r += euros;
+            r += u" ("_s;
+            anadeFigura(r, c, decimales);
+            r += u" € )"_s;
+        } else {
+            anadeFigura(r, c, decimales);
+            r += u" € ("_s;
+            r += euros;
+            r += u')';
+        }
+        return r;
+    }
+    anadeFigura(r, c, decimales);
+    return r + u" €"_s; // "M1" and any other code
 }
 
 } // namespace nod

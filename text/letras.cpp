@@ -1,104 +1,110 @@
 #include "text/letras.h"
 
 #include "companion/rnumcad.h"
-#include "text/recorte.h"
+#include "text/cifras.h"
 
 #include <cmath>
 
 namespace nod {
 
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 
 namespace {
 
 constexpr qint64 kMaximo = 999'999'999'999;
+constexpr int kCifrasMaximas = 12;
 
-PalabrasNumero creaTabla(const char16_t* uno, const char16_t* veintiuno, bool femenino) {
+PalabrasNumero creaTabla(std::u16string_view uno, std::u16string_view veintiuno, bool femenino) {
     PalabrasNumero p;
-    p.hasta29 = {u"",
+    p.hasta29 = {u""sv,
                  uno,
-                 u"DOS ",
-                 u"TRES ",
-                 u"CUATRO ",
-                 u"CINCO ",
-                 u"SEIS ",
-                 u"SIETE ",
-                 u"OCHO ",
-                 u"NUEVE ",
-                 u"DIEZ ",
-                 u"ONCE ",
-                 u"DOCE ",
-                 u"TRECE ",
-                 u"CATORCE ",
-                 u"QUINCE ",
-                 u"DIECISÉIS ",
-                 u"DIECISIETE ",
-                 u"DIECIOCHO ",
-                 u"DIECINUEVE ",
-                 u"VEINTE ",
+                 u"DOS "sv,
+                 u"TRES "sv,
+                 u"CUATRO "sv,
+                 u"CINCO "sv,
+                 u"SEIS "sv,
+                 u"SIETE "sv,
+                 u"OCHO "sv,
+                 u"NUEVE "sv,
+                 u"DIEZ "sv,
+                 u"ONCE "sv,
+                 u"DOCE "sv,
+                 u"TRECE "sv,
+                 u"CATORCE "sv,
+                 u"QUINCE "sv,
+                 u"DIECISÉIS "sv,
+                 u"DIECISIETE "sv,
+                 u"DIECIOCHO "sv,
+                 u"DIECINUEVE "sv,
+                 u"VEINTE "sv,
                  veintiuno,
-                 u"VEINTIDÓS ",
-                 u"VEINTITRÉS ",
-                 u"VEINTICUATRO ",
-                 u"VEINTICINCO ",
-                 u"VEINTISÉIS ",
-                 u"VEINTISIETE ",
-                 u"VEINTIOCHO ",
-                 u"VEINTINUEVE "};
-    p.decenas = {u"",           u"",         u"",         u"TREINTA ", u"CUARENTA ",
-                 u"CINCUENTA ", u"SESENTA ", u"SETENTA ", u"OCHENTA ", u"NOVENTA "};
+                 u"VEINTIDÓS "sv,
+                 u"VEINTITRÉS "sv,
+                 u"VEINTICUATRO "sv,
+                 u"VEINTICINCO "sv,
+                 u"VEINTISÉIS "sv,
+                 u"VEINTISIETE "sv,
+                 u"VEINTIOCHO "sv,
+                 u"VEINTINUEVE "sv};
+    p.decenas = {u""sv,           u""sv,         u""sv,         u"TREINTA "sv, u"CUARENTA "sv,
+                 u"CINCUENTA "sv, u"SESENTA "sv, u"SETENTA "sv, u"OCHENTA "sv, u"NOVENTA "sv};
     if (femenino)
-        p.centenas = {u"",
-                      u"CIENTO ",
-                      u"DOSCIENTAS ",
-                      u"TRESCIENTAS ",
-                      u"CUATROCIENTAS ",
-                      u"QUINIENTAS ",
-                      u"SEISCIENTAS ",
-                      u"SETECIENTAS ",
-                      u"OCHOCIENTAS ",
-                      u"NOVECIENTAS "};
+        p.centenas = {u""sv,
+                      u"CIENTO "sv,
+                      u"DOSCIENTAS "sv,
+                      u"TRESCIENTAS "sv,
+                      u"CUATROCIENTAS "sv,
+                      u"QUINIENTAS "sv,
+                      u"SEISCIENTAS "sv,
+                      u"SETECIENTAS "sv,
+                      u"OCHOCIENTAS "sv,
+                      u"NOVECIENTAS "sv};
     else
-        p.centenas = {u"",
-                      u"CIENTO ",
-                      u"DOSCIENTOS ",
-                      u"TRESCIENTOS ",
-                      u"CUATROCIENTOS ",
-                      u"QUINIENTOS ",
-                      u"SEISCIENTOS ",
-                      u"SETECIENTOS ",
-                      u"OCHOCIENTOS ",
-                      u"NOVECIENTOS "};
+        p.centenas = {u""sv,
+                      u"CIENTO "sv,
+                      u"DOSCIENTOS "sv,
+                      u"TRESCIENTOS "sv,
+                      u"CUATROCIENTOS "sv,
+                      u"QUINIENTOS "sv,
+                      u"SEISCIENTOS "sv,
+                      u"SETECIENTOS "sv,
+                      u"OCHOCIENTOS "sv,
+                      u"NOVECIENTOS "sv};
     return p;
 }
 
 // The one short word of one, whatever the gender.
-constexpr const char16_t* kUnCorto = u"UN ";
+constexpr std::u16string_view kUnCorto = u"UN "sv;
+
+inline void anade(QString& r, std::u16string_view v) {
+    r.append(reinterpret_cast<const QChar*>(v.data()), qsizetype(v.size()));
+}
 
 void cientos(int u, int t, int h, bool corto, const PalabrasNumero& p, QString& r, int grupo) {
     const int grupoEntero = 100 * h + 10 * t + u;
     if (grupoEntero == 100)
-        r += u"CIEN ";
+        anade(r, u"CIEN "sv);
     else if (grupoEntero > 99)
-        r += p.centenas[size_t(h)];
+        anade(r, p.centenas[size_t(h)]);
     const int resto = 10 * t + u;
     if (resto == 0) return;
-    const char16_t* uno = corto ? kUnCorto : p.hasta29[1];
+    const std::u16string_view uno = corto ? kUnCorto : p.hasta29[1];
     if (grupoEntero == 1) {
         if (grupo != 1) // one thousand is "MIL" alone
-            r += uno;
+            anade(r, uno);
     } else if (resto == 21)
-        r += corto ? p.hasta29[21] : u"VEINTIUNO ";
+        anade(r, corto ? p.hasta29[21] : u"VEINTIUNO "sv);
     else if (resto >= 30) {
-        r += p.decenas[size_t(t)];
+        anade(r, p.decenas[size_t(t)]);
         if (u != 0) {
-            r += u"Y ";
-            r += u == 1 ? uno : p.hasta29[size_t(u)];
+            anade(r, u"Y "sv);
+            anade(r, u == 1 ? uno : p.hasta29[size_t(u)]);
         }
     } else if (resto == 1)
-        r += uno;
+        anade(r, uno);
     else
-        r += p.hasta29[size_t(resto)]; // 2..20, 22..29
+        anade(r, p.hasta29[size_t(resto)]); // 2..20, 22..29
 }
 
 // Six digits held as a number (0..999 999).
@@ -106,7 +112,7 @@ void seisCifras(int v, QString& r, const PalabrasNumero& p, bool corto) {
     const int miles = v / 1000, ultimas = v % 1000;
     // The thousands' short form depends on the last three digits, not on the caller.
     cientos(miles % 10, miles / 10 % 10, miles / 100, ultimas != 0, p, r, 1);
-    if (miles != 0) r += u"MIL ";
+    if (miles != 0) anade(r, u"MIL "sv);
     cientos(ultimas % 10, ultimas / 10 % 10, ultimas / 100, corto, p, r, 2);
 }
 
@@ -114,62 +120,57 @@ bool enRango(double x) {
     return std::isfinite(x) && x >= 0 && x < double(kMaximo + 1);
 }
 
-// Value of a string of decimal digits, or -1 when it is beyond the words' range.
-qint64 valorDigitos(const QString& digitos) {
-    qsizetype i = 0;
-    while (i < digitos.size() && digitos[i] == u'0')
-        ++i;
-    if (digitos.size() - i > 12) return -1;
-    return Cad_Int64(digitos.mid(i));
-}
-
-struct Partes {
-    qint64 entera = -1;
-    QString decimal;
-};
-
-// Integer and decimal digits of x as `Float_Cad` writes it; entera is -1 outside the words' range.
-Partes parte(double x) {
-    Partes p;
-    if (!enRango(x)) return p;
-    QString entera;
-    ParteEnteraDecimal(Float_Cad(x), entera, p.decimal);
-    p.decimal = Trim(p.decimal);
-    p.entera = Cad_Int64(entera);
-    return p;
-}
-
 bool minus(QChar minusculas) {
     return minusculas == u'S';
+}
+
+// Lower-cases in place what was appended from `desde` on (the words' letters and accented capitals).
+void enMinusculas(QString& r, qsizetype desde) {
+    QChar* c = r.data() + desde;
+    for (QChar* fin = r.data() + r.size(); c != fin; ++c) {
+        const char16_t u = c->unicode();
+        *c = u >= u'A' && u <= u'Z' ? QChar(char16_t(u | 0x20)) : c->toLower();
+    }
+}
+
+// Appends the words of `numero` (in range) without the final blank.
+void anadeLetras(QString& r, qint64 numero, QChar genero, bool minusculas, bool corto) {
+    const qsizetype desde = r.size();
+    if (numero == 0)
+        anade(r, u"CERO "sv);
+    else {
+        const PalabrasNumero& p = TablaPalabras(genero);
+        const int millones = int(numero / 1'000'000), unidades = int(numero % 1'000'000);
+        if (millones == 1)
+            anade(r, u"UN MILLON "sv);
+        else if (millones > 1) {
+            seisCifras(millones, r, p, true);
+            anade(r, u"MILLONES "sv);
+        }
+        if (unidades != 0)
+            seisCifras(unidades, r, p, corto);
+        else
+            anade(r, u"DE "sv); // "UN MILLON DE" reads right before the unit
+    }
+    r.chop(1); // every word ends in one blank and none starts with one
+    if (minusculas) enMinusculas(r, desde);
 }
 
 } // namespace
 
 const PalabrasNumero& TablaPalabras(QChar genero) {
-    static const PalabrasNumero femenino = creaTabla(u"UNA ", u"VEINTIUNA ", true);
-    static const PalabrasNumero masculino = creaTabla(u"UNO ", u"VEINTIÚN ", false);
-    static const PalabrasNumero otro = creaTabla(u"UNO ", u"VEINTIUNO ", false);
+    static const PalabrasNumero femenino = creaTabla(u"UNA "sv, u"VEINTIUNA "sv, true);
+    static const PalabrasNumero masculino = creaTabla(u"UNO "sv, u"VEINTIÚN "sv, false);
+    static const PalabrasNumero otro = creaTabla(u"UNO "sv, u"VEINTIUNO "sv, false);
     return genero == u'F' ? femenino : genero == u'M' ? masculino : otro;
 }
 
 QString LetrasNod(qint64 numero, QChar genero, QChar minusculas, bool corto) {
     if (numero < 0 || numero > kMaximo) return {};
-    if (numero == 0) return minus(minusculas) ? QStringLiteral("cero") : QStringLiteral("CERO");
-    const PalabrasNumero& p = TablaPalabras(genero);
-    const int millones = int(numero / 1'000'000), unidades = int(numero % 1'000'000);
     QString r;
-    r.reserve(192);
-    if (millones == 1)
-        r += u"UN MILLON ";
-    else if (millones > 1) {
-        seisCifras(millones, r, p, true);
-        r += u"MILLONES ";
-    }
-    if (unidades != 0)
-        seisCifras(unidades, r, p, corto);
-    else
-        r += u"DE "; // "UN MILLON DE" reads right before the unit
-    return Trim(minus(minusculas) ? lowerCase(r) : r);
+    r.reserve(numero < 1'000'000 ? 80 : 200);
+    anadeLetras(r, numero, genero, minus(minusculas), corto);
+    return r;
 }
 
 void SeisCifrasNod(const QString& seis, QString& resultado, const PalabrasNumero& palabras, bool corto) {
@@ -198,46 +199,60 @@ void CientosNod(int unidades, int decenas, int centenas, bool corto, QChar gener
 }
 
 QString LetrasDecimalNod(double numero, int decimales, QChar genero, QChar minusculas) {
-    const Partes p = parte(numero);
-    if (p.entera < 0) return {};
-    QString r = LetrasNod(p.entera, genero, minusculas, false);
-    const int n = qMax(decimales, 0);
-    const qint64 decimal = valorDigitos((p.decimal + QString(n, u'0')).left(n));
+    if (!enRango(numero)) return {};
+    const Cifras c(numero);
+    const qint64 decimal = ValorDigitosRellenos(c.decimal(), decimales, kCifrasMaximas);
     if (decimal < 0) return {};
-    if (decimal != 0)
-        r += (minus(minusculas) ? u" con "_s : u" CON "_s) + LetrasNod(decimal, genero, minusculas, false);
+    const bool m = minus(minusculas);
+    QString r;
+    r.reserve(200);
+    anadeLetras(r, ValorDigitos(c.entera(), kCifrasMaximas), genero, m, false);
+    if (decimal != 0) {
+        anade(r, m ? u" con "sv : u" CON "sv);
+        anadeLetras(r, decimal, genero, m, false);
+    }
     return r;
 }
 
 QString LetrasPorCientoNod(double numero, QChar genero, QChar minusculas) {
-    const Partes p = parte(numero);
-    if (p.entera < 0) return {};
-    QString r = LetrasNod(p.entera, genero, minusculas, false);
-    const qint64 decimal = valorDigitos(p.decimal);
+    if (!enRango(numero)) return {};
+    const Cifras c(numero);
+    const qint64 decimal = ValorDigitos(c.decimal(), kCifrasMaximas);
     if (decimal < 0) return {};
-    if (decimal == 0) return r;
-    static const char16_t* const kMayus[] = {u"", u" DÉCIMAS", u" CENTÉSIMAS", u" MILÉSIMAS"};
-    static const char16_t* const kMinus[] = {u"", u" décimas", u" centésimas", u" milésimas"};
-    const qsizetype k = p.decimal.size();
     const bool m = minus(minusculas);
-    r += m ? u" enteros con "_s : u" ENTEROS CON "_s;
-    r += LetrasNod(decimal, genero, minusculas, false);
-    if (k <= 3) r += (m ? kMinus : kMayus)[k];
+    QString r;
+    r.reserve(200);
+    anadeLetras(r, ValorDigitos(c.entera(), kCifrasMaximas), genero, m, false);
+    if (decimal == 0) return r;
+    static constexpr std::u16string_view kMayus[] = {u"", u" DÉCIMAS", u" CENTÉSIMAS", u" MILÉSIMAS"};
+    static constexpr std::u16string_view kMinus[] = {u"", u" décimas", u" centésimas", u" milésimas"};
+    anade(r, m ? u" enteros con "sv : u" ENTEROS CON "sv);
+    anadeLetras(r, decimal, genero, m, false);
+    const size_t k = c.decimal().size();
+    if (k <= 3) anade(r, (m ? kMinus : kMayus)[k]);
     return r;
 }
 
 QString EurosEnLetra(double importe, const QString& minusculas) {
-    const Partes p = parte(importe);
-    if (p.entera < 0) return {};
+    if (!enRango(importe)) return {};
+    const Cifras c(importe);
+    // One decimal digit stands for tens of cents: 21,5 is 21 euros 50.
+    const qint64 centimos =
+        ValorDigitosRellenos(c.decimal(), qMax<qint64>(2, qint64(c.decimal().size())), kCifrasMaximas);
+    if (centimos < 0) return {};
     const QChar caso = minusculas.isEmpty() ? QChar() : minusculas[0];
     const bool m = minus(caso);
-    const QString euros = m ? u" euros"_s : u" EUROS"_s;
-    if (p.decimal.isEmpty()) return LetrasNod(std::llround(importe), u'M', caso, true) + euros;
-    // One decimal digit stands for tens of cents: 21,5 is 21 euros 50.
-    const qint64 centimos = valorDigitos(p.decimal.size() == 1 ? p.decimal + u'0' : p.decimal);
-    if (centimos < 0) return {};
-    return LetrasNod(p.entera, u'M', caso, true) + euros + (m ? u" con "_s : u" CON "_s) +
-           LetrasNod(centimos, u'M', caso, true) + (m ? u" céntimos"_s : u" CENTIMOS"_s);
+    QString r;
+    r.reserve(200);
+    // Without decimals the amount is a whole number already, its own rounding.
+    anadeLetras(r, ValorDigitos(c.entera(), kCifrasMaximas), u'M', m, true);
+    anade(r, m ? u" euros"sv : u" EUROS"sv);
+    if (!c.decimal().empty()) {
+        anade(r, m ? u" con "sv : u" CON "sv);
+        anadeLetras(r, centimos, u'M', m, true);
+        anade(r, m ? u" céntimos"sv : u" CENTIMOS"sv);
+    }
+    return r;
 }
 
 QString Letras_Pesetas(qint64, QChar) {

@@ -10,6 +10,7 @@
 #include <QChar>
 #include <QString>
 #include <array>
+#include <string_view>
 
 namespace nod {
 
@@ -17,9 +18,9 @@ namespace nod {
 /// "VEINTINUEVE " ([21] by gender: "VEINTIUNA ", "VEINTIÚN ", "VEINTIUNO "), the tens "TREINTA " ..
 /// "NOVENTA " and the hundreds "CIENTO ", "DOSCIENTOS "/"DOSCIENTAS " ...
 struct PalabrasNumero {
-    std::array<const char16_t*, 30> hasta29{};
-    std::array<const char16_t*, 10> decenas{};  // [3..9]
-    std::array<const char16_t*, 10> centenas{}; // [1..9]
+    std::array<std::u16string_view, 30> hasta29{};
+    std::array<std::u16string_view, 10> decenas{};  // [3..9]
+    std::array<std::u16string_view, 10> centenas{}; // [1..9]
 };
 
 /// The table for a gender character.

@@ -24,12 +24,7 @@ double cambio() {
 QString agrupaEntero(QString s) {
     const bool negativo = s.startsWith(u'-');
     if (negativo) s.remove(0, 1);
-    QString grupos;
-    while (s.size() >= 4) {
-        grupos.prepend(u'.' + s.right(3));
-        s.chop(3);
-    }
-    return (negativo ? QStringLiteral("-") : QString()) + s + grupos;
+    return (negativo ? QStringLiteral("-") : QString()) + AgrupaMiles(s);
 }
 
 // Half up at `decimales` places, through the written digits of the fraction.
@@ -76,14 +71,11 @@ qint64 EurosPesetasNod(double euros) {
 QString PuntosNod(const QString& numero, bool decimal) {
     const QString s = TrimTotal(numero);
     if (!decimal) return agrupaEntero(s);
-    QString r;
-    for (QChar c : s) {
-        if (c == u'.')
-            r = agrupaEntero(r) + u',';
-        else
-            r += c;
-    }
-    return r.contains(u',') ? r : agrupaEntero(r);
+    // The first "." is the decimal point; any later one is kept as it stands (regrouping the text
+    // again at each of them would only garble it further, and grows it without bound).
+    const qsizetype punto = s.indexOf(u'.');
+    if (punto < 0) return s.contains(u',') ? s : agrupaEntero(s);
+    return agrupaEntero(s.left(punto)) + u',' + s.mid(punto + 1);
 }
 
 } // namespace nod

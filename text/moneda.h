@@ -24,7 +24,8 @@ qint64 EurosPesetasNod(double euros);
 /// A number written with "." as decimal point, regrouped the Spanish way: blanks are removed, thousands
 /// are grouped with "." and (when `decimal` is true) the decimal point becomes ",":
 /// PuntosNod("1234567.89", true) == "1.234.567,89", PuntosNod("-123456", false) == "-123.456",
-/// PuntosNod("1 234", false) == "1.234". Other characters are kept as they stand.
+/// PuntosNod("1 234", false) == "1.234". Other characters, and any "." after the first, are kept as they
+/// stand; a text with "," and no "." is returned without grouping.
 QString PuntosNod(const QString& numero, bool decimal);
 
 } // namespace nod
