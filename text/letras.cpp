@@ -3,7 +3,9 @@
 #include "companion/rnumcad.h"
 #include "text/cifras.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace nod {
 
@@ -77,11 +79,31 @@ PalabrasNumero creaTabla(std::u16string_view uno, std::u16string_view veintiuno,
 // The one short word of one, whatever the gender.
 constexpr std::u16string_view kUnCorto = u"UN "sv;
 
-inline void anade(QString& r, std::u16string_view v) {
-    r.append(reinterpret_cast<const QChar*>(v.data()), qsizetype(v.size()));
+// The words are written into a buffer on the stack and become a QString once, in one allocation.
+// The longest text written here (an amount in euros with its cents) is under 400 characters.
+class Texto {
+public:
+    void anade(std::u16string_view v) {
+        if (v.size() > kCapacidad - m_n) return;
+        std::memcpy(m_d + m_n, v.data(), v.size() * sizeof(char16_t));
+        m_n += v.size();
+    }
+    size_t size() const { return m_n; }
+    void chop(size_t n) { m_n -= std::min(n, m_n); }
+    char16_t* data() { return m_d; }
+    QString qstring() const { return QString(reinterpret_cast<const QChar*>(m_d), qsizetype(m_n)); }
+
+private:
+    static constexpr size_t kCapacidad = 640;
+    char16_t m_d[kCapacidad];
+    size_t m_n = 0;
+};
+
+inline void anade(Texto& r, std::u16string_view v) {
+    r.anade(v);
 }
 
-void cientos(int u, int t, int h, bool corto, const PalabrasNumero& p, QString& r, int grupo) {
+void cientos(int u, int t, int h, bool corto, const PalabrasNumero& p, Texto& r, int grupo) {
     const int grupoEntero = 100 * h + 10 * t + u;
     if (grupoEntero == 100)
         anade(r, u"CIEN "sv);
@@ -108,7 +130,7 @@ void cientos(int u, int t, int h, bool corto, const PalabrasNumero& p, QString& 
 }
 
 // Six digits held as a number (0..999 999).
-void seisCifras(int v, QString& r, const PalabrasNumero& p, bool corto) {
+void seisCifras(int v, Texto& r, const PalabrasNumero& p, bool corto) {
     const int miles = v / 1000, ultimas = v % 1000;
     // The thousands' short form depends on the last three digits, not on the caller.
     cientos(miles % 10, miles / 10 % 10, miles / 100, ultimas != 0, p, r, 1);
@@ -125,17 +147,14 @@ bool minus(QChar minusculas) {
 }
 
 // Lower-cases in place what was appended from `desde` on (the words' letters and accented capitals).
-void enMinusculas(QString& r, qsizetype desde) {
-    QChar* c = r.data() + desde;
-    for (QChar* fin = r.data() + r.size(); c != fin; ++c) {
-        const char16_t u = c->unicode();
-        *c = u >= u'A' && u <= u'Z' ? QChar(char16_t(u | 0x20)) : c->toLower();
-    }
+void enMinusculas(Texto& r, size_t desde) {
+    for (char16_t* c = r.data() + desde; c != r.data() + r.size(); ++c)
+        *c = *c >= u'A' && *c <= u'Z' ? char16_t(*c | 0x20) : QChar(*c).toLower().unicode();
 }
 
 // Appends the words of `numero` (in range) without the final blank.
-void anadeLetras(QString& r, qint64 numero, QChar genero, bool minusculas, bool corto) {
-    const qsizetype desde = r.size();
+void anadeLetras(Texto& r, qint64 numero, QChar genero, bool minusculas, bool corto) {
+    const size_t desde = r.size();
     if (numero == 0)
         anade(r, u"CERO "sv);
     else {
@@ -167,10 +186,9 @@ const PalabrasNumero& TablaPalabras(QChar genero) {
 
 QString LetrasNod(qint64 numero, QChar genero, QChar minusculas, bool corto) {
     if (numero < 0 || numero > kMaximo) return {};
-    QString r;
-    r.reserve(numero < 1'000'000 ? 80 : 200);
+    Texto r;
     anadeLetras(r, numero, genero, minus(minusculas), corto);
-    return r;
+    return r.qstring();
 }
 
 void SeisCifrasNod(const QString& seis, QString& resultado, const PalabrasNumero& palabras, bool corto) {
@@ -179,7 +197,9 @@ void SeisCifrasNod(const QString& seis, QString& resultado, const PalabrasNumero
     int v = 0;
     for (int i = 0; i < 6; ++i)
         v = 10 * v + (EsUnNumero(grupo[i]) ? grupo[i].unicode() - u'0' : 0);
-    seisCifras(v, resultado, palabras, corto);
+    Texto t;
+    seisCifras(v, t, palabras, corto);
+    resultado += t.qstring();
 }
 
 void SeisCifrasNod(const QString& seis, QString& resultado, QChar genero, bool corto) {
@@ -190,7 +210,9 @@ void CientosNod(int unidades, int decenas, int centenas, bool corto, const Palab
                 QString& resultado, int grupo) {
     for (int d : {unidades, decenas, centenas})
         if (d < 0 || d > 9) return;
-    cientos(unidades, decenas, centenas, corto, palabras, resultado, grupo);
+    Texto t;
+    cientos(unidades, decenas, centenas, corto, palabras, t, grupo);
+    resultado += t.qstring();
 }
 
 void CientosNod(int unidades, int decenas, int centenas, bool corto, QChar genero, QString& resultado,
@@ -204,14 +226,13 @@ QString LetrasDecimalNod(double numero, int decimales, QChar genero, QChar minus
     const qint64 decimal = ValorDigitosRellenos(c.decimal(), decimales, kCifrasMaximas);
     if (decimal < 0) return {};
     const bool m = minus(minusculas);
-    QString r;
-    r.reserve(200);
+    Texto r;
     anadeLetras(r, ValorDigitos(c.entera(), kCifrasMaximas), genero, m, false);
     if (decimal != 0) {
         anade(r, m ? u" con "sv : u" CON "sv);
         anadeLetras(r, decimal, genero, m, false);
     }
-    return r;
+    return r.qstring();
 }
 
 QString LetrasPorCientoNod(double numero, QChar genero, QChar minusculas) {
@@ -220,17 +241,16 @@ QString LetrasPorCientoNod(double numero, QChar genero, QChar minusculas) {
     const qint64 decimal = ValorDigitos(c.decimal(), kCifrasMaximas);
     if (decimal < 0) return {};
     const bool m = minus(minusculas);
-    QString r;
-    r.reserve(200);
+    Texto r;
     anadeLetras(r, ValorDigitos(c.entera(), kCifrasMaximas), genero, m, false);
-    if (decimal == 0) return r;
+    if (decimal == 0) return r.qstring();
     static constexpr std::u16string_view kMayus[] = {u"", u" DÉCIMAS", u" CENTÉSIMAS", u" MILÉSIMAS"};
     static constexpr std::u16string_view kMinus[] = {u"", u" décimas", u" centésimas", u" milésimas"};
     anade(r, m ? u" enteros con "sv : u" ENTEROS CON "sv);
     anadeLetras(r, decimal, genero, m, false);
     const size_t k = c.decimal().size();
     if (k <= 3) anade(r, (m ? kMinus : kMayus)[k]);
-    return r;
+    return r.qstring();
 }
 
 QString EurosEnLetra(double importe, const QString& minusculas) {
@@ -242,8 +262,7 @@ QString EurosEnLetra(double importe, const QString& minusculas) {
     if (centimos < 0) return {};
     const QChar caso = minusculas.isEmpty() ? QChar() : minusculas[0];
     const bool m = minus(caso);
-    QString r;
-    r.reserve(200);
+    Texto r;
     // Without decimals the amount is a whole number already, its own rounding.
     anadeLetras(r, ValorDigitos(c.entera(), kCifrasMaximas), u'M', m, true);
     anade(r, m ? u" euros"sv : u" EUROS"sv);
@@ -252,7 +271,7 @@ QString EurosEnLetra(double importe, const QString& minusculas) {
         anadeLetras(r, centimos, u'M', m, true);
         anade(r, m ? u" céntimos"sv : u" CENTIMOS"sv);
     }
-    return r;
+    return r.qstring();
 }
 
 QString Letras_Pesetas(qint64, QChar) {
