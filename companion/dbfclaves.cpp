@@ -3,19 +3,12 @@
 #include <QDate>
 #include <QDateTime>
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 
 namespace nod {
 
 namespace {
-
-int comparaBytes(QByteArrayView a, QByteArrayView b, bool parcial) {
-    const qsizetype n = std::min(a.size(), b.size());
-    const int c = n ? std::memcmp(a.data(), b.data(), size_t(n)) : 0;
-    if (c != 0) return c;
-    if (parcial && b.size() <= a.size()) return 0;
-    return a.size() < b.size() ? -1 : a.size() > b.size() ? 1 : 0;
-}
 
 ValorPreparado numeroDe(const QVariant& valor, char tipo) {
     ValorPreparado v;
@@ -45,11 +38,20 @@ ValorPreparado numeroDe(const QVariant& valor, char tipo) {
         if (!ok) return v;
     }
     }
+    if (!std::isfinite(v.numero)) return v; // an infinite or NaN key equals no field
     v.clase = ValorPreparado::Clase::Numero;
     return v;
 }
 
 } // namespace
+
+int ComparaBytesDbf(QByteArrayView a, QByteArrayView b, bool parcial) {
+    const qsizetype n = std::min(a.size(), b.size());
+    const int c = n ? std::memcmp(a.data(), b.data(), size_t(n)) : 0;
+    if (c != 0) return c;
+    if (parcial && b.size() <= a.size()) return 0;
+    return a.size() < b.size() ? -1 : a.size() > b.size() ? 1 : 0;
+}
 
 ValorPreparado PreparaValor(const DatosDbf& datos, int campo, const QVariant& valor) {
     const char tipo = datos.campos()[campo].tipo;
@@ -73,7 +75,7 @@ int ComparaCampo(const DatosDbf& datos, int fila, int campo, const ValorPreparad
         return x < valor.numero ? -1 : x > valor.numero ? 1 : 0;
     }
     case ValorPreparado::Clase::Texto:
-        return comparaBytes(datos.crudo(fila, campo), valor.texto, parcial);
+        return ComparaBytesDbf(datos.crudo(fila, campo), valor.texto, parcial);
     case ValorPreparado::Clase::Imposible:
         break;
     }
@@ -107,7 +109,7 @@ const OrdenIndice& DatosDbf::orden(const std::vector<int>& campos) const {
                 if (!numeros[k].empty())
                     c = numeros[k][a] < numeros[k][b] ? -1 : numeros[k][a] > numeros[k][b] ? 1 : 0;
                 else
-                    c = comparaBytes(crudo(int(a), campos[k]), crudo(int(b), campos[k]), false);
+                    c = ComparaBytesDbf(crudo(int(a), campos[k]), crudo(int(b), campos[k]), false);
                 if (c != 0) return c < 0;
             }
             return false;

@@ -9,6 +9,10 @@
 
 namespace nod {
 
+/// Compares a character field's bytes (trailing blanks dropped) with a text in the table's page: by bytes,
+/// the shorter first on a tie; `parcial`: equal when the field begins with the text.
+int ComparaBytesDbf(QByteArrayView campo, QByteArrayView texto, bool parcial);
+
 /// A search value made ready for one field.
 struct ValorPreparado {
     enum class Clase { Texto, Numero, Imposible } clase = Clase::Imposible; // Imposible: matches nothing

@@ -9,6 +9,7 @@
 #include <QHash>
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstring>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -151,8 +152,10 @@ bool LeeNumeroDbf(QByteArrayView texto, double& valor) {
         return true;
     }
     if (*p == '+') ++p;
+    // from_chars also reads "inf" and "nan", which no dBase writer puts in a numeric field and which
+    // would break the ordering of an index.
     const auto r = std::from_chars(p, fin, valor, std::chars_format::general);
-    return r.ec == std::errc() && r.ptr == fin;
+    return r.ec == std::errc() && r.ptr == fin && std::isfinite(valor);
 }
 
 std::shared_ptr<DatosDbf> DatosDbf::DesdeBytes(const QString& ruta, QByteArray bytes, QByteArray memo,

@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -195,6 +196,23 @@ struct TTabla::Impl {
             }
     }
 
+    // The leading key field of the tag, the one TBBuscaClave searches.
+    int campoPrincipal() const {
+        if (orden->campos.empty()) falla(QStringLiteral("no está ordenada por ningún índice"));
+        return orden->campos[0];
+    }
+
+    // Stands on the first visible row from position p on, while `igual` says the key still matches.
+    template <typename Igual> bool posicionaDesde(qsizetype p, Igual igual) {
+        for (; p < hi && igual(p); ++p)
+            if (visible(p)) {
+                pos = p;
+                eof = bof = false;
+                return true;
+            }
+        return false;
+    }
+
     const char* registroActual() const { return pos >= 0 ? datos->registro(fila(pos)) : nullptr; }
 
     char* campoEnBuffer(const QString& nombre, int& c) {
@@ -213,6 +231,7 @@ struct TTabla::Impl {
                       .arg(QString::fromLatin1(bytes), nombre)
                       .arg(ancho));
         std::memset(p, ' ', size_t(ancho));
+        if (bytes.isEmpty()) return; // a blank field (an empty view has no data pointer to copy from)
         std::memcpy(p + (alineaDerecha ? ancho - bytes.size() : 0), bytes.data(), size_t(bytes.size()));
     }
 };
@@ -487,6 +506,51 @@ bool TBBusca(TTabla& tb, const TClaves& claves, bool exacta) {
             return true;
         }
     return false;
+}
+
+bool TBBuscaClave(TTabla& tb, double valor) {
+    auto& d = *tb.d;
+    const int c = d.campoPrincipal();
+    const std::vector<double>& claves = d.orden->claves;
+    if (claves.empty()) return TBBusca(tb, {{d.datos->campos()[c].nombre, valor}}); // a character field
+    if (!std::isfinite(valor)) return false;
+    const auto desde = std::lower_bound(claves.begin() + d.lo, claves.begin() + d.hi, valor);
+    return d.posicionaDesde(desde - claves.begin(), [&](qsizetype p) { return claves[size_t(p)] == valor; });
+}
+
+bool TBBuscaClave(TTabla& tb, QStringView valor) {
+    auto& d = *tb.d;
+    const int c = d.campoPrincipal();
+    const TCampoDbf& campo = d.datos->campos()[c];
+    while (!valor.isEmpty() && valor.back() == QLatin1Char(' '))
+        valor.chop(1);
+    // Plain ASCII reads the same in every page the office meets: it is copied, not encoded. Anything else,
+    // and fields that are neither text nor numbers, take the general path.
+    char ascii[256];
+    const bool simple = (campo.tipo == 'C' || campo.tipo == 'N' || campo.tipo == 'F') &&
+                        valor.size() <= qsizetype(sizeof ascii) &&
+                        std::all_of(valor.begin(), valor.end(),
+                                    [](QChar ch) { return ch.unicode() >= 0x20 && ch.unicode() < 0x7F; });
+    if (!simple) return TBBusca(tb, {{campo.nombre, valor.toString()}});
+    for (qsizetype i = 0; i < valor.size(); ++i)
+        ascii[i] = char(valor[i].unicode());
+    const QByteArrayView texto(ascii, valor.size());
+    if (campo.tipo != 'C') {
+        double numero = 0;
+        return LeeNumeroDbf(texto, numero) && TBBuscaClave(tb, numero);
+    }
+    const auto compara = [&](qsizetype p) {
+        return ComparaBytesDbf(d.datos->crudo(d.fila(p), c), texto, false);
+    };
+    qsizetype lo = d.lo, hi = d.hi;
+    while (lo < hi) {
+        const qsizetype m = lo + (hi - lo) / 2;
+        if (compara(m) < 0)
+            lo = m + 1;
+        else
+            hi = m;
+    }
+    return d.posicionaDesde(lo, [&](qsizetype p) { return compara(p) == 0; });
 }
 
 void TBRango(TTabla& tb, const TClaves& desde, const TClaves& hasta) {

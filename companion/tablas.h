@@ -102,7 +102,10 @@ public:
     TDateTime AsDateTime(const QString& campo) const;
     /// True when the field holds only blanks.
     bool EsNulo(const QString& campo) const;
-    // The same by field position (see IndiceCampo), without a name lookup.
+    // The same by field position, for scans: resolve each field once with IndiceCampo, then every row's
+    // value is decoded straight from the record's bytes at the field's offset, with no name lookup.
+    //     const int cod = tb->IndiceCampo("CODCLIENTE");
+    //     for (tb->First(); !tb->Eof(); tb->Next()) TBBuscaClave(*clientes, tb->AsLargeInt(cod));
     QString AsString(int campo) const;
     qint64 AsLargeInt(int campo) const;
     double AsFloat(int campo) const;
@@ -134,6 +137,8 @@ private:
 
     friend std::unique_ptr<TTabla> CreaTabla(const QString&, const QString&, const QString&);
     friend bool TBBusca(TTabla&, const TClaves&, bool);
+    friend bool TBBuscaClave(TTabla&, double);
+    friend bool TBBuscaClave(TTabla&, QStringView);
     friend void TBRango(TTabla&, const TClaves&, const TClaves&);
     friend void TBQuitaRango(TTabla&);
     friend void TBIndexa(TTabla&, const QString&);
@@ -162,6 +167,16 @@ std::unique_ptr<TTabla> CreaTablaSinExcepcion(const QString& alias, const QStrin
 /// whether a row was found; when none is, the cursor does not move.
 ///     TBBusca(*tb, {{"COD_PROV", "28"}, {"COD_MUN", "079"}})   // MADRID on tag "CPROVMUN"
 bool TBBusca(TTabla& tb, const TClaves& claves, bool exacta = true);
+
+/// The fast path of TBBusca for routines that look up many keys in one open table (the revision of client
+/// codes looks up a million of them): an exact search by one value of the leading key field of the current
+/// tag, a binary search over the tag's order with no field lookup by name and no allocation (a text with
+/// characters beyond ASCII is encoded per call). Same result and same cursor as
+/// `TBBusca(tb, {{leading field, valor}})`, range and filter included. Throws ErrorTabla when the table is
+/// in physical order (no tag).
+///     TBBuscaClave(*clientes, 1234)   // clientes opened on tag "CODCLIENTE"
+bool TBBuscaClave(TTabla& tb, double valor);
+bool TBBuscaClave(TTabla& tb, QStringView valor);
 
 /// Restricts the view to the rows whose key fields lie between `desde` and `hasta`, both included
 /// (compared as in TBBusca with exact values), and moves to the first of them. The fields need not be those

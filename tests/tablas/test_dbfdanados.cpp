@@ -85,6 +85,14 @@ TEST(TablasDanadas, KnownDamages) {
     b[cabecera + 14 + 3] = 'x'; // first record, date field
     const auto d = DatosDbf::DesdeBytes(QStringLiteral("DANADA.DBF"), b);
     EXPECT_THROW(d->fecha(0, 2), ErrorTabla);
+    // "inf" and "nan" are numbers to the C library, never to a dBase numeric field.
+    for (const char* texto : {"  nan", "  inf", "-inf ", "1e999"}) {
+        QByteArray n = sana;
+        n.replace(cabecera + 1, 5, texto);
+        const auto dn = DatosDbf::DesdeBytes(QStringLiteral("DANADA.DBF"), n);
+        EXPECT_THROW(dn->numero(0, 0), ErrorTabla) << texto;
+        EXPECT_THROW(dn->orden({0}), ErrorTabla) << texto;
+    }
 }
 
 TEST(TablasDanadas, RandomDamage) {

@@ -2,6 +2,9 @@
 // searches, ranges, filters, deletion, packing, and two processes appending at once.
 #include "companion/tablas.h"
 
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -205,29 +208,124 @@ TEST_F(Tablas, TwoProcessesAppendingLoseNothing) {
         }
 }
 
-TEST_F(Tablas, KilledPackLeavesTheTableWhole) {
-    {
-        auto tb = TTabla::AbreRuta(ruta);
-        for (int i = 0; i < 4000; ++i) {
-            tb->Append();
-            tb->SetInteger(QStringLiteral("CODIGO"), 1000 + i);
-            tb->Post();
-            if (i % 2 == 0) TBDelete(*tb);
-        }
+// A table of `n` records written in one go (CODIGO = record number from 1), every third one deleted;
+// returns the number of live records.
+int escribeTablaGrande(const QString& ruta, int n) {
+    CreaFicheroDbf(ruta, kCampos);
+    QFile f(ruta);
+    EXPECT_TRUE(f.open(QIODevice::ReadWrite));
+    QByteArray b = f.readAll();
+    if (b.endsWith('\x1a')) b.chop(1);
+    const QByteArray resto(20 + 10 + 1 + 8, ' ');
+    int vivas = 0;
+    for (int i = 1; i <= n; ++i) {
+        const bool borrada = i % 3 == 0;
+        vivas += borrada ? 0 : 1;
+        b += (borrada ? '*' : ' ') + QByteArray::number(i).rightJustified(6, ' ') + resto;
     }
-    const int vivas = TTabla::AbreRuta(ruta)->RecordCount();
+    b += '\x1a';
+    for (int k = 0; k < 4; ++k)
+        b[4 + k] = char(n >> (8 * k) & 0xFF);
+    f.seek(0);
+    f.write(b);
+    return vivas;
+}
+
+TEST_F(Tablas, KilledPackLeavesTheTableWhole) {
+    // Large enough for the pack to take far longer than noticing its new file takes.
+    const int vivas = escribeTablaGrande(ruta, 300000);
+    const QString nueva = dir.filePath(QStringLiteral("PRUEBA.empaquetando.dbf"));
     const pid_t hijo = fork();
     ASSERT_GE(hijo, 0);
     if (hijo == 0) {
         auto tb = TTabla::AbreRuta(ruta);
-        TBPackDbf(*tb);
-        _exit(0);
+        _exit(TBPackDbf(*tb) ? 0 : 1);
     }
-    usleep(2000);
+    // Kill the packer as soon as its new file exists: it is then copying the live records.
+    QElapsedTimer reloj;
+    reloj.start();
+    while (!QFileInfo::exists(nueva) && reloj.elapsed() < 60000)
+        usleep(100);
     kill(hijo, SIGKILL);
-    waitpid(hijo, nullptr, 0);
+    int estado = 0;
+    waitpid(hijo, &estado, 0);
+    ASSERT_TRUE(WIFSIGNALED(estado)) << "the pack ended before it was killed";
+    ASSERT_TRUE(QFileInfo::exists(nueva)) << "killed after the rename, not during the pack";
+
     OlvidaTablasCargadas();
+    auto tb = TTabla::AbreRuta(ruta, QStringLiteral("CODIGO"));
+    EXPECT_EQ(tb->RecordCount(), vivas);
+    for (int codigo : {1, 2, 4, 149998, 299999})
+        EXPECT_TRUE(TBBuscaClave(*tb, codigo)) << codigo;
+    EXPECT_FALSE(TBBuscaClave(*tb, 3)) << "deleted rows stay deleted";
+    // The half-written file left behind does not stop the next pack.
+    ASSERT_TRUE(TBPackDbf(*tb));
     EXPECT_EQ(TTabla::AbreRuta(ruta)->RecordCount(), vivas);
+    EXPECT_FALSE(QFileInfo::exists(nueva));
+}
+
+TEST_F(Tablas, KeySearchFastPathAgreesWithTBBusca) {
+    {
+        auto tb = TTabla::AbreRuta(ruta);
+        tb->Append();
+        tb->SetInteger(QStringLiteral("CODIGO"), 5);
+        tb->SetString(QStringLiteral("NOMBRE"), QStringLiteral("LOPEZ"));
+        tb->SetFloat(QStringLiteral("IMPORTE"), 50);
+        tb->Post();
+    }
+    struct C {
+        const char* indice;
+        const char* filtro;
+        bool rango; // IMPORTE between 0 and 100: not the tag's field
+        QVariant clave;
+        int recno; // 0: not found
+    };
+    const C casos[] = {
+        {"CODIGO", "", false, 2, 3},
+        {"CODIGO", "", false, 3, 1},
+        {"CODIGO", "", false, 4, 0},
+        {"CODIGO", "", false, -1, 0},
+        {"CODIGO", "", false, QStringLiteral("02"), 3},
+        {"CODIGO", "", false, QStringLiteral("x"), 0},
+        {"CODIGO", "ACTIVO=False", false, 2, 4},
+        {"CODIGO", "", true, 2, 4},
+        {"CODIGO", "", true, 1, 0},
+        {"CODIGO", "", true, 5, 5},
+        {"NOMBRE", "", false, QStringLiteral("LOPEZ"), 5},
+        {"NOMBRE", "", false, QStringLiteral("LOPEZ  "), 5},
+        {"NOMBRE", "", false, QStringLiteral("LOPE"), 0},
+        {"NOMBRE", "", false, QStringLiteral("LOPEZZ"), 0},
+        {"NOMBRE", "", false, QStringLiteral("GARCÍA"), 3},
+        {"NOMBRE", "", false, QStringLiteral("PEÑA"), 1},
+        {"NOMBRE", "CODIGO=5", false, QStringLiteral("PEÑA"), 0},
+        {"NOMBRE", "", true, QStringLiteral("ÁLVAREZ"), 0},
+    };
+    for (const C& c : casos) {
+        const QString que = QStringLiteral("%1 %2 %3 %4")
+                                .arg(QString::fromLatin1(c.indice), QString::fromLatin1(c.filtro))
+                                .arg(c.rango)
+                                .arg(c.clave.toString());
+        auto rapida = TTabla::AbreRuta(ruta, QString::fromLatin1(c.indice));
+        auto general = TTabla::AbreRuta(ruta, QString::fromLatin1(c.indice));
+        for (TTabla* tb : {rapida.get(), general.get()}) {
+            TBFiltra(*tb, QString::fromLatin1(c.filtro));
+            if (c.rango) TBRango(*tb, {{QStringLiteral("IMPORTE"), 0}}, {{QStringLiteral("IMPORTE"), 100}});
+            tb->Last();
+        }
+        const int antes = rapida->RecNo();
+        const bool hallada = c.clave.typeId() == QMetaType::QString
+                                 ? TBBuscaClave(*rapida, c.clave.toString())
+                                 : TBBuscaClave(*rapida, c.clave.toDouble());
+        EXPECT_EQ(hallada, c.recno != 0) << qPrintable(que);
+        EXPECT_EQ(rapida->RecNo(), c.recno ? c.recno : antes) << qPrintable(que);
+        EXPECT_EQ(
+            TBBusca(*general,
+                    {{rapida->Campos()[rapida->IndiceCampo(QString::fromLatin1(c.indice))].nombre, c.clave}}),
+            hallada)
+            << qPrintable(que);
+        EXPECT_EQ(general->RecNo(), rapida->RecNo()) << qPrintable(que);
+    }
+    EXPECT_THROW(TBBuscaClave(*TTabla::AbreRuta(ruta), 1), ErrorTabla) << "physical order has no key";
 }
 
 } // namespace
