@@ -1,8 +1,8 @@
 // nodrim: the library's routines from the shell and from scripts.
 //
 //   nodrim batch [--office DIR]          JSON Lines requests on standard input, responses on standard output
-//   nodrim [--office DIR] Routine args   one call; each argument is read as JSON when it parses
-//                                        (21, 2.5, true, "text"), otherwise as a plain string
+//   nodrim [--office DIR] Routine args   one call; each argument is read as the type of the routine's
+//                                        parameter (21 as an integer, 2.5, true, text as it stands)
 //   nodrim --help                        the routines and their argument types
 
 #include "apps/nodrim/lote.h"
@@ -12,6 +12,7 @@
 
 #include <clocale>
 #include <iostream>
+#include <optional>
 
 using namespace nod;
 using nod::lote::json;
@@ -29,17 +30,51 @@ int ayuda(std::ostream& os)
     return 0;
 }
 
-json argumento(const char* texto)
+// A shell word as the JSON value a parameter of the given type takes ("integer", "number&" ...);
+// nullopt when the word cannot be one.
+std::optional<json> comoTipo(const std::string& palabra, std::string tipo)
 {
-    json j = json::parse(texto, nullptr, false);
-    return j.is_discarded() || j.is_object() || j.is_array() ? json(texto) : j;
+    if (!tipo.empty() && tipo.back() == '&')
+        tipo.pop_back();
+    if (tipo == "string" || tipo == "character")
+        return json(palabra);
+    const json j = json::parse(palabra, nullptr, false);
+    const bool encaja = (tipo == "integer" && j.is_number_integer()) || (tipo == "number" && j.is_number()) ||
+                        (tipo == "boolean" && j.is_boolean());
+    return encaja ? std::optional<json>(j) : std::nullopt;
+}
+
+// The arguments for the first form of the routine whose parameter types all the words fit, so that
+// "28" reaches a text parameter as text; when none fits, each word as JSON when it parses, for the
+// error message to name what was given.
+json argumentos(const std::string& rutina, const std::vector<std::string>& palabras)
+{
+    if (const auto* formas = lote::TodasLasRutinas().busca(rutina)) {
+        for (const auto& forma : *formas) {
+            if (forma.parametros.size() != palabras.size())
+                continue;
+            json args = json::array();
+            for (size_t i = 0; i < palabras.size(); ++i) {
+                auto v = comoTipo(palabras[i], forma.parametros[i]);
+                if (!v)
+                    break;
+                args.push_back(*v);
+            }
+            if (args.size() == palabras.size())
+                return args;
+        }
+    }
+    json args = json::array();
+    for (const auto& p : palabras) {
+        const json j = json::parse(p, nullptr, false);
+        args.push_back(j.is_discarded() || j.is_object() || j.is_array() ? json(p) : j);
+    }
+    return args;
 }
 
 int unaLlamada(const std::string& rutina, const std::vector<std::string>& args)
 {
-    json peticion{{"fn", rutina}, {"args", json::array()}};
-    for (const auto& a : args)
-        peticion["args"].push_back(argumento(a.c_str()));
+    const json peticion{{"fn", rutina}, {"args", argumentos(rutina, args)}};
     const json r = lote::Atiende(peticion);
     for (const auto& d : r["dialogs"])
         std::cerr << d["kind"].get<std::string>() << ": " << d["title"].get<std::string>() << ": "
