@@ -2,11 +2,13 @@
 
 #include "companion/rnumcad.h"
 #include "text/cifras.h"
+#include "text/escritura.h"
 #include "text/letras.h"
 
 namespace nod {
 
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -14,23 +16,23 @@ QChar caracter(const QString& s, int i) {
     return i < s.size() ? s[i] : QChar();
 }
 
-void anadeAgrupado(QString& r, std::string_view digitos) {
+void anadeAgrupado(Texto& r, std::string_view digitos) {
     for (size_t i = 0; i < digitos.size(); ++i) {
-        if (i > 0 && (digitos.size() - i) % 3 == 0) r += u'.';
-        r += QLatin1Char(digitos[i]);
+        if (i > 0 && (digitos.size() - i) % 3 == 0) r.anade(u'.');
+        r.anade(char16_t(digitos[i]));
     }
 }
 
 // The figure by the picture "#," followed by `decimales` decimal places (the number's own digits padded
 // with zeros); the number is written exactly, never rounded, as the callers give at most that many.
-void anadeFigura(QString& r, const Cifras& c, size_t decimales) {
-    if (c.negativo()) r += u'-';
+void anadeFigura(Texto& r, const Cifras& c, size_t decimales) {
+    if (c.negativo()) r.anade(u'-');
     if (c.entera() != "0") anadeAgrupado(r, c.entera());
     if (decimales > 0) {
-        r += u',';
-        r += QLatin1StringView(c.decimal().data(), qsizetype(c.decimal().size()));
+        r.anade(u',');
+        r.anadeAscii(c.decimal());
         for (size_t k = c.decimal().size(); k < decimales; ++k)
-            r += u'0';
+            r.anade(u'0');
     }
 }
 
@@ -51,8 +53,9 @@ QString FormateaNumero(const QString& formato, double numero) {
     const QChar genero = caracter(formato, 2), caso = caracter(formato, 3);
     const Cifras c(numero);
     const size_t k = c.decimal().size();
-    QString cifra;
-    anadeFigura(cifra, c, k);
+    Texto t;
+    anadeFigura(t, c, k);
+    const QString cifra = t.qstring();
     // Without decimals LetrasDecimalNod reads the whole number, as LetrasNod would.
     auto palabras = [&] { return LetrasDecimalNod(numero, int(k), genero, caso); };
     auto porCiento = [&] { return LetrasPorCientoNod(numero, genero, caso); };
@@ -67,29 +70,28 @@ QString FormateaNumero(const QString& formato, double numero) {
 
 QString FormateaCantidad(const QString& formato, double importe) {
     const QStringView modo = QStringView(formato).left(2);
+    const QChar caso = caracter(formato, 2);
     const Cifras c(importe);
     const size_t k = c.decimal().size();
     const size_t decimales = k >= 3 ? k : k > 0 ? 2 : 0;
-    if (modo == u"M2") return EurosEnLetra(importe, formato.mid(2, 1));
-    QString r;
-    if (modo == u"M3" || modo == u"M4") {
-        const QString euros = EurosEnLetra(importe, formato.mid(2, 1));
-        r.reserve(euros.size() + 40);
-        if (modo == u"M4") {
-            r += euros;
-            r += u" ("_s;
-            anadeFigura(r, c, decimales);
-            r += u" € )"_s;
-        } else {
-            anadeFigura(r, c, decimales);
-            r += u" € ("_s;
-            r += euros;
-            r += u')';
-        }
-        return r;
+    Texto r;
+    if (modo == u"M2")
+        EscribeEurosEnLetra(r, importe, c, caso);
+    else if (modo == u"M3") {
+        anadeFigura(r, c, decimales);
+        r.anade(u" € ("sv);
+        EscribeEurosEnLetra(r, importe, c, caso);
+        r.anade(u')');
+    } else if (modo == u"M4") {
+        EscribeEurosEnLetra(r, importe, c, caso);
+        r.anade(u" ("sv);
+        anadeFigura(r, c, decimales);
+        r.anade(u" € )"sv);
+    } else { // "M1" and any other code
+        anadeFigura(r, c, decimales);
+        r.anade(u" €"sv);
     }
-    anadeFigura(r, c, decimales);
-    return r + u" €"_s; // "M1" and any other code
+    return r.qstring();
 }
 
 } // namespace nod

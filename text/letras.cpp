@@ -2,10 +2,10 @@
 
 #include "companion/rnumcad.h"
 #include "text/cifras.h"
+#include "text/escritura.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace nod {
 
@@ -79,54 +79,30 @@ PalabrasNumero creaTabla(std::u16string_view uno, std::u16string_view veintiuno,
 // The one short word of one, whatever the gender.
 constexpr std::u16string_view kUnCorto = u"UN "sv;
 
-// The words are written into a buffer on the stack and become a QString once, in one allocation.
-// The longest text written here (an amount in euros with its cents) is under 400 characters.
-class Texto {
-public:
-    void anade(std::u16string_view v) {
-        if (v.size() > kCapacidad - m_n) return;
-        std::memcpy(m_d + m_n, v.data(), v.size() * sizeof(char16_t));
-        m_n += v.size();
-    }
-    size_t size() const { return m_n; }
-    void chop(size_t n) { m_n -= std::min(n, m_n); }
-    char16_t* data() { return m_d; }
-    QString qstring() const { return QString(reinterpret_cast<const QChar*>(m_d), qsizetype(m_n)); }
-
-private:
-    static constexpr size_t kCapacidad = 640;
-    char16_t m_d[kCapacidad];
-    size_t m_n = 0;
-};
-
-inline void anade(Texto& r, std::u16string_view v) {
-    r.anade(v);
-}
-
 void cientos(int u, int t, int h, bool corto, const PalabrasNumero& p, Texto& r, int grupo) {
     const int grupoEntero = 100 * h + 10 * t + u;
     if (grupoEntero == 100)
-        anade(r, u"CIEN "sv);
+        r.anade(u"CIEN "sv);
     else if (grupoEntero > 99)
-        anade(r, p.centenas[size_t(h)]);
+        r.anade(p.centenas[size_t(h)]);
     const int resto = 10 * t + u;
     if (resto == 0) return;
     const std::u16string_view uno = corto ? kUnCorto : p.hasta29[1];
     if (grupoEntero == 1) {
         if (grupo != 1) // one thousand is "MIL" alone
-            anade(r, uno);
+            r.anade(uno);
     } else if (resto == 21)
-        anade(r, corto ? p.hasta29[21] : u"VEINTIUNO "sv);
+        r.anade(corto ? p.hasta29[21] : u"VEINTIUNO "sv);
     else if (resto >= 30) {
-        anade(r, p.decenas[size_t(t)]);
+        r.anade(p.decenas[size_t(t)]);
         if (u != 0) {
-            anade(r, u"Y "sv);
-            anade(r, u == 1 ? uno : p.hasta29[size_t(u)]);
+            r.anade(u"Y "sv);
+            r.anade(u == 1 ? uno : p.hasta29[size_t(u)]);
         }
     } else if (resto == 1)
-        anade(r, uno);
+        r.anade(uno);
     else
-        anade(r, p.hasta29[size_t(resto)]); // 2..20, 22..29
+        r.anade(p.hasta29[size_t(resto)]); // 2..20, 22..29
 }
 
 // Six digits held as a number (0..999 999).
@@ -134,7 +110,7 @@ void seisCifras(int v, Texto& r, const PalabrasNumero& p, bool corto) {
     const int miles = v / 1000, ultimas = v % 1000;
     // The thousands' short form depends on the last three digits, not on the caller.
     cientos(miles % 10, miles / 10 % 10, miles / 100, ultimas != 0, p, r, 1);
-    if (miles != 0) anade(r, u"MIL "sv);
+    if (miles != 0) r.anade(u"MIL "sv);
     cientos(ultimas % 10, ultimas / 10 % 10, ultimas / 100, corto, p, r, 2);
 }
 
@@ -156,20 +132,20 @@ void enMinusculas(Texto& r, size_t desde) {
 void anadeLetras(Texto& r, qint64 numero, QChar genero, bool minusculas, bool corto) {
     const size_t desde = r.size();
     if (numero == 0)
-        anade(r, u"CERO "sv);
+        r.anade(u"CERO "sv);
     else {
         const PalabrasNumero& p = TablaPalabras(genero);
         const int millones = int(numero / 1'000'000), unidades = int(numero % 1'000'000);
         if (millones == 1)
-            anade(r, u"UN MILLON "sv);
+            r.anade(u"UN MILLON "sv);
         else if (millones > 1) {
             seisCifras(millones, r, p, true);
-            anade(r, u"MILLONES "sv);
+            r.anade(u"MILLONES "sv);
         }
         if (unidades != 0)
             seisCifras(unidades, r, p, corto);
         else
-            anade(r, u"DE "sv); // "UN MILLON DE" reads right before the unit
+            r.anade(u"DE "sv); // "UN MILLON DE" reads right before the unit
     }
     r.chop(1); // every word ends in one blank and none starts with one
     if (minusculas) enMinusculas(r, desde);
@@ -229,7 +205,7 @@ QString LetrasDecimalNod(double numero, int decimales, QChar genero, QChar minus
     Texto r;
     anadeLetras(r, ValorDigitos(c.entera(), kCifrasMaximas), genero, m, false);
     if (decimal != 0) {
-        anade(r, m ? u" con "sv : u" CON "sv);
+        r.anade(m ? u" con "sv : u" CON "sv);
         anadeLetras(r, decimal, genero, m, false);
     }
     return r.qstring();
@@ -246,31 +222,34 @@ QString LetrasPorCientoNod(double numero, QChar genero, QChar minusculas) {
     if (decimal == 0) return r.qstring();
     static constexpr std::u16string_view kMayus[] = {u"", u" DÉCIMAS", u" CENTÉSIMAS", u" MILÉSIMAS"};
     static constexpr std::u16string_view kMinus[] = {u"", u" décimas", u" centésimas", u" milésimas"};
-    anade(r, m ? u" enteros con "sv : u" ENTEROS CON "sv);
+    r.anade(m ? u" enteros con "sv : u" ENTEROS CON "sv);
     anadeLetras(r, decimal, genero, m, false);
     const size_t k = c.decimal().size();
-    if (k <= 3) anade(r, (m ? kMinus : kMayus)[k]);
+    if (k <= 3) r.anade((m ? kMinus : kMayus)[k]);
     return r.qstring();
 }
 
-QString EurosEnLetra(double importe, const QString& minusculas) {
-    if (!enRango(importe)) return {};
-    const Cifras c(importe);
+void EscribeEurosEnLetra(Texto& r, double importe, const Cifras& c, QChar minusculas) {
+    if (!enRango(importe)) return;
     // One decimal digit stands for tens of cents: 21,5 is 21 euros 50.
     const qint64 centimos =
         ValorDigitosRellenos(c.decimal(), qMax<qint64>(2, qint64(c.decimal().size())), kCifrasMaximas);
-    if (centimos < 0) return {};
-    const QChar caso = minusculas.isEmpty() ? QChar() : minusculas[0];
-    const bool m = minus(caso);
-    Texto r;
+    if (centimos < 0) return;
+    const bool m = minus(minusculas);
     // Without decimals the amount is a whole number already, its own rounding.
     anadeLetras(r, ValorDigitos(c.entera(), kCifrasMaximas), u'M', m, true);
-    anade(r, m ? u" euros"sv : u" EUROS"sv);
+    r.anade(m ? u" euros"sv : u" EUROS"sv);
     if (!c.decimal().empty()) {
-        anade(r, m ? u" con "sv : u" CON "sv);
+        r.anade(m ? u" con "sv : u" CON "sv);
         anadeLetras(r, centimos, u'M', m, true);
-        anade(r, m ? u" céntimos"sv : u" CENTIMOS"sv);
+        r.anade(m ? u" céntimos"sv : u" CENTIMOS"sv);
     }
+}
+
+QString EurosEnLetra(double importe, const QString& minusculas) {
+    const Cifras c(importe);
+    Texto r;
+    EscribeEurosEnLetra(r, importe, c, minusculas.isEmpty() ? QChar() : minusculas[0]);
     return r.qstring();
 }
 

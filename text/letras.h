@@ -68,6 +68,13 @@ QString LetrasPorCientoNod(double numero, QChar genero, QChar minusculas);
 /// standing for tens ("5" reads "CINCUENTA"); amounts are expected rounded to cents.
 QString EurosEnLetra(double importe, const QString& minusculas);
 
+class Texto;
+class Cifras;
+/// The words of `EurosEnLetra`, appended to `r` for the writers that put figure and words in one text;
+/// `c` holds the digits of `importe` and `minusculas` is the case character. Writes nothing when
+/// `EurosEnLetra` gives "".
+void EscribeEurosEnLetra(Texto& r, double importe, const Cifras& c, QChar minusculas);
+
 /// Kept for callers of the earlier currency: always "".
 QString Letras_Pesetas(qint64 numero, QChar minusculas);
 /// Kept for callers of the earlier currency: always "".
