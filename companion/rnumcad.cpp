@@ -130,7 +130,7 @@ QString StrCeros(qint64 valor, int ancho) {
     const quint64 magnitud = negativo ? quint64(0) - quint64(valor) : quint64(valor);
     QString digitos = QString::number(magnitud);
     const int ceros = ancho - int(digitos.size()) - (negativo ? 1 : 0);
-    if (ceros > 0) digitos.prepend(QString(ceros, QLatin1Char('0')));
+    if (ceros > 0 && ancho <= kAnchoMaximoTexto) digitos.prepend(QString(ceros, QLatin1Char('0')));
     return negativo ? QLatin1Char('-') + digitos : digitos;
 }
 

@@ -33,8 +33,13 @@ double Cad_Float(const QString& texto);
 QString StrLeft(const QString& s, int n);
 QString StrRight(const QString& s, int n);
 
+/// The widest text the padding routines (`StrCeros`, `StrCentra`, `JustificaDer` ...) build. A wider
+/// width is a caller's mistake, not a column: the text is not padded at all rather than allocating it.
+constexpr int kAnchoMaximoTexto = 65535;
+
 /// `valor` in figures padded with zeros on the left to `ancho` characters (the sign counts):
-/// StrCeros(7, 3) == "007", StrCeros(-7, 3) == "-07", StrCeros(1234, 2) == "1234".
+/// StrCeros(7, 3) == "007", StrCeros(-7, 3) == "-07", StrCeros(1234, 2) == "1234". Beyond
+/// `kAnchoMaximoTexto` there is no padding: StrCeros(7, 100000) == "7".
 QString StrCeros(qint64 valor, int ancho);
 
 /// Upper and lower case, letter by letter, accented and Catalan letters too ("ñ"/"Ñ", "ç"/"Ç", "à"/"À");

@@ -1,5 +1,9 @@
 #pragma once
 // Padding text with blanks into the fixed-width columns of printed lists. `L` below is the length of `s`.
+// A width beyond `kAnchoMaximoTexto` (65 535, far wider than any line or record the suite writes) is a
+// mistake of the caller, not a column: the text comes back unchanged instead of being padded to it.
+
+#include "companion/rnumcad.h"
 
 #include <QString>
 

@@ -92,9 +92,12 @@ TEST(Rnumcad, CutsAndZeros) {
                  {-7, 3, "-07"},
                  {1234, 2, "1234"},
                  {0, 0, "0"},
+                 {7, kAnchoMaximoTexto + 1, "7"},
+                 {-7, std::numeric_limits<int>::max(), "-7"},
                  {std::numeric_limits<qint64>::min(), 2, "-9223372036854775808"}};
     for (const auto& c : ceros)
         EXPECT_EQ(StrCeros(c.valor, c.ancho), QString::fromLatin1(c.esperado)) << c.valor;
+    EXPECT_EQ(StrCeros(7, kAnchoMaximoTexto).size(), kAnchoMaximoTexto);
 }
 
 TEST(Rnumcad, CaseKeepsTheLength) {

@@ -3,6 +3,7 @@
 #include "text/mayusculas.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 using namespace nod;
 
@@ -137,4 +138,24 @@ TEST(Alineacion, PaddingAndCutting) {
     for (const auto& c : casos)
         EXPECT_EQ(c.rutina(u8(c.texto), c.ancho), u8(c.esperado))
             << c.nombre << "(\"" << c.texto << "\", " << c.ancho << ')';
+}
+
+TEST(Alineacion, WidthBeyondTheMaximumLeavesTheText) {
+    const struct {
+        QString (*rutina)(const QString&, int);
+        const char* nombre;
+        qsizetype largoEnElMaximo; // padded length at exactly kAnchoMaximoTexto
+    } rutinas[] = {
+        {&StrCentra, "StrCentra", kAnchoMaximoTexto},
+        {&JustificaDer, "JustificaDer", kAnchoMaximoTexto},
+        {&JustificaIzq, "JustificaIzq", kAnchoMaximoTexto + 1},
+        {&AlineaDecha, "AlineaDecha", kAnchoMaximoTexto},
+        {&AlineaIzda, "AlineaIzda", kAnchoMaximoTexto},
+    };
+    const QString s = QStringLiteral("AB");
+    for (const auto& r : rutinas) {
+        EXPECT_EQ(r.rutina(s, kAnchoMaximoTexto).size(), r.largoEnElMaximo) << r.nombre;
+        for (int ancho : {kAnchoMaximoTexto + 1, std::numeric_limits<int>::max()})
+            EXPECT_EQ(r.rutina(s, ancho), s) << r.nombre << " width " << ancho;
+    }
 }
