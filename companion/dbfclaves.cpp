@@ -1,5 +1,7 @@
 #include "companion/dbfclaves.h"
 
+#include "companion/catalogoindices.h"
+
 #include <QDate>
 #include <QDateTime>
 #include <algorithm>
@@ -123,6 +125,25 @@ const OrdenIndice& DatosDbf::orden(const std::vector<int>& campos) const {
     }
     hueco = std::move(o);
     return *hueco;
+}
+
+const OrdenIndice& DatosDbf::ordenDeEtiqueta(const QString& etiqueta) const {
+    {
+        std::lock_guard lock(m_mutexOrdenes);
+        if (const auto it = m_etiquetas.constFind(etiqueta); it != m_etiquetas.cend()) return **it;
+    }
+    const auto nombres = CamposDeIndice(m_ruta, etiqueta, m_campos);
+    if (!nombres) throw ErrorTabla(QStringLiteral("Tabla %1: no tiene el índice %2").arg(m_ruta, etiqueta));
+    std::vector<int> campos;
+    for (const QString& n : *nombres) {
+        campos.push_back(indiceCampo(n));
+        if (campos.back() < 0)
+            throw ErrorTabla(QStringLiteral("Tabla %1: no existe el campo %2").arg(m_ruta, n));
+    }
+    const OrdenIndice& o = orden(campos);
+    std::lock_guard lock(m_mutexOrdenes);
+    m_etiquetas.insert(etiqueta, &o);
+    return o;
 }
 
 } // namespace nod

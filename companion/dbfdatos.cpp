@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -229,10 +230,23 @@ void DatosDbf::analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero) {
 }
 
 std::shared_ptr<const DatosDbf> DatosDbf::Carga(const QString& ruta, const BloqueoFichero* bloqueoPropio) {
+    if (auto datos = cargaSiExiste(ruta, bloqueoPropio)) return datos;
+    throw ErrorTabla(QStringLiteral("No existe la tabla %1").arg(ruta));
+}
+
+std::shared_ptr<const DatosDbf> DatosDbf::CargaSiExiste(const QString& ruta) {
+    return cargaSiExiste(ruta, nullptr);
+}
+
+std::shared_ptr<const DatosDbf> DatosDbf::cargaSiExiste(const QString& ruta,
+                                                        const BloqueoFichero* bloqueoPropio) {
     struct stat st {};
-    const QByteArray nativa = ruta.toLocal8Bit();
-    if (::stat(nativa.constData(), &st) != 0)
-        throw ErrorTabla(QStringLiteral("No existe la tabla %1").arg(ruta));
+    const QByteArray nativa = QFile::encodeName(ruta);
+    if (::stat(nativa.constData(), &st) != 0) {
+        if (errno == ENOENT || errno == ENOTDIR) return nullptr;
+        throw ErrorTabla(QStringLiteral("No se puede leer la tabla %1: %2")
+                             .arg(ruta, QString::fromLocal8Bit(std::strerror(errno))));
+    }
     Cache& c = cache();
     {
         std::lock_guard lock(c.mutex);

@@ -12,6 +12,7 @@
 #include "companion/tablas.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <memory>
 #include <mutex>
@@ -38,13 +39,17 @@ struct OrdenIndice {
     std::vector<double> claves; // first key field's value per position (numeric first field only)
 };
 
+class FiltroTabla; // a compiled filter expression (companion/tablafiltro.h)
+
 class DatosDbf {
 public:
-    /// The image of the file at `ruta`, from the cache when the file is unchanged. Throws ErrorTabla.
-    /// `bloqueoPropio`: a write lock this handle already holds on the file; the bytes are read through it
-    /// (another lock of this process on the same file would wait for it).
+    /// The image of the file at `ruta`, from the cache when the file is unchanged (one stat() then).
+    /// Throws ErrorTabla. `bloqueoPropio`: a write lock this handle already holds on the file; the bytes are
+    /// read through it (another lock of this process on the same file would wait for it).
     static std::shared_ptr<const DatosDbf> Carga(const QString& ruta,
                                                  const BloqueoFichero* bloqueoPropio = nullptr);
+    /// The same, but nullptr when there is no file at `ruta` (other errors still throw).
+    static std::shared_ptr<const DatosDbf> CargaSiExiste(const QString& ruta);
     /// Parses an image from the file's bytes (exposed for tests of damaged files). Throws ErrorTabla.
     static std::shared_ptr<DatosDbf> DesdeBytes(const QString& ruta, QByteArray bytes, QByteArray memo = {},
                                                 const QByteArray& cpg = {});
@@ -83,10 +88,18 @@ public:
     const OrdenIndice& orden(const std::vector<int>& campos) const;
     /// The live records in physical order.
     const OrdenIndice& ordenFisico() const { return orden({}); }
+    /// The order of index tag `etiqueta` of this table (companion/catalogoindices.h), remembered by tag
+    /// name so that reopening on the same tag costs one lookup. Throws ErrorTabla for a tag the catalog
+    /// does not know for this table or whose fields the table lacks.
+    const OrdenIndice& ordenDeEtiqueta(const QString& etiqueta) const;
+    /// The compiled filter `texto` (companion/tablafiltro.h), remembered by its text. Throws ErrorTabla.
+    std::shared_ptr<const FiltroTabla> filtro(const QString& texto) const;
 
     [[noreturn]] void falla(int fila, int campo, const QString& motivo) const;
 
 private:
+    static std::shared_ptr<const DatosDbf> cargaSiExiste(const QString& ruta,
+                                                         const BloqueoFichero* bloqueoPropio);
     void analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero);
     QString memo(int fila, int campo) const;
 
@@ -104,6 +117,8 @@ private:
 
     mutable std::mutex m_mutexOrdenes;
     mutable std::unordered_map<std::string, std::unique_ptr<OrdenIndice>> m_ordenes;
+    mutable QHash<QString, const OrdenIndice*> m_etiquetas;
+    mutable QHash<QString, std::shared_ptr<const FiltroTabla>> m_filtros;
 };
 
 /// Reads a number written as dBase numeric text (blanks around, optional sign, "." decimals). False when the

@@ -244,4 +244,18 @@ std::unique_ptr<FiltroTabla> FiltroTabla::Compila(const DatosDbf& datos, const Q
     return Analizador(datos, texto).analiza();
 }
 
+std::shared_ptr<const FiltroTabla> DatosDbf::filtro(const QString& texto) const {
+    // Routines build their filters from a few patterns; a table that meets very many texts starts over.
+    constexpr qsizetype kMaxFiltros = 256;
+    {
+        std::lock_guard lock(m_mutexOrdenes);
+        if (const auto it = m_filtros.constFind(texto); it != m_filtros.cend()) return *it;
+    }
+    std::shared_ptr<const FiltroTabla> f = FiltroTabla::Compila(*this, texto);
+    std::lock_guard lock(m_mutexOrdenes);
+    if (m_filtros.size() >= kMaxFiltros) m_filtros.clear();
+    m_filtros.insert(texto, f);
+    return f;
+}
+
 } // namespace nod

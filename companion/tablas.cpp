@@ -22,13 +22,22 @@ using ClavesPreparadas = std::vector<std::pair<int, ValorPreparado>>;
 
 // The real file for a name in a folder: the name as given, else the one entry that matches it without
 // regard to case (tables copied from Windows keep whatever case they had there).
-QString resuelveFichero(const QString& carpeta, QString fichero) {
-    if (QFileInfo(fichero).suffix().isEmpty()) fichero += QStringLiteral(".DBF");
+QString conExtension(const QString& fichero) {
+    return QFileInfo(fichero).suffix().isEmpty() ? fichero + QStringLiteral(".DBF") : fichero;
+}
+
+// The path of a table file in a folder (an absolute, clean path), with the name as given.
+QString rutaDirecta(const QString& carpeta, const QString& fichero) {
+    return QDir(carpeta).absoluteFilePath(conExtension(fichero));
+}
+
+QString resuelveFichero(const QString& carpeta, const QString& fichero) {
+    const QString nombre = conExtension(fichero);
     const QDir dir(carpeta);
-    const QString directa = dir.filePath(fichero);
+    const QString directa = dir.absoluteFilePath(nombre);
     if (QFileInfo::exists(directa)) return directa;
     for (const QString& entrada : dir.entryList(QDir::Files))
-        if (entrada.compare(fichero, Qt::CaseInsensitive) == 0) return dir.filePath(entrada);
+        if (entrada.compare(nombre, Qt::CaseInsensitive) == 0) return dir.absoluteFilePath(entrada);
     return directa;
 }
 
@@ -48,7 +57,7 @@ struct TTabla::Impl {
     qsizetype lo = 0, hi = 0;
 
     QString textoFiltro;
-    std::unique_ptr<FiltroTabla> filtro;
+    std::shared_ptr<const FiltroTabla> filtro;
 
     qsizetype pos = -1; // position in orden->filas; -1 when there is no current row
     bool eof = true, bof = true;
@@ -168,24 +177,15 @@ struct TTabla::Impl {
     }
 
     void usaIndice(const QString& tag) {
-        if (tag.trimmed().isEmpty()) {
-            orden = &datos->ordenFisico();
-        } else {
-            const auto nombres = CamposDeIndice(ruta, tag, datos->campos());
-            if (!nombres) falla(QStringLiteral("no tiene el índice %1").arg(tag));
-            std::vector<int> campos;
-            for (const QString& n : *nombres)
-                campos.push_back(campo(n));
-            orden = &datos->orden(campos);
-        }
         indice = tag.trimmed();
+        orden = indice.isEmpty() ? &datos->ordenFisico() : &datos->ordenDeEtiqueta(indice);
     }
 
     // After a write of this process: the new image, the same tag, range and filter, on record `registro`.
     void recarga(int registro) {
         datos = DatosDbf::Carga(ruta, &bloqueoRetenido);
         usaIndice(indice);
-        filtro = textoFiltro.isEmpty() ? nullptr : FiltroTabla::Compila(*datos, textoFiltro);
+        filtro = textoFiltro.isEmpty() ? nullptr : datos->filtro(textoFiltro);
         aplicaRango();
         primero();
         for (qsizetype p = lo; p < hi && registro >= 0; ++p)
@@ -241,9 +241,15 @@ TTabla::TTabla(std::unique_ptr<Impl> impl)
 TTabla::~TTabla() = default;
 
 std::unique_ptr<TTabla> TTabla::AbreRuta(const QString& ruta, const QString& indice) {
+    const QString absoluta = QFileInfo(ruta).absoluteFilePath();
+    return Abre(absoluta, DatosDbf::Carga(absoluta), indice);
+}
+
+std::unique_ptr<TTabla> TTabla::Abre(const QString& ruta, std::shared_ptr<const DatosDbf> datos,
+                                     const QString& indice) {
     auto impl = std::make_unique<Impl>();
-    impl->ruta = QFileInfo(ruta).absoluteFilePath();
-    impl->datos = DatosDbf::Carga(impl->ruta);
+    impl->ruta = ruta;
+    impl->datos = std::move(datos);
     impl->usaIndice(indice);
     impl->aplicaRango();
     impl->primero();
@@ -461,7 +467,12 @@ std::unique_ptr<TTabla> CreaTabla(const QString& alias, const QString& fichero, 
     const QString carpeta = Config.CarpetaAlias(alias);
     if (carpeta.isEmpty())
         throw ErrorTabla(QStringLiteral("El alias %1 no está configurado (tabla %2)").arg(alias, fichero));
-    return TTabla::AbreRuta(resuelveFichero(carpeta, fichero), indice);
+    // The name as given first: one stat() when the table is warm; the folder is listed only when the file
+    // has another case on disk, or is missing.
+    const QString directa = rutaDirecta(carpeta, fichero);
+    if (auto datos = DatosDbf::CargaSiExiste(directa)) return TTabla::Abre(directa, std::move(datos), indice);
+    const QString ruta = resuelveFichero(carpeta, fichero);
+    return TTabla::Abre(ruta, DatosDbf::Carga(ruta), indice);
 }
 
 std::unique_ptr<TTabla> CreaTablaSinExcepcion(const QString& alias, const QString& fichero,
@@ -579,7 +590,7 @@ void TBIndexa(TTabla& tb, const QString& indice) {
 
 void TBFiltra(TTabla& tb, const QString& filtro) {
     auto& d = *tb.d;
-    d.filtro = filtro.trimmed().isEmpty() ? nullptr : FiltroTabla::Compila(*d.datos, filtro);
+    d.filtro = filtro.trimmed().isEmpty() ? nullptr : d.datos->filtro(filtro);
     d.textoFiltro = d.filtro ? filtro : QString();
     d.primero();
 }

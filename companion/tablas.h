@@ -133,6 +133,8 @@ public:
 private:
     struct Impl;
     explicit TTabla(std::unique_ptr<Impl> impl);
+    static std::unique_ptr<TTabla> Abre(const QString& ruta, std::shared_ptr<const DatosDbf> datos,
+                                        const QString& indice);
     std::unique_ptr<Impl> d;
 
     friend std::unique_ptr<TTabla> CreaTabla(const QString&, const QString&, const QString&);

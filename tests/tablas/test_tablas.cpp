@@ -1,12 +1,15 @@
 // The table layer over real dBase files: writing and reading back (also through an independent reader),
 // searches, ranges, filters, deletion, packing, and two processes appending at once.
 #include "companion/tablas.h"
+#include "tests/support/oficina_prueba.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QThread>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -326,6 +329,50 @@ TEST_F(Tablas, KeySearchFastPathAgreesWithTBBusca) {
         EXPECT_EQ(general->RecNo(), rapida->RecNo()) << qPrintable(que);
     }
     EXPECT_THROW(TBBuscaClave(*TTabla::AbreRuta(ruta), 1), ErrorTabla) << "physical order has no key";
+}
+
+// Reopening is served from the loaded image while the file is unchanged; a change made behind this
+// process's back (same size, only the bytes and the modification time differ) is seen on the next open,
+// with the tag's order and the filter rebuilt over the new bytes.
+TEST_F(Tablas, ReopenSeesChangesMadeByOthers) {
+    auto antes = TTabla::AbreRuta(ruta, QStringLiteral("CODIGO"));
+    TBFiltra(*antes, QStringLiteral("CODIGO > 2"));
+    EXPECT_EQ(antes->RecordCount(), 1);
+    QThread::msleep(20); // file times advance by the kernel's clock tick, not by the nanosecond
+    {
+        QFile f(ruta);
+        ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+        const QByteArray b = f.readAll();
+        const int cabecera = quint8(b[8]) | quint8(b[9]) << 8;
+        f.seek(cabecera + 1); // CODIGO of the first record: 3 becomes 9
+        f.write("     9");
+    }
+    auto despues = TTabla::AbreRuta(ruta, QStringLiteral("CODIGO"));
+    despues->Last();
+    EXPECT_EQ(despues->AsInteger(QStringLiteral("CODIGO")), 9);
+    EXPECT_TRUE(TBBuscaClave(*despues, 9));
+    EXPECT_FALSE(TBBuscaClave(*despues, 3));
+    TBFiltra(*despues, QStringLiteral("CODIGO > 2"));
+    EXPECT_EQ(despues->AsInteger(QStringLiteral("CODIGO")), 9);
+    EXPECT_EQ(antes->AsInteger(QStringLiteral("CODIGO")), 3) << "an open handle keeps its image";
+}
+
+// Tables are opened by alias and name as the routines write them: any case, extension optional.
+TEST(TablasPorAlias, NamesResolveWithoutRegardToCase) {
+    prueba::OficinaPrueba oficina(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
+    QDir().mkpath(oficina.ruta(QStringLiteral("DATOS")));
+    CreaFicheroDbf(oficina.ruta(QStringLiteral("DATOS/Tipo_Int.dbf")), kCampos);
+    for (const char* nombre : {"Tipo_Int.dbf", "TIPO_INT.DBF", "tipo_int", "TIPO_INT"}) {
+        const auto tb =
+            CreaTabla(QStringLiteral("DB"), QString::fromLatin1(nombre), QStringLiteral("CODIGO"));
+        EXPECT_TRUE(tb->Ruta().endsWith(QStringLiteral("/DATOS/Tipo_Int.dbf"))) << nombre;
+    }
+    EXPECT_THROW(CreaTabla(QStringLiteral("DB"), QStringLiteral("NOHAY.DBF")), ErrorTabla);
+    EXPECT_THROW(CreaTabla(QStringLiteral("OTRO"), QStringLiteral("TIPO_INT")), ErrorTabla);
+    EXPECT_EQ(CreaTablaSinExcepcion(QStringLiteral("DB"), QStringLiteral("NOHAY.DBF")), nullptr);
+    EXPECT_EQ(
+        CreaTablaSinExcepcion(QStringLiteral("DB"), QStringLiteral("TIPO_INT"), QStringLiteral("NO_HAY")),
+        nullptr);
 }
 
 } // namespace
