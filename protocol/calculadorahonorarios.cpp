@@ -1,0 +1,182 @@
+#include "protocol/calculadorahonorarios.h"
+
+#include "companion/config.h"
+#include "companion/hoy.h"
+#include "companion/rnumcad.h"
+#include "protocol/aranceles.h"
+#include "protocol/iva.h"
+#include "text/moneda.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+#include <QVBoxLayout>
+
+namespace nod {
+
+namespace {
+
+template <typename W> W* crea(QWidget* padre, const char* nombre) {
+    auto* w = new W(padre);
+    w->setObjectName(QString::fromLatin1(nombre));
+    return w;
+}
+
+QLabel* resultado(QWidget* padre, const char* nombre) {
+    auto* l = crea<QLabel>(padre, nombre);
+    l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFont f = l->font();
+    f.setBold(true);
+    l->setFont(f);
+    return l;
+}
+
+QLineEdit* importe(QWidget* padre, const char* nombre, const char* patron, const QString& pista) {
+    auto* e = crea<QLineEdit>(padre, nombre);
+    e->setValidator(new QRegularExpressionValidator(QRegularExpression(QString::fromLatin1(patron)), e));
+    e->setAlignment(Qt::AlignRight);
+    e->setToolTip(pista);
+    e->setMinimumWidth(e->fontMetrics().horizontalAdvance(QStringLiteral("000.000.000.000,00")) + 16);
+    return e;
+}
+
+QString euros(double x) {
+    return PuntosNod(QString::number(x, 'f', 2), true) + QStringLiteral(" €");
+}
+
+QString pesetas(qint64 x) {
+    return PuntosNod(QString::number(x), false) + QStringLiteral(" pts");
+}
+
+QString escalaConfigurada() {
+    return Config.GetsTipoArancel() == QStringLiteral("C")
+               ? QStringLiteral("Escala C (tablas inferior y superior)")
+               : QStringLiteral("Escala de cuatro tipos");
+}
+
+QString siNo(const QCheckBox* c) {
+    return c->isChecked() ? QStringLiteral("SI") : QStringLiteral("NO");
+}
+
+} // namespace
+
+TCalculadoraHonorarios::TCalculadoraHonorarios(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(QStringLiteral("CalculadoraHonorarios"));
+    setWindowTitle(QStringLiteral("Calculadora de honorarios"));
+
+    auto* GBEscritura = crea<QGroupBox>(this, "GBEscritura");
+    GBEscritura->setTitle(QStringLiteral("Escritura (euros)"));
+    ECuantia = importe(GBEscritura, "ECuantia", "[0-9. ]{0,15}(,[0-9]{0,2})?",
+                       QStringLiteral("Cuantía de la escritura en euros"));
+    LHonorarioEscritura = resultado(GBEscritura, "LHonorarioEscritura");
+    auto* capaEscritura = new QFormLayout(GBEscritura);
+    capaEscritura->addRow(QStringLiteral("&Cuantía:"), ECuantia);
+    capaEscritura->addRow(QStringLiteral("Honorarios:"), LHonorarioEscritura);
+
+    auto* GBPoliza = crea<QGroupBox>(this, "GBPoliza");
+    GBPoliza->setTitle(QStringLiteral("Póliza (pesetas)"));
+    LEscala = crea<QLabel>(GBPoliza, "LEscala");
+    ECuantiaPoliza = importe(GBPoliza, "ECuantiaPoliza", "[0-9. ]{0,15}",
+                             QStringLiteral("Cuantía de la póliza en pesetas"));
+    CBAval = crea<QCheckBox>(GBPoliza, "CBAval");
+    CBAval->setText(QStringLiteral("Con a&val"));
+    CBInferior = crea<QCheckBox>(GBPoliza, "CBInferior");
+    CBInferior->setText(QStringLiteral("Tabla &inferior"));
+    CBTipoDocumento = crea<QComboBox>(GBPoliza, "CBTipoDocumento");
+    CBTipoDocumento->addItems({QStringLiteral("Factura"), QStringLiteral("Póliza")});
+    LHonorarioPoliza = resultado(GBPoliza, "LHonorarioPoliza");
+    auto* opciones = new QHBoxLayout;
+    opciones->addWidget(CBAval);
+    opciones->addWidget(CBInferior);
+    opciones->addStretch();
+    auto* capaPoliza = new QFormLayout(GBPoliza);
+    capaPoliza->addRow(QStringLiteral("Escala:"), LEscala);
+    capaPoliza->addRow(QStringLiteral("C&uantía:"), ECuantiaPoliza);
+    capaPoliza->addRow(QString(), opciones);
+    capaPoliza->addRow(QStringLiteral("&Documento:"), CBTipoDocumento);
+    capaPoliza->addRow(QStringLiteral("Honorarios:"), LHonorarioPoliza);
+
+    auto* GBIVA = crea<QGroupBox>(this, "GBIVA");
+    GBIVA->setTitle(QStringLiteral("IVA sobre los honorarios de la escritura"));
+    EFecha = crea<QDateEdit>(GBIVA, "EFecha");
+    EFecha->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    EFecha->setCalendarPopup(true);
+    EFecha->setDate(TDateTimeToQDate(Date()));
+    EIVA = crea<QDoubleSpinBox>(GBIVA, "EIVA");
+    EIVA->setRange(0, 100);
+    EIVA->setDecimals(2);
+    EIVA->setSuffix(QStringLiteral(" %"));
+    EIVA->setValue(21);
+    BBCompruebaIVA = crea<QPushButton>(GBIVA, "BBCompruebaIVA");
+    BBCompruebaIVA->setText(QStringLiteral("Comprobar &IVA"));
+    BBCompruebaIVA->setToolTip(QStringLiteral("Comprobar que el porcentaje es el vigente en la fecha"));
+    LResultadoIVA = crea<QLabel>(GBIVA, "LResultadoIVA");
+    LCuotaIVA = resultado(GBIVA, "LCuotaIVA");
+    LTotal = resultado(GBIVA, "LTotal");
+    auto* comprobacion = new QHBoxLayout;
+    comprobacion->addWidget(BBCompruebaIVA);
+    comprobacion->addWidget(LResultadoIVA, 1);
+    auto* capaIVA = new QFormLayout(GBIVA);
+    capaIVA->addRow(QStringLiteral("&Fecha:"), EFecha);
+    capaIVA->addRow(QStringLiteral("&Porcentaje:"), EIVA);
+    capaIVA->addRow(QString(), comprobacion);
+    capaIVA->addRow(QStringLiteral("Cuota:"), LCuotaIVA);
+    capaIVA->addRow(QStringLiteral("Total:"), LTotal);
+
+    auto* capa = new QVBoxLayout(this);
+    capa->addWidget(GBEscritura);
+    capa->addWidget(GBPoliza);
+    capa->addWidget(GBIVA);
+    capa->addStretch();
+
+    for (QLineEdit* e : {ECuantia, ECuantiaPoliza})
+        connect(e, &QLineEdit::textChanged, this, &TCalculadoraHonorarios::Calcula);
+    for (QCheckBox* c : {CBAval, CBInferior})
+        connect(c, &QCheckBox::toggled, this, &TCalculadoraHonorarios::Calcula);
+    connect(CBTipoDocumento, &QComboBox::currentIndexChanged, this, &TCalculadoraHonorarios::Calcula);
+    connect(EIVA, &QDoubleSpinBox::valueChanged, this, &TCalculadoraHonorarios::Calcula);
+    // A verdict belongs to the date and percentage it was given for.
+    connect(EIVA, &QDoubleSpinBox::valueChanged, LResultadoIVA, &QLabel::clear);
+    connect(EFecha, &QDateEdit::dateChanged, LResultadoIVA, &QLabel::clear);
+    connect(BBCompruebaIVA, &QPushButton::clicked, this, &TCalculadoraHonorarios::CompruebaIva);
+    Calcula();
+}
+
+double TCalculadoraHonorarios::LeeImporte(const QString& texto) {
+    QString t = texto;
+    t.remove(u' ').remove(u'.').replace(u',', u'.');
+    bool ok = false;
+    const double x = t.toDouble(&ok); // QString::toDouble reads the C format whatever the locale
+    return ok ? x : 0.0;
+}
+
+void TCalculadoraHonorarios::Calcula() {
+    LEscala->setText(escalaConfigurada());
+    const double honorario = Ges_Arancel_E(LeeImporte(ECuantia->text()));
+    LHonorarioEscritura->setText(euros(honorario));
+    const QString tipo = CBTipoDocumento->currentIndex() == 0 ? QStringLiteral("factura") : QString();
+    LHonorarioPoliza->setText(
+        pesetas(ARANCEL_C(LeeImporte(ECuantiaPoliza->text()), siNo(CBAval), tipo, siNo(CBInferior))));
+    const double cuota = RedondeaDec(honorario * EIVA->value() / 100.0, 2);
+    LCuotaIVA->setText(euros(cuota));
+    LTotal->setText(euros(RedondeaDec(honorario + cuota, 2)));
+}
+
+bool TCalculadoraHonorarios::CompruebaIva() {
+    const bool conforme = CompruebaIVA(QDateToTDateTime(EFecha->date()), EIVA->value());
+    LResultadoIVA->setText(conforme ? QStringLiteral("Porcentaje aceptado")
+                                    : QStringLiteral("Revise el porcentaje"));
+    return conforme;
+}
+
+} // namespace nod

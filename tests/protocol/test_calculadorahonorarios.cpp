@@ -1,0 +1,135 @@
+// The fee calculator page: amounts typed the Spanish way, the scale choices handed to ARANCEL_C, and the
+// VAT check answered through the scripted message service.
+#include "companion/mensajes.h"
+#include "configuracion_arancel.h"
+#include "protocol/aranceles.h"
+#include "protocol/calculadorahonorarios.h"
+#include "text/moneda.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSet>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace nod {
+namespace {
+
+class Calculadora : public ::testing::Test {
+protected:
+    void SetUp() override {
+        prueba::EscalaCuatroTipos();
+        c = std::make_unique<TCalculadoraHonorarios>();
+        c->show();
+    }
+    prueba::ConfigGuardada guardada;
+    ServicioMensajesGuionado mensajes;
+    ServicioMensajesInstalado instalado{mensajes};
+    std::unique_ptr<TCalculadoraHonorarios> c;
+};
+
+TEST(LeeImporte, SpanishGroupingAndDecimals) {
+    const std::pair<const char*, double> casos[] = {
+        {"601.012,10", 601012.10},
+        {"1.234,5", 1234.5},
+        {"1 000 001", 1000001},
+        {"0,07", 0.07},
+        {"", 0},
+        {",", 0},
+        {"abc", 0},
+        {"12,", 12},
+    };
+    for (const auto& [texto, valor] : casos)
+        EXPECT_DOUBLE_EQ(TCalculadoraHonorarios::LeeImporte(QString::fromLatin1(texto)), valor) << texto;
+}
+
+TEST_F(Calculadora, DeedFeeVatQuotaAndTotalFollowTheTypedAmount) {
+    QTest::keyClicks(c->ECuantia, QStringLiteral("601.012,10"));
+    EXPECT_EQ(c->LHonorarioEscritura->text(), QStringLiteral("306,52 €"));
+    c->EIVA->setValue(21);
+    EXPECT_EQ(c->LCuotaIVA->text(), QStringLiteral("64,37 €")); // 306.52 × 21 % = 64.3692
+    EXPECT_EQ(c->LTotal->text(), QStringLiteral("370,89 €"));
+    c->EIVA->setValue(16);
+    EXPECT_EQ(c->LCuotaIVA->text(), QStringLiteral("49,04 €"));
+    c->ECuantia->clear(); // no amount: the fixed fee of the first bracket, 4 000 pesetas
+    EXPECT_EQ(c->LHonorarioEscritura->text(), QStringLiteral("24,04 €"));
+    EXPECT_EQ(c->LTotal->text(), QStringLiteral("27,89 €"));
+}
+
+TEST_F(Calculadora, PolicyChoicesReachTheConfiguredScale) {
+    EXPECT_EQ(c->LEscala->text(), QStringLiteral("Escala de cuatro tipos"));
+    QTest::keyClicks(c->ECuantiaPoliza, QStringLiteral("2.000.000"));
+    EXPECT_EQ(c->LHonorarioPoliza->text(), QStringLiteral("5.000 pts"));
+    struct Caso {
+        double importe;
+        bool aval, inferior;
+        int documento;
+        const char *aval_, *tipo, *inferior_;
+    };
+    const Caso casos[] = {
+        {2000000, true, false, 0, "SI", "factura", "NO"},
+        {3000000, false, true, 0, "NO", "factura", "SI"},
+        {7000000, true, true, 1, "SI", "", "SI"},
+        {100000, false, false, 0, "NO", "factura", "NO"}, // the invoice minimum applies
+        {100000, false, false, 1, "NO", "", "NO"},        // a policy has none
+    };
+    QSet<QString> distintos;
+    for (const Caso& k : casos) {
+        c->ECuantiaPoliza->setText(QString::number(k.importe, 'f', 0));
+        c->CBAval->setChecked(k.aval);
+        c->CBInferior->setChecked(k.inferior);
+        c->CBTipoDocumento->setCurrentIndex(k.documento);
+        const int esperado = ARANCEL_C(k.importe, QString::fromLatin1(k.aval_), QString::fromLatin1(k.tipo),
+                                       QString::fromLatin1(k.inferior_));
+        EXPECT_EQ(c->LHonorarioPoliza->text(),
+                  PuntosNod(QString::number(esperado), false) + QStringLiteral(" pts"))
+            << k.importe << k.aval_ << k.tipo << k.inferior_;
+        distintos.insert(c->LHonorarioPoliza->text());
+    }
+    EXPECT_EQ(distintos.size(), 5) << "each choice changes the fee on this scale: "
+                                   << QStringList(distintos.values()).join(u'|').toStdString();
+    EXPECT_EQ(c->LHonorarioPoliza->text(), QStringLiteral("300 pts"));
+
+    prueba::EscalaC();
+    c->Calcula();
+    EXPECT_EQ(c->LEscala->text(), QStringLiteral("Escala C (tablas inferior y superior)"));
+}
+
+TEST_F(Calculadora, VatCheckAsksOnlyWhenThePercentageIsNotInForce) {
+    struct Caso {
+        QDate fecha;
+        double porcentaje;
+        std::deque<int> respuestas;
+        bool conforme;
+        bool pregunta;
+    };
+    const Caso casos[] = {
+        {QDate(2012, 9, 1), 18, {2}, false, true},
+        {QDate(2012, 8, 31), 18, {}, true, false},
+        {QDate(2012, 9, 1), 18, {1}, true, true}, // the user chooses to go on
+        {QDate(2024, 1, 10), 21, {}, true, false},
+    };
+    for (const Caso& k : casos) {
+        mensajes.limpia();
+        mensajes.respuestas(k.respuestas);
+        c->EFecha->setDate(k.fecha);
+        c->EIVA->setValue(k.porcentaje);
+        EXPECT_TRUE(c->LResultadoIVA->text().isEmpty()) << "a new date or percentage clears the verdict";
+        QTest::mouseClick(c->BBCompruebaIVA, Qt::LeftButton);
+        EXPECT_EQ(c->LResultadoIVA->text(), k.conforme ? QStringLiteral("Porcentaje aceptado")
+                                                       : QStringLiteral("Revise el porcentaje"));
+        ASSERT_EQ(mensajes.mostrados().size(), k.pregunta ? 1 : 0);
+        if (k.pregunta) {
+            EXPECT_EQ(mensajes.mostrados()[0].title, QStringLiteral("Aplicación de IVA"));
+            EXPECT_TRUE(mensajes.mostrados()[0].text.contains(QStringLiteral("18% y no el 21%")));
+        }
+    }
+}
+
+} // namespace
+} // namespace nod

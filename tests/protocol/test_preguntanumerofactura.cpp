@@ -1,0 +1,216 @@
+// The invoice-number form driven by keys and clicks, and the routine that shows it modally.
+#include "companion/foco.h"
+#include "companion/hoy.h"
+#include "protocol/preguntanumerofactura.h"
+#include "tests/support/modal.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace nod {
+namespace {
+
+class FormNumeroFactura : public ::testing::Test {
+protected:
+    void SetUp() override {
+        FijaAhora(EncodeDate(2024, 3, 15));
+        f = std::make_unique<TFPreguntaNumeroFactura>();
+        f->show();
+        QApplication::setActiveWindow(f.get());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(f.get()));
+    }
+    void TearDown() override { FijaAhora(std::nullopt); }
+    void enfoca(QWidget* w) {
+        w->setFocus(Qt::TabFocusReason);
+        QApplication::processEvents();
+    }
+    std::unique_ptr<TFPreguntaNumeroFactura> f;
+};
+
+TEST_F(FormNumeroFactura, OpensOnTheSeriesWithTheCurrentYearAndNoNumber) {
+    EXPECT_EQ(f->windowTitle(), QStringLiteral("Número de factura"));
+    EXPECT_EQ(QApplication::focusWidget(), f->ESerie);
+    EXPECT_EQ(f->EAno->text(), QStringLiteral("2024"));
+    EXPECT_TRUE(f->ENumero->text().isEmpty());
+    EXPECT_EQ(f->BBAceptar->text(), QStringLiteral("&Aceptar"));
+    EXPECT_EQ(f->BBCancelar->text(), QStringLiteral("&Cancelar"));
+    EXPECT_FALSE(f->BBAceptar->isEnabled()) << "no invoice without a number";
+    QTest::keyClicks(f->ENumero, QStringLiteral("7"));
+    EXPECT_TRUE(f->BBAceptar->isEnabled());
+    f->ENumero->clear();
+    EXPECT_FALSE(f->BBAceptar->isEnabled());
+}
+
+TEST_F(FormNumeroFactura, FieldsTakeOnlyWhatAnInvoiceNumberHolds) {
+    struct Caso {
+        QLineEdit* campo;
+        const char* tecleado;
+        const char* queda;
+    };
+    const Caso casos[] = {
+        {f->ESerie, "a1b", "A1"},             // two characters, in capitals
+        {f->ESerie, "-x", "X"},               // no punctuation
+        {f->EAno, "20a245", "2024"},          // four digits
+        {f->ENumero, "12.3456789", "123456"}, // six digits, no grouping
+        {f->EBis, "1b c", "B"},               // one letter
+    };
+    for (const Caso& c : casos) {
+        c.campo->clear();
+        enfoca(c.campo);
+        QTest::keyClicks(c.campo, QString::fromLatin1(c.tecleado));
+        EXPECT_EQ(c.campo->text(), QString::fromLatin1(c.queda)) << c.campo->objectName().toStdString();
+    }
+}
+
+TEST_F(FormNumeroFactura, AShortYearIsCompletedOnLeavingTheField) {
+    const std::pair<const char*, const char*> casos[] = {
+        {"24", "2024"}, {"5", "2005"}, {"98", "1998"}, {"1999", "1999"}, {"", ""}};
+    for (const auto& [tecleado, queda] : casos) {
+        enfoca(f->EAno);
+        f->EAno->clear();
+        QTest::keyClicks(f->EAno, QString::fromLatin1(tecleado));
+        enfoca(f->ENumero);
+        EXPECT_EQ(f->EAno->text(), QString::fromLatin1(queda)) << tecleado;
+    }
+}
+
+TEST_F(FormNumeroFactura, EnteringAControlShowsItsHintAndMarksFieldsOnly) {
+    struct Caso {
+        QWidget* control;
+        bool marcado;
+    };
+    f->ENumero->setText(QStringLiteral("1")); // "&Aceptar" can take the focus
+    const Caso casos[] = {{f->ESerie, true}, {f->EAno, true},       {f->ENumero, true},
+                          {f->EBis, true},   {f->BBAceptar, false}, {f->BBCancelar, false}};
+    for (const Caso& c : casos) {
+        enfoca(c.control);
+        ASSERT_EQ(QApplication::focusWidget(), c.control);
+        EXPECT_FALSE(c.control->toolTip().isEmpty());
+        EXPECT_EQ(f->SBExplica->currentMessage(), c.control->toolTip())
+            << c.control->objectName().toStdString();
+        EXPECT_EQ(TieneFocoMarcado(c.control), c.marcado) << c.control->objectName().toStdString();
+    }
+    for (const Caso& c : casos)
+        EXPECT_FALSE(TieneFocoMarcado(c.control) && c.control != QApplication::focusWidget());
+    // Leaving towards something outside the form's controls clears the status bar and the mark.
+    enfoca(f->ESerie);
+    f->ESerie->clearFocus();
+    QApplication::processEvents();
+    EXPECT_TRUE(f->SBExplica->currentMessage().isEmpty());
+    EXPECT_FALSE(TieneFocoMarcado(f->ESerie));
+}
+
+TEST_F(FormNumeroFactura, EnterMovesOnAndSkipsADisabledAceptar) {
+    const auto recorrido = [&](QWidget* final) {
+        enfoca(f->ESerie);
+        std::vector<QWidget*> visitados;
+        for (int i = 0; i < 4; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            visitados.push_back(QApplication::focusWidget());
+        }
+        EXPECT_EQ(visitados, (std::vector<QWidget*>{f->EAno, f->ENumero, f->EBis, final}));
+        EXPECT_TRUE(f->isVisible()) << "Enter in a field never closes the form";
+    };
+    recorrido(f->BBCancelar);
+    f->ENumero->setText(QStringLiteral("15"));
+    recorrido(f->BBAceptar);
+    QTest::keyClick(f->BBAceptar, Qt::Key_Return);
+    EXPECT_EQ(f->result(), 1);
+}
+
+TEST_F(FormNumeroFactura, ModalResultsOfTheButtonsAndEscape) {
+    struct Caso {
+        const char* como;
+        std::function<void()> accion;
+        int resultado;
+    };
+    const Caso casos[] = {
+        {"click on Aceptar", [&] { QTest::mouseClick(f->BBAceptar, Qt::LeftButton); }, 1},
+        {"click on Cancelar", [&] { QTest::mouseClick(f->BBCancelar, Qt::LeftButton); }, 2},
+        {"Escape in a field", [&] { QTest::keyClick(f->ENumero, Qt::Key_Escape); }, 2},
+        {"Escape on Aceptar", [&] { QTest::keyClick(f->BBAceptar, Qt::Key_Escape); }, 2},
+        {"Enter on Cancelar", [&] { QTest::keyClick(f->BBCancelar, Qt::Key_Return); }, 2},
+    };
+    for (const Caso& c : casos) {
+        f->setResult(-1);
+        f->ENumero->setText(QStringLiteral("3"));
+        f->show();
+        QApplication::setActiveWindow(f.get());
+        c.accion();
+        EXPECT_EQ(f->result(), c.resultado) << c.como;
+        EXPECT_FALSE(f->isVisible()) << c.como;
+    }
+}
+
+TEST_F(FormNumeroFactura, ValuesShownAreNormalisedAndReadBack) {
+    f->PonValores(QStringLiteral("r12"), 0, 0, QStringLiteral(" b "));
+    EXPECT_EQ(f->Serie(), QStringLiteral("R1"));
+    EXPECT_EQ(f->Ano(), 2024) << "no year proposes the current one";
+    EXPECT_EQ(f->Numero(), 0);
+    EXPECT_TRUE(f->ENumero->text().isEmpty());
+    EXPECT_EQ(f->Bis(), QStringLiteral("B"));
+    f->PonValores(QStringLiteral("A"), 2019, 1234567, {});
+    EXPECT_EQ(f->Ano(), 2019);
+    EXPECT_TRUE(f->ENumero->text().isEmpty()) << "a number of seven digits does not fit the field";
+    f->PonValores(QStringLiteral("A"), 2019, 999999, {});
+    EXPECT_EQ(f->Numero(), 999999);
+    EXPECT_TRUE(f->Bis().isEmpty());
+}
+
+TEST(PreguntaNumeroFacturaForm, AcceptingReturnsTheTypedValues) {
+    FijaAhora(EncodeDate(2024, 3, 15));
+    QString serie = QStringLiteral("Z"), bis;
+    int ano = 0, numero = 0;
+    bool vistoAbierto = false;
+    prueba::AlAbrirseModal([&](QWidget* w) {
+        auto* f = qobject_cast<TFPreguntaNumeroFactura*>(w);
+        ASSERT_NE(f, nullptr);
+        vistoAbierto = FPreguntaNumeroFactura == f;
+        EXPECT_EQ(f->windowTitle(), QStringLiteral("Factura a rectificar"));
+        EXPECT_EQ(f->ESerie->text(), QStringLiteral("Z"));
+        f->ESerie->clear();
+        QTest::keyClicks(f->ESerie, QStringLiteral("a"));
+        f->EAno->setText(QStringLiteral("23"));
+        f->EAno->setFocus();
+        QTest::keyClick(f->EAno, Qt::Key_Return); // leaving completes the year
+        QTest::keyClicks(f->ENumero, QStringLiteral("15"));
+        QTest::keyClick(f->ENumero, Qt::Key_Return);
+        QTest::keyClicks(f->EBis, QStringLiteral("c"));
+        QTest::keyClick(f->EBis, Qt::Key_Return);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    });
+    EXPECT_TRUE(PreguntaNumeroFacturaForm(serie, ano, numero, bis, QStringLiteral("Factura a rectificar")));
+    EXPECT_TRUE(vistoAbierto);
+    EXPECT_TRUE(FPreguntaNumeroFactura.isNull());
+    EXPECT_EQ(serie, QStringLiteral("A"));
+    EXPECT_EQ(ano, 2023);
+    EXPECT_EQ(numero, 15);
+    EXPECT_EQ(bis, QStringLiteral("C"));
+    EXPECT_EQ(prueba::VentanasVisibles(), 0);
+    FijaAhora(std::nullopt);
+}
+
+TEST(PreguntaNumeroFacturaForm, CancellingLeavesTheValuesAsTheyCame) {
+    QString serie = QStringLiteral("B"), bis = QStringLiteral("D");
+    int ano = 2020, numero = 44;
+    prueba::AlAbrirseModal([](QWidget* w) {
+        auto* f = qobject_cast<TFPreguntaNumeroFactura*>(w);
+        ASSERT_NE(f, nullptr);
+        EXPECT_EQ(f->Numero(), 44);
+        f->ENumero->setText(QStringLiteral("99"));
+        QTest::keyClick(f->ENumero, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(PreguntaNumeroFacturaForm(serie, ano, numero, bis));
+    EXPECT_EQ(serie, QStringLiteral("B"));
+    EXPECT_EQ(ano, 2020);
+    EXPECT_EQ(numero, 44);
+    EXPECT_EQ(bis, QStringLiteral("D"));
+    EXPECT_EQ(prueba::VentanasVisibles(), 0);
+}
+
+} // namespace
+} // namespace nod
