@@ -96,6 +96,22 @@ const char16_t* const kMesesCa[13] = {u"gener",    u"febrer",   u"març",  u"abr
                                       u"juny",     u"juliol",   u"agost", u"setembre", u"octubre",
                                       u"novembre", u"desembre", u"\n"};
 
+// "de l'any  dos mil" -> "de dos mil": every "l'any" goes with the blanks after it, also one that the
+// removal of another brings together ("l'l'anyany"). One pass: the text kept so far never holds one.
+QString sinLAny(const QString& s) {
+    static constexpr QStringView kLAny = u"l'any";
+    QString r;
+    r.reserve(s.size());
+    for (qsizetype i = 0; i < s.size(); ++i) {
+        r += s[i];
+        if (!r.endsWith(kLAny)) continue;
+        r.chop(kLAny.size());
+        while (i + 1 < s.size() && s[i + 1] == u' ')
+            ++i;
+    }
+    return r;
+}
+
 } // namespace
 
 QString FormateaFecha(const QString& formato, TDateTime fecha, bool catalan) {
@@ -172,17 +188,7 @@ QString TraduceFechaNod(const QString& texto) {
 }
 
 QString TraduceFechaCatalan(const QString& texto) {
-    const QString t = limpiaFecha(texto, [](QString s) {
-        // "de l'any  dos mil" -> "de dos mil": the year's own blanks go with it.
-        qsizetype p;
-        while ((p = s.indexOf(u"l'any")) >= 0) {
-            qsizetype fin = p + 5;
-            while (fin < s.size() && s[fin] == u' ')
-                ++fin;
-            s.remove(p, fin - p);
-        }
-        return s;
-    });
+    const QString t = limpiaFecha(texto, sinLAny);
     const qsizetype de = t.indexOf(u" de "), d = t.indexOf(u" d'");
     if (d >= 0 && (de < 0 || d < de)) return leeFecha(t, d, 3, kMesesCa, true);
     return leeFecha(t, de, 4, kMesesCa, true);

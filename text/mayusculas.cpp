@@ -6,19 +6,8 @@ namespace nod {
 
 namespace {
 
-QString conCapital(const QString& palabra) {
-    QString r = palabra;
-    if (!r.isEmpty()) r[0] = UpperCase(QString(r[0]))[0];
-    return r;
-}
-
-// Cuts `resto` at each `separador` (kept with the part before it) and gives each part a capital.
-void capitalizaPartes(QString& resto, QChar separador, QString& resultado) {
-    qsizetype p;
-    while ((p = resto.indexOf(separador)) >= 0) {
-        resultado += conCapital(resto.left(p + 1));
-        resto.remove(0, p + 1);
-    }
+QChar mayuscula(QChar c) {
+    return UpperCase(QString(c))[0];
 }
 
 } // namespace
@@ -37,14 +26,15 @@ QString MayusMinus(const QString& s, QChar caso) {
 }
 
 QString CapitalCase(const QString& s) {
-    QString resto = lowerCase(s);
-    QString resultado;
-    resultado.reserve(resto.size());
-    capitalizaPartes(resto, u' ', resultado);
-    // Hyphens are looked for only in what is left after the last blank: the last word.
-    capitalizaPartes(resto, u'-', resultado);
-    resultado += conCapital(resto);
-    return resultado;
+    QString r = lowerCase(s);
+    // A word starts the text or follows a blank; in the last word (after the last blank) a hyphen starts
+    // one too: "ANA-MARIA DE LA O" gives "Ana-maria De La O" but "DE ANA-MARIA" gives "De Ana-Maria".
+    const qsizetype ultimoBlanco = r.lastIndexOf(u' ');
+    for (qsizetype i = 0; i < r.size(); ++i) {
+        const bool empieza = i == 0 || r[i - 1] == u' ' || (i - 1 > ultimoBlanco && r[i - 1] == u'-');
+        if (empieza) r[i] = mayuscula(r[i]);
+    }
+    return r;
 }
 
 } // namespace nod

@@ -46,10 +46,7 @@ QString PesetasEurosNod(qint64 pesetas) {
     if (rate == 0) return {};
     QString entera, decimal;
     ParteEnteraDecimal(Float_Cad(RedondeaDec(double(pesetas) / rate, 2)), entera, decimal);
-    const bool negativo = entera.startsWith(u'-');
-    if (negativo) entera.remove(0, 1);
-    const QString texto = (negativo ? QStringLiteral("-") : QString()) + AgrupaMiles(entera) + u',' +
-                          (decimal + QStringLiteral("00")).left(2);
+    const QString texto = agrupaEntero(entera) + u',' + (decimal + QStringLiteral("00")).left(2);
     return texto == u"0,00" ? QString() : texto;
 }
 

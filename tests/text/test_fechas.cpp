@@ -138,6 +138,8 @@ TEST(TraduceFechaCatalan, ReadsCatalanDatesInWords) {
         {"quinze d'abril de dos mil deu", "15/04/2010"},
         {"quinze d'abril de l'any  dos mil deu", "15/04/2010"},
         {"QUINZE DE MARÇ DE L'ANY DOS MIL DEU.", "15/03/2010"},
+        // The removal of the inner "l'any" brings another together; both go.
+        {"quinze d'abril de l'l'anyany  dos mil deu", "15/04/2010"},
         {"dos de juny de dos mil vint i u", "02/06/2021"},
         {"vint i u d'octubre de mil nou cents noranta i nou", "21/10/1999"},
         {"quinze de brumari de dos mil", "  /  /    "},
