@@ -86,7 +86,9 @@ TEST(MensajeNod, SecondLineLongerThanFortyCharactersIsDrawnAtTenPoints) {
         Caja c;
         c.forma->CambiaMensaje2(QString(largo, QLatin1Char('x')));
         EXPECT_EQ(c.l2->font().pointSize() == 10, diezPuntos) << largo;
-        if (!diezPuntos) EXPECT_EQ(c.l2->font().pixelSize(), 16) << largo;
+        if (!diezPuntos) {
+            EXPECT_EQ(c.l2->font().pixelSize(), 16) << largo;
+        }
     }
 }
 
@@ -122,10 +124,11 @@ TEST(MensajeNod, ButtonSetsForEveryType) {
         const bool personalizado = k.tipo == 5 || k.tipo == 6;
         EXPECT_EQ(c.b1->font().pointSize(), puntos + (personalizado ? 2 : 0)) << k.tipo;
         EXPECT_EQ(c.b1->icon().isNull(), personalizado) << k.tipo;
-        if (k.foco == 1)
+        if (k.foco == 1) {
             EXPECT_EQ(c.forma->focusWidget(), c.b1) << k.tipo;
-        else if (k.foco == 2)
+        } else if (k.foco == 2) {
             EXPECT_EQ(c.forma->focusWidget(), c.b2) << k.tipo;
+        }
         EXPECT_EQ(c.forma->tipoMensaje(), k.tipo);
     }
 }
