@@ -237,21 +237,94 @@ def tabla_clientes():
 # ---------------------------------------------------------------------------------------------------
 # Tables other subsystems read, empty but well formed (their own generators may fill them)
 
-def tabla_tipo_int():
-    return [campo("CODIGO", "N", 4), campo("DESCRIPCIO", "C", 60)], []
-
-
 def tabla_conexion():
     return [campo("EQUIPO", "C", 60), campo("FECHA", "D"), campo("HORA", "C", 8)], []
-
-
-def tabla_cab_fact():
-    return [campo("FECHA_ENT", "D"), campo("NOMBRE", "C", 10), campo("DESCRIP", "C", 80)], []
 
 
 def tabla_facturaa():
     return [campo("CODNUMERO", "N", 12), campo("NUMEROFAC", "N", 8), campo("BIS", "C", 1), campo("FECHAPAGO", "D"),
             campo("CODFACTURA", "N", 12), campo("CODCLIENTE", "N", 8)], []
+
+
+# ---------------------------------------------------------------------------------------------------
+# Protocol: the office's kinds of intervention and each notary's invoice headers
+
+# The kinds of intervention the office has defined for its deeds (CODIGO, DESCRIPCIO).
+TIPOS_INTERVENCION = [
+    (1, "En su nombre"),
+    (2, "En nombre y representación de"),
+    (3, "Como administrador único de"),
+    (4, "Como administradores solidarios de"),
+    (5, "Como administradores mancomunados de"),
+    (6, "Como consejero delegado de"),
+    (7, "Como apoderado de"),
+    (8, "Como mandatario verbal de"),
+    (9, "En ejercicio de la patria potestad sobre sus hijos menores"),
+    (10, "Como tutor de"),
+    (11, "Como albacea de la herencia de"),
+    (12, "Como presidente de la comunidad de propietarios"),
+    (20, "Por sí y en representación de su cónyuge"),
+]
+
+
+def tabla_tipo_int():
+    filas = [{"CODIGO": c, "DESCRIPCIO": d} for c, d in TIPOS_INTERVENCION]
+    return [campo("CODIGO", "N", 4), campo("DESCRIPCIO", "C", 60)], filas
+
+
+CAMPOS_CAB_FACT = [campo("FECHA_ENT", "D"), campo("NOMBRE", "C", 10), campo("DESCRIP", "C", 80)]
+
+
+def filas_cabecera(fecha, lineas):
+    """One row per header line in force from `fecha` (YYYYMMDD); `lineas` maps fac_1 .. fac_g_4 to texts."""
+    return [{"FECHA_ENT": fecha, "NOMBRE": nombre, "DESCRIP": texto} for nombre, texto in lineas.items()]
+
+
+# Notary 1 (fictitious): the first header; the office moves in June 2021 (address and phone lines change);
+# new bank account and mail address from 2024. Each date carries all twelve lines in force from then.
+CABECERA_NOTARIO1 = {
+    "fac_1": "IGNACIO RUIZ VALDÉS", "fac_2": "NOTARIO DE MADRID",
+    "fac_3": "C/ Príncipe de Vergara, 41, 2º dcha. 28001 MADRID", "fac_4": "N.I.F. 05267431P",
+    "fac_d_1": "Teléfono 914 350 218 - Fax 914 350 219", "fac_d_2": "notaria.ruiz@notariado-ejemplo.es",
+    "fac_d_3": "Horario: lunes a viernes de 9 a 14 y de 16:30 a 19:30", "fac_d_4": "",
+    "fac_g_1": "Pago por transferencia a la cuenta", "fac_g_2": "ES12 0049 1500 0512 3456 7890",
+    "fac_g_3": "indicando el número de factura", "fac_g_4": "",
+}
+CABECERA_NOTARIO1_2021 = dict(CABECERA_NOTARIO1, **{
+    "fac_3": "Paseo de la Castellana, 118, 4º. 28046 MADRID",
+    "fac_d_1": "Teléfono 915 620 447 - Fax 915 620 448",
+})
+CABECERA_NOTARIO1_2024 = dict(CABECERA_NOTARIO1_2021, **{
+    "fac_d_2": "ruizvaldes@notariado-ejemplo.es",
+    "fac_g_2": "ES76 2100 0418 4502 0005 1332",
+    "fac_g_4": "Factura sujeta a retención del I.R.P.F.",
+})
+
+# Notary 2 (fictitious): a later appointment to the same office; one change in September 2023.
+CABECERA_NOTARIO2 = {
+    "fac_1": "MARÍA DEL CARMEN OLMEDO SÁNCHEZ", "fac_2": "NOTARIO DE MADRID",
+    "fac_3": "C/ Príncipe de Vergara, 41, 2º dcha. 28001 MADRID", "fac_4": "N.I.F. 33912876K",
+    "fac_d_1": "Teléfono 914 350 230", "fac_d_2": "notaria.olmedo@notariado-ejemplo.es",
+    "fac_d_3": "", "fac_d_4": "",
+    "fac_g_1": "Pago por transferencia a la cuenta", "fac_g_2": "ES91 0182 2370 4102 0150 3124",
+    "fac_g_3": "", "fac_g_4": "",
+}
+CABECERA_NOTARIO2_2023 = dict(CABECERA_NOTARIO2, **{
+    "fac_3": "Paseo de la Castellana, 118, 4º. 28046 MADRID",
+    "fac_d_1": "Teléfono 915 620 450",
+    "fac_g_3": "Bizum notaría: 600 111 222",
+})
+
+
+def tabla_cab_fact_notario1():
+    filas = (filas_cabecera("20150102", CABECERA_NOTARIO1) + filas_cabecera("20210601", CABECERA_NOTARIO1_2021)
+             + filas_cabecera("20240101", CABECERA_NOTARIO1_2024))
+    return CAMPOS_CAB_FACT, filas
+
+
+def tabla_cab_fact_notario2():
+    filas = filas_cabecera("20180301", CABECERA_NOTARIO2) + filas_cabecera("20230915", CABECERA_NOTARIO2_2023)
+    return CAMPOS_CAB_FACT, filas
 
 
 # (database folder of the office, file name, generator). DATOS is alias DB; NOTARIO1/2 the notaries'.
@@ -263,8 +336,8 @@ TABLAS = [
     ("DATOS", "CLIENTES.DBF", tabla_clientes),
     ("DATOS", "Tipo_Int.dbf", tabla_tipo_int),
     ("DATOS", "CONEXION.DBF", tabla_conexion),
-    ("NOTARIO1", "CAB_FACT.DBF", tabla_cab_fact),
-    ("NOTARIO2", "CAB_FACT.DBF", tabla_cab_fact),
+    ("NOTARIO1", "CAB_FACT.DBF", tabla_cab_fact_notario1),
+    ("NOTARIO2", "CAB_FACT.DBF", tabla_cab_fact_notario2),
     ("NOTARIO1", "FACTURAA.DBF", tabla_facturaa),
     ("NOTARIO2", "FACTURAA.DBF", tabla_facturaa),
 ]

@@ -130,3 +130,44 @@ TEST(ActuacionINTI, DescripcionPorCodigo) {
 }
 
 } // namespace
+
+// The sample office's own tables: each notary's header lines change on their dates, and the office's
+// intervention kinds are found by code.
+TEST(OficinaMuestra, CabecerasDeLosDosNotariosYTiposDeIntervencion) {
+    const TConfig anterior = Config;
+    Config.Carga(OficinaMuestra());
+    OlvidaTablasCargadas();
+    struct Caso {
+        const char* notario;
+        TDateTime fecha;
+        const char* fac_1;
+        const char* fac_3;
+        const char* fac_g_2;
+    };
+    const Caso casos[] = {
+        {"1", dia(2, 1, 2015), "IGNACIO RUIZ VALDÉS", "C/ Príncipe de Vergara, 41, 2º dcha. 28001 MADRID",
+         "ES12 0049 1500 0512 3456 7890"},
+        {"1", dia(31, 5, 2021), "IGNACIO RUIZ VALDÉS", "C/ Príncipe de Vergara, 41, 2º dcha. 28001 MADRID",
+         "ES12 0049 1500 0512 3456 7890"},
+        {"1", dia(1, 6, 2021), "IGNACIO RUIZ VALDÉS", "Paseo de la Castellana, 118, 4º. 28046 MADRID",
+         "ES12 0049 1500 0512 3456 7890"},
+        {"1", dia(15, 3, 2025), "IGNACIO RUIZ VALDÉS", "Paseo de la Castellana, 118, 4º. 28046 MADRID",
+         "ES76 2100 0418 4502 0005 1332"},
+        {"2", dia(14, 9, 2023), "MARÍA DEL CARMEN OLMEDO SÁNCHEZ",
+         "C/ Príncipe de Vergara, 41, 2º dcha. 28001 MADRID", "ES91 0182 2370 4102 0150 3124"},
+        {"2", dia(15, 9, 2023), "MARÍA DEL CARMEN OLMEDO SÁNCHEZ",
+         "Paseo de la Castellana, 118, 4º. 28046 MADRID", "ES91 0182 2370 4102 0150 3124"},
+    };
+    for (const Caso& c : casos) {
+        Config.SetsNotario(QString::fromLatin1(c.notario));
+        ActualizaCabeceraFacturas(c.fecha, false);
+        EXPECT_EQ(Config.GetFac_1(), QString::fromUtf8(c.fac_1)) << c.notario << ' ' << c.fecha;
+        EXPECT_EQ(Config.GetFac_3(), QString::fromUtf8(c.fac_3)) << c.notario << ' ' << c.fecha;
+        EXPECT_EQ(Config.GetFac_g_2(), QString::fromUtf8(c.fac_g_2)) << c.notario << ' ' << c.fecha;
+    }
+    EXPECT_EQ(Actuacion_INTI(1), QStringLiteral("En su nombre"));
+    EXPECT_EQ(Actuacion_INTI(7), QStringLiteral("Como apoderado de"));
+    EXPECT_EQ(Actuacion_INTI(20), QStringLiteral("Por sí y en representación de su cónyuge"));
+    EXPECT_TRUE(Actuacion_INTI(13).isEmpty());
+    Config = anterior;
+}
