@@ -16,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
@@ -116,6 +117,8 @@ TCalculadoraHonorarios::TCalculadoraHonorarios(QWidget* parent)
     EIVA->setRange(0, 100);
     EIVA->setDecimals(2);
     EIVA->setSuffix(QStringLiteral(" %"));
+    // A percentage reads "21,00 %" whatever the machine's locale; no grouping is involved here.
+    EIVA->setLocale(QLocale(QLocale::Spanish, QLocale::Spain));
     EIVA->setValue(21);
     BBCompruebaIVA = crea<QPushButton>(GBIVA, "BBCompruebaIVA");
     BBCompruebaIVA->setText(QStringLiteral("Comprobar &IVA"));

@@ -83,11 +83,14 @@ TFPreguntaNumeroFactura::TFPreguntaNumeroFactura(QWidget* owner)
                                                         {QStringLiteral("A&ño"), EAno},
                                                         {QStringLiteral("&Número"), ENumero},
                                                         {QStringLiteral("&Bis"), EBis}};
+    // Series, year and number read as the printed invoice number does: "A - 2024 / 15", then the bis.
+    const QString separadores[] = {QStringLiteral("-"), QStringLiteral("/"), QString()};
     int columna = 0;
-    for (const auto& [texto, edit] : columnas) {
+    for (int i = 0; i < columnas.size(); ++i) {
+        const auto& [texto, edit] = columnas[i];
         rejilla->addWidget(rotulo(panel, texto, edit), 0, columna);
-        rejilla->addWidget(edit, 1, columna);
-        ++columna;
+        rejilla->addWidget(edit, 1, columna++);
+        if (i < 3) rejilla->addWidget(new QLabel(separadores[i], panel), 1, columna++, Qt::AlignCenter);
     }
     rejilla->setColumnStretch(columna, 1);
 
