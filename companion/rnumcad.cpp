@@ -161,10 +161,14 @@ bool EsUnNumero(QChar c) {
     return c >= QLatin1Char('0') && c <= QLatin1Char('9');
 }
 
-QString DejaSoloNumeros(const QString& s) {
+bool EsUnNumero(const QString& s) {
+    return !s.isEmpty() && std::all_of(s.begin(), s.end(), [](QChar c) { return EsUnNumero(c); });
+}
+
+QString DejaSoloNumeros(const QString& s, bool conSeparadores) {
     QString r;
     for (QChar c : s)
-        if (EsUnNumero(c)) r += c;
+        if (EsUnNumero(c) || (conSeparadores && (c == u',' || c == u'.'))) r += c;
     return r;
 }
 

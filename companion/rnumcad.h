@@ -49,8 +49,13 @@ QString lowerCase(const QString& s);
 
 /// True for the decimal digits "0" to "9" only.
 bool EsUnNumero(QChar c);
+/// True when `s` is not empty and every character of it is a decimal digit: EsUnNumero("0123") is true,
+/// EsUnNumero("12.3") and EsUnNumero("") are false.
+bool EsUnNumero(const QString& s);
 
 /// The decimal digits of `s`, in order, everything else dropped: DejaSoloNumeros("B-12.3") == "123".
-QString DejaSoloNumeros(const QString& s);
+/// With `conSeparadores` the decimal and thousands marks "," and "." are kept too, for figures that
+/// are converted afterwards: DejaSoloNumeros("1.234,5 m", true) == "1.234,5".
+QString DejaSoloNumeros(const QString& s, bool conSeparadores = false);
 
 } // namespace nod

@@ -4,21 +4,11 @@
 #include "companion/rnumcad.h"
 #include "text/moneda.h"
 
-#include <algorithm>
-
 namespace nod {
-
-namespace {
-
-bool todoCifras(const QString& s) {
-    return std::all_of(s.begin(), s.end(), [](QChar c) { return EsUnNumero(c); });
-}
-
-} // namespace
 
 QString NIF(const QString& s) {
     if (s.isEmpty()) return {};
-    if (!todoCifras(s)) return s;
+    if (!EsUnNumero(s)) return s;
     const QString t = s.trimmed();
     bool ok = false;
     const int n = t.toInt(&ok);

@@ -5,14 +5,6 @@ namespace nod {
 
 namespace {
 
-// Digits with their "," and "." kept, for a surface written as a plain figure.
-QString cifrasYSeparadores(const QString& s) {
-    QString r;
-    for (QChar c : s)
-        if (EsUnNumero(c) || c == u',' || c == u'.') r.append(c);
-    return r;
-}
-
 // Looks for the plural word first, then the singular, in `w`: on a find, returns the trimmed text before it
 // and leaves in `w` the text after it (when `corta`).
 bool parteAntesDe(QString& w, QStringView plural, QStringView singular, QString& antes, bool corta = true) {
@@ -36,7 +28,7 @@ double cifras(const QString& texto) {
 void ExtraeSuperficiesRustica(const QString& s, double& superficie) {
     superficie = 0;
     if (!s.contains(u"HECTAREA") && !s.contains(u"AREA")) { // "HECTAREAS", "CENTIAREA(S)" hold these two
-        superficie = Cad_Float(cifrasYSeparadores(s).replace(u',', u'.'));
+        superficie = Cad_Float(DejaSoloNumeros(s, true).replace(u',', u'.'));
         return;
     }
     QString w = QString(s).remove(u',').remove(u'.');

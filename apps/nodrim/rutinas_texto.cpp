@@ -85,7 +85,8 @@ void registraMonedaYConversiones(Rutinas& r) {
     r.agrega("StrCeros", &StrCeros);
     r.agrega("UpperCase", &UpperCase);
     r.agrega("lowerCase", &lowerCase);
-    r.agrega("EsUnNumero", &EsUnNumero);
+    r.agrega("EsUnNumero",
+             qOverload<const QString&>(&EsUnNumero)); // a one-character text is the character form
     r.agrega("DejaSoloNumeros", &DejaSoloNumeros);
 }
 

@@ -114,6 +114,10 @@ TEST(Rnumcad, Digits) {
         EXPECT_FALSE(EsUnNumero(c)) << int(c.unicode());
     EXPECT_EQ(DejaSoloNumeros(QStringLiteral("B-12.3")), QStringLiteral("123"));
     EXPECT_EQ(DejaSoloNumeros(QStringLiteral("abc")), QString());
+    EXPECT_EQ(DejaSoloNumeros(QStringLiteral("1.234,5 m"), true), QStringLiteral("1.234,5"));
+    for (auto [texto, numero] :
+         {std::pair{"0123", true}, {"7", true}, {"", false}, {"12.3", false}, {" 12", false}})
+        EXPECT_EQ(EsUnNumero(QString::fromLatin1(texto)), numero) << texto;
 }
 
 TEST(Fechas, CompletaAnnoCentury) {
