@@ -1,6 +1,7 @@
 #!/bin/sh
-# Builds and runs the whole test suite: a normal build, then the same tests under AddressSanitizer
-# and UndefinedBehaviorSanitizer. CTest's summary line ends the output.
+# Builds and runs the whole test suite: the tests under AddressSanitizer and UndefinedBehaviorSanitizer,
+# a bounded fuzzing run of the text parsers, then a release build (benchmarks included) and its tests.
+# CTest's summary line ends the output.
 set -eu
 cd "$(dirname "$0")/.."
 tools/setup-debian.sh
@@ -9,7 +10,14 @@ JOBS=$(nproc)
 cmake -S . -B build/asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DNOD_SANITIZE=ON -DNOD_BUILD_BENCH=OFF >/dev/null
 cmake --build build/asan -j "$JOBS"
 ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 \
-    ctest --test-dir build/asan -j "$JOBS" --output-on-failure --timeout 600 -E '^bench_'
+    ctest --test-dir build/asan -j "$JOBS" --output-on-failure --timeout 600
+
+echo "Fuzzing the text parsers for ${NOD_FUZZ_SECONDS:-60} s (log: build/fuzz-text.log)"
+if ! tools/fuzz-text.sh "${NOD_FUZZ_SECONDS:-60}" >build/fuzz-text.log 2>&1; then
+    tail -n 40 build/fuzz-text.log
+    echo "The fuzzer found a failing input (see build/fuzz-text/)" >&2
+    exit 1
+fi
 
 cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build/release -j "$JOBS"
