@@ -40,3 +40,14 @@ TEST(LoteFrame, FinancialAssetsBoxAnswers) {
     EXPECT_EQ(pide(R"({"fn":"Mensaje_ActivosFinancieros","args":[1]})")["result"], 6);
     EXPECT_EQ(pide(R"({"fn":"Mensaje_ActivosFinancieros","args":[1],"answers":[7]})")["result"], 7);
 }
+
+TEST(LoteFrame, MensajePersonWithTooFewArgumentsNamesItsSignature) {
+    const json e = pide(R"({"fn":"Mensaje_Person","args":[1,"abajo",1,"T","arriba"],"answers":[1]})");
+    ASSERT_TRUE(e.contains("error"));
+    EXPECT_NE(
+        e["error"].get<std::string>().find("Mensaje_Person(integer, string, integer, string, string, string, "
+                                           "string, integer, integer, integer, integer)"),
+        std::string::npos)
+        << e.dump();
+    EXPECT_TRUE(e["dialogs"].empty()) << "nothing is shown for a call that does not fit";
+}
