@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFormLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
@@ -62,8 +63,17 @@ TFVersionNod::TFVersionNod(QWidget* owner)
     l->addWidget(m_tablas, 1);
     auto* aceptar = new QPushButton(QStringLiteral("&Aceptar"), this);
     aceptar->setObjectName(QStringLiteral("BBAceptar"));
+    aceptar->setAutoDefault(false);
     connect(aceptar, &QPushButton::clicked, this, &QDialog::accept);
     l->addWidget(aceptar, 0, Qt::AlignRight);
+}
+
+void TFVersionNod::keyPressEvent(QKeyEvent* e) {
+    if ((e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && e->modifiers() == Qt::NoModifier) {
+        focusNextChild();
+        return;
+    }
+    QDialog::keyPressEvent(e);
 }
 
 } // namespace nod

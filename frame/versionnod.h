@@ -24,6 +24,10 @@ public:
     /// `BBAceptar`; when the alias has no folder, `LAviso` says so.
     explicit TFVersionNod(QWidget* owner = nullptr);
 
+protected:
+    /// Enter moves the focus to the next control; Escape closes.
+    void keyPressEvent(QKeyEvent* e) override;
+
 private:
     QTableWidget* m_tablas;
 };

@@ -283,3 +283,24 @@ TEST(ServicioQt, ErrorBoxHasOneAcceptButton) {
     EXPECT_EQ(texto, QStringLiteral("No existe la carpeta"));
     EXPECT_EQ(prueba::VentanasVisibles(), 0);
 }
+
+TEST(DialogosMarco, EnterMovesTheFocusToTheNextControl) {
+    TFRelojNod reloj;
+    TFVersionNod version;
+    const struct {
+        QDialog* forma;
+        const char *desde, *hasta;
+    } casos[] = {{&reloj, "DTPFecha", "DTPHora"},
+                 {&reloj, "DTPHora", "BBAceptar"},
+                 {&version, "SGTablas", "BBAceptar"}};
+    for (const auto& k : casos) {
+        k.forma->show();
+        QApplication::setActiveWindow(k.forma);
+        auto* desde = k.forma->findChild<QWidget*>(QLatin1String(k.desde));
+        ASSERT_NE(desde, nullptr) << k.desde;
+        desde->setFocus();
+        QTest::keyClick(desde, Qt::Key_Return);
+        EXPECT_TRUE(k.forma->isVisible()) << k.desde;
+        EXPECT_EQ(k.forma->focusWidget()->objectName(), QLatin1String(k.hasta)) << k.desde;
+    }
+}
