@@ -5,6 +5,7 @@ namespace nod::demo {
 CatalogoDemo RegistraTodos() {
     CatalogoDemo c;
     RegistraDialogosFrame(c);
+    RegistraDialogosIdent(c);
     RegistraDialogosProtocolo(c);
     return c;
 }

@@ -36,6 +36,7 @@ private:
 // One registration function per subsystem.
 void RegistraDialogosFrame(CatalogoDemo& c);
 void RegistraDialogosProtocolo(CatalogoDemo& c);
+void RegistraDialogosIdent(CatalogoDemo& c);
 
 /// Every subsystem's dialogs, in the order of the library's parts.
 CatalogoDemo RegistraTodos();
