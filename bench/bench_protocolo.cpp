@@ -8,8 +8,7 @@ using namespace nod;
 
 namespace {
 
-void configura()
-{
+void configura() {
     Config.SetsTipoArancel(QString());
     Config.SetnCor_Tipo1(4.5);
     Config.SetnCor_Tipo2(1.5);
@@ -23,8 +22,7 @@ void configura()
     Config.SetnCor_minimo(3000);
 }
 
-void BM_Ges_Arancel_E(benchmark::State& s)
-{
+void BM_Ges_Arancel_E(benchmark::State& s) {
     double importe = 1000;
     for (auto _ : s) {
         benchmark::DoNotOptimize(Ges_Arancel_E(importe));
@@ -33,8 +31,7 @@ void BM_Ges_Arancel_E(benchmark::State& s)
 }
 BENCHMARK(BM_Ges_Arancel_E);
 
-void BM_ARANCEL_C(benchmark::State& s)
-{
+void BM_ARANCEL_C(benchmark::State& s) {
     configura();
     const QString si = QStringLiteral("SI"), no = QStringLiteral("NO"), factura = QStringLiteral("factura");
     double importe = 100000;
@@ -45,8 +42,7 @@ void BM_ARANCEL_C(benchmark::State& s)
 }
 BENCHMARK(BM_ARANCEL_C);
 
-void BM_BASE_C(benchmark::State& s)
-{
+void BM_BASE_C(benchmark::State& s) {
     configura();
     const QString no = QStringLiteral("NO");
     double objetivo = 5000;

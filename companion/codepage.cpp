@@ -2,7 +2,6 @@
 
 #include <QHash>
 #include <QStringDecoder>
-
 #include <array>
 
 namespace nod {
@@ -16,8 +15,7 @@ struct Tabla {
     QHash<char16_t, char> aByte;
 };
 
-Tabla construye(CodePage cp)
-{
+Tabla construye(CodePage cp) {
     Tabla t;
     QStringDecoder decoder(NombreCodePage(cp));
     for (int b = 0; b < 256; ++b) {
@@ -26,16 +24,14 @@ Tabla construye(CodePage cp)
         // The lower half is ASCII in every page the office uses (ICU's IBM pages swap a few control codes).
         char16_t u = b < 0x80 ? char16_t(b) : s.size() == 1 ? s.at(0).unicode() : char16_t(b);
         // Windows-1252 leaves five bytes undefined; they keep their C1 control value, as Windows does.
-        if (u == 0xFFFD)
-            u = char16_t(b);
+        if (u == 0xFFFD) u = char16_t(b);
         t.aUnicode[size_t(b)] = u;
         t.aByte.insert(u, byte);
     }
     return t;
 }
 
-const Tabla& tabla(CodePage cp)
-{
+const Tabla& tabla(CodePage cp) {
     static const Tabla w1252 = construye(CodePage::Windows1252);
     static const Tabla cp850 = construye(CodePage::Cp850);
     static const Tabla cp437 = construye(CodePage::Cp437);
@@ -52,8 +48,7 @@ const Tabla& tabla(CodePage cp)
 
 } // namespace
 
-const char* NombreCodePage(CodePage cp)
-{
+const char* NombreCodePage(CodePage cp) {
     switch (cp) {
     case CodePage::Cp850:
         return "IBM850";
@@ -65,8 +60,7 @@ const char* NombreCodePage(CodePage cp)
     return "windows-1252";
 }
 
-QString Decodifica(QByteArrayView bytes, CodePage cp)
-{
+QString Decodifica(QByteArrayView bytes, CodePage cp) {
     const Tabla& t = tabla(cp);
     QString out(bytes.size(), Qt::Uninitialized);
     QChar* dst = out.data();
@@ -75,8 +69,7 @@ QString Decodifica(QByteArrayView bytes, CodePage cp)
     return out;
 }
 
-std::optional<QByteArray> Codifica(QStringView texto, CodePage cp, qsizetype* fallo)
-{
+std::optional<QByteArray> Codifica(QStringView texto, CodePage cp, qsizetype* fallo) {
     const Tabla& t = tabla(cp);
     QByteArray out(texto.size(), Qt::Uninitialized);
     for (qsizetype i = 0; i < texto.size(); ++i) {
@@ -87,8 +80,7 @@ std::optional<QByteArray> Codifica(QStringView texto, CodePage cp, qsizetype* fa
         }
         auto it = t.aByte.constFind(u);
         if (it == t.aByte.cend()) {
-            if (fallo)
-                *fallo = i;
+            if (fallo) *fallo = i;
             return std::nullopt;
         }
         out[i] = *it;
@@ -96,6 +88,8 @@ std::optional<QByteArray> Codifica(QStringView texto, CodePage cp, qsizetype* fa
     return out;
 }
 
-bool CabeEnCodePage(QStringView texto, CodePage cp) { return Codifica(texto, cp).has_value(); }
+bool CabeEnCodePage(QStringView texto, CodePage cp) {
+    return Codifica(texto, cp).has_value();
+}
 
 } // namespace nod

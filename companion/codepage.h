@@ -5,7 +5,6 @@
 
 #include <QByteArray>
 #include <QString>
-
 #include <optional>
 
 namespace nod {
@@ -19,7 +18,8 @@ const char* NombreCodePage(CodePage cp);
 QString Decodifica(QByteArrayView bytes, CodePage cp = CodePage::Windows1252);
 
 /// Encodes text; nullopt when a character does not exist in the page, reported in `fallo` (its position).
-std::optional<QByteArray> Codifica(QStringView texto, CodePage cp = CodePage::Windows1252, qsizetype* fallo = nullptr);
+std::optional<QByteArray> Codifica(QStringView texto, CodePage cp = CodePage::Windows1252,
+                                   qsizetype* fallo = nullptr);
 
 /// True when every character of the text exists in the page.
 bool CabeEnCodePage(QStringView texto, CodePage cp = CodePage::Windows1252);

@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-
 #include <array>
 
 namespace nod {
@@ -15,57 +14,44 @@ TConfig Config;
 namespace {
 
 template <typename T> struct TipoDe;
-template <> struct TipoDe<int> {
-    static constexpr TConfig::Tipo valor = TConfig::Tipo::Entero;
-};
-template <> struct TipoDe<double> {
-    static constexpr TConfig::Tipo valor = TConfig::Tipo::Real;
-};
-template <> struct TipoDe<bool> {
-    static constexpr TConfig::Tipo valor = TConfig::Tipo::Logico;
-};
-template <> struct TipoDe<QString> {
-    static constexpr TConfig::Tipo valor = TConfig::Tipo::Texto;
-};
+template <> struct TipoDe<int> { static constexpr TConfig::Tipo valor = TConfig::Tipo::Entero; };
+template <> struct TipoDe<double> { static constexpr TConfig::Tipo valor = TConfig::Tipo::Real; };
+template <> struct TipoDe<bool> { static constexpr TConfig::Tipo valor = TConfig::Tipo::Logico; };
+template <> struct TipoDe<QString> { static constexpr TConfig::Tipo valor = TConfig::Tipo::Texto; };
 
 // Texts of the INI files to typed values. A text that does not parse keeps the default, with a warning.
-[[maybe_unused]] bool interpreta(const QString& texto, int& v)
-{
+[[maybe_unused]] bool interpreta(const QString& texto, int& v) {
     bool ok = false;
     const int n = texto.toInt(&ok);
-    if (ok)
-        v = n;
+    if (ok) v = n;
     return ok;
 }
 
-[[maybe_unused]] bool interpreta(const QString& texto, double& v)
-{
+[[maybe_unused]] bool interpreta(const QString& texto, double& v) {
     QString t = texto;
-    if (!t.contains(QLatin1Char('.')))
-        t.replace(QLatin1Char(','), QLatin1Char('.'));
+    if (!t.contains(QLatin1Char('.'))) t.replace(QLatin1Char(','), QLatin1Char('.'));
     bool ok = false;
     const double d = t.toDouble(&ok); // QString::toDouble is locale-independent
-    if (ok)
-        v = d;
+    if (ok) v = d;
     return ok;
 }
 
-[[maybe_unused]] bool interpreta(const QString& texto, bool& v)
-{
+[[maybe_unused]] bool interpreta(const QString& texto, bool& v) {
     const QString t = texto.toUpper();
-    if (t == QLatin1String("1") || t == QLatin1String("S") || t == QLatin1String("SI") || t == QLatin1String("TRUE")) {
+    if (t == QLatin1String("1") || t == QLatin1String("S") || t == QLatin1String("SI") ||
+        t == QLatin1String("TRUE")) {
         v = true;
         return true;
     }
-    if (t == QLatin1String("0") || t == QLatin1String("N") || t == QLatin1String("NO") || t == QLatin1String("FALSE")) {
+    if (t == QLatin1String("0") || t == QLatin1String("N") || t == QLatin1String("NO") ||
+        t == QLatin1String("FALSE")) {
         v = false;
         return true;
     }
     return false;
 }
 
-[[maybe_unused]] bool interpreta(const QString& texto, QString& v)
-{
+[[maybe_unused]] bool interpreta(const QString& texto, QString& v) {
     v = texto;
     return true;
 }
@@ -74,22 +60,23 @@ constexpr char kSeccionPorNotario[] = "NOTARIO#";
 
 } // namespace
 
-const TConfig::Descriptor* TConfig::BuscaDescriptor(QStringView nombre)
-{
+const TConfig::Descriptor* TConfig::BuscaDescriptor(QStringView nombre) {
     for (const Descriptor& d : Descriptores())
-        if (nombre == QLatin1String(d.nombre))
-            return &d;
+        if (nombre == QLatin1String(d.nombre)) return &d;
     return nullptr;
 }
 
-std::span<const TConfig::Descriptor> TConfig::Descriptores()
-{
+std::span<const TConfig::Descriptor> TConfig::Descriptores() {
     static const auto tabla = std::to_array<Descriptor>({
         {"sNotario", Tipo::Texto, "GENERAL", "Notario", "The notary currently selected, as text",
          [](const TConfig& c) { return QVariant(c.GetsNotario()); },
          [](TConfig& c, const QVariant& v) { c.SetsNotario(v.toString()); }},
 #define NOD_VALOR(tipo, nombre, seccion, clave, defecto, doc)                                                \
-    {#nombre, TipoDe<tipo>::valor, seccion, clave, doc,                                                      \
+    {#nombre,                                                                                                \
+     TipoDe<tipo>::valor,                                                                                    \
+     seccion,                                                                                                \
+     clave,                                                                                                  \
+     doc,                                                                                                    \
      [](const TConfig& c) { return QVariant::fromValue(c.Get##nombre()); },                                  \
      [](TConfig& c, const QVariant& v) { c.Set##nombre(v.value<tipo>()); }},
 #include "companion/config/valores.def"
@@ -100,28 +87,26 @@ std::span<const TConfig::Descriptor> TConfig::Descriptores()
 
 TConfig::TConfig() = default;
 
-QString TConfig::seccionReal(const char* seccion) const
-{
-    if (qstrcmp(seccion, kSeccionPorNotario) == 0)
-        return QStringLiteral("NOTARIO") + m_sNotario;
+QString TConfig::seccionReal(const char* seccion) const {
+    if (qstrcmp(seccion, kSeccionPorNotario) == 0) return QStringLiteral("NOTARIO") + m_sNotario;
     return QLatin1String(seccion);
 }
 
-void TConfig::cargaValores(bool soloPorNotario)
-{
+void TConfig::cargaValores(bool soloPorNotario) {
     auto lee = [this, soloPorNotario](auto& miembro, auto defecto, const char* seccion, const char* clave) {
         const bool porNotario = qstrcmp(seccion, kSeccionPorNotario) == 0;
-        if (soloPorNotario && !porNotario)
-            return;
+        if (soloPorNotario && !porNotario) return;
         miembro = defecto;
         const QString sec = seccionReal(seccion);
         const QString cla = QLatin1String(clave);
-        const IniFile* ini = m_config.contiene(sec, cla) ? &m_config : m_varios.contiene(sec, cla) ? &m_varios : nullptr;
-        if (!ini)
-            return;
+        const IniFile* ini = m_config.contiene(sec, cla)   ? &m_config
+                             : m_varios.contiene(sec, cla) ? &m_varios
+                                                           : nullptr;
+        if (!ini) return;
         const QString texto = ini->valor(sec, cla);
         if (!interpreta(texto, miembro)) {
-            m_avisos << QStringLiteral("[%1] %2=%3: valor no válido, se usa el valor por defecto").arg(sec, cla, texto);
+            m_avisos << QStringLiteral("[%1] %2=%3: valor no válido, se usa el valor por defecto")
+                            .arg(sec, cla, texto);
             qCWarning(lcConfig).noquote() << m_avisos.last();
         }
     };
@@ -130,8 +115,7 @@ void TConfig::cargaValores(bool soloPorNotario)
 #undef NOD_VALOR
 }
 
-void TConfig::Carga(const QString& carpetaOficina)
-{
+void TConfig::Carga(const QString& carpetaOficina) {
     *this = TConfig();
     m_carpetaOficina = QDir::cleanPath(QFileInfo(carpetaOficina).absoluteFilePath());
     if (!QFileInfo(m_carpetaOficina).isDir()) {
@@ -147,27 +131,24 @@ void TConfig::Carga(const QString& carpetaOficina)
     cargaValores(false);
 }
 
-void TConfig::SetsNotario(const QString& notario)
-{
+void TConfig::SetsNotario(const QString& notario) {
     m_sNotario = notario;
     cargaValores(true);
 }
 
-void TConfig::ActualizaConvenio() { cargaValores(true); }
+void TConfig::ActualizaConvenio() {
+    cargaValores(true);
+}
 
-QString TConfig::CarpetaAlias(const QString& alias) const
-{
+QString TConfig::CarpetaAlias(const QString& alias) const {
     const QString carpeta = m_config.valor(QStringLiteral("ALIAS"), alias);
-    if (carpeta.isEmpty())
-        return {};
+    if (carpeta.isEmpty()) return {};
     return QDir::cleanPath(QDir(m_carpetaOficina).absoluteFilePath(carpeta));
 }
 
-QString TConfig::RutaUnidadC(const QString& rutaWindows) const
-{
+QString TConfig::RutaUnidadC(const QString& rutaWindows) const {
     QString resto = rutaWindows;
-    if (resto.size() >= 2 && resto[1] == QLatin1Char(':'))
-        resto = resto.mid(2);
+    if (resto.size() >= 2 && resto[1] == QLatin1Char(':')) resto = resto.mid(2);
     resto.replace(QLatin1Char('\\'), QLatin1Char('/'));
     while (resto.startsWith(QLatin1Char('/')))
         resto.remove(0, 1);
@@ -175,13 +156,10 @@ QString TConfig::RutaUnidadC(const QString& rutaWindows) const
     return resto.isEmpty() ? QDir::cleanPath(raiz) : QDir::cleanPath(raiz + QLatin1Char('/') + resto);
 }
 
-QString CarpetaOficinaPorDefecto(const QString& opcionOffice)
-{
-    if (!opcionOffice.isEmpty())
-        return opcionOffice;
+QString CarpetaOficinaPorDefecto(const QString& opcionOffice) {
+    if (!opcionOffice.isEmpty()) return opcionOffice;
     const QString entorno = qEnvironmentVariable("NODRIM_DIR");
-    if (!entorno.isEmpty())
-        return entorno;
+    if (!entorno.isEmpty()) return entorno;
     return QStringLiteral(NOD_SAMPLE_OFFICE);
 }
 

@@ -14,7 +14,6 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
-
 #include <span>
 
 namespace nod {
@@ -47,9 +46,11 @@ public:
     /// Reloads the agreement (per-notary) values of the selected notary from the office's files.
     void ActualizaConvenio();
 
+// clang-format off
 #define NOD_VALOR(tipo, nombre, seccion, clave, defecto, doc)                                                \
     const tipo& Get##nombre() const { return m_##nombre; }                                                   \
     void Set##nombre(const tipo& v) { m_##nombre = v; }
+// clang-format on
 #include "companion/config/valores.def"
 #undef NOD_VALOR
 

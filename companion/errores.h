@@ -3,7 +3,6 @@
 // table that cannot be opened). Everything else reports failure by a neutral result.
 
 #include <QString>
-
 #include <exception>
 #include <string>
 
@@ -11,7 +10,9 @@ namespace nod {
 
 class ErrorNod : public std::exception {
 public:
-    explicit ErrorNod(QString mensaje) : m_mensaje(std::move(mensaje)), m_utf8(m_mensaje.toStdString()) {}
+    explicit ErrorNod(QString mensaje)
+        : m_mensaje(std::move(mensaje))
+        , m_utf8(m_mensaje.toStdString()) {}
     const char* what() const noexcept override { return m_utf8.c_str(); }
     const QString& mensaje() const { return m_mensaje; }
 

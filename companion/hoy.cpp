@@ -8,10 +8,16 @@ namespace {
 std::optional<TDateTime> g_ahoraFijo;
 }
 
-TDateTime Now() { return g_ahoraFijo ? *g_ahoraFijo : QDateTimeToTDateTime(QDateTime::currentDateTime()); }
+TDateTime Now() {
+    return g_ahoraFijo ? *g_ahoraFijo : QDateTimeToTDateTime(QDateTime::currentDateTime());
+}
 
-TDateTime Date() { return std::trunc(Now()); }
+TDateTime Date() {
+    return std::trunc(Now());
+}
 
-void FijaAhora(std::optional<TDateTime> ahora) { g_ahoraFijo = ahora; }
+void FijaAhora(std::optional<TDateTime> ahora) {
+    g_ahoraFijo = ahora;
+}
 
 } // namespace nod

@@ -7,8 +7,7 @@
 
 namespace nod {
 
-bool IniFile::carga(const QString& ruta)
-{
+bool IniFile::carga(const QString& ruta) {
     QFile f(ruta);
     if (!f.exists()) {
         m_avisos << QStringLiteral("%1: no existe; se usan los valores por defecto").arg(ruta);
@@ -16,7 +15,8 @@ bool IniFile::carga(const QString& ruta)
         return false;
     }
     if (!f.open(QIODevice::ReadOnly)) {
-        m_avisos << QStringLiteral("%1: no se puede leer (%2); se usan los valores por defecto").arg(ruta, f.errorString());
+        m_avisos << QStringLiteral("%1: no se puede leer (%2); se usan los valores por defecto")
+                        .arg(ruta, f.errorString());
         qCWarning(lcConfig).noquote() << m_avisos.last();
         return false;
     }
@@ -24,8 +24,7 @@ bool IniFile::carga(const QString& ruta)
     return true;
 }
 
-void IniFile::cargaTexto(const QString& texto, const QString& nombre)
-{
+void IniFile::cargaTexto(const QString& texto, const QString& nombre) {
     Seccion* actual = nullptr;
     int malformadas = 0;
     const QStringList lineas = texto.split(QLatin1Char('\n'));
@@ -50,8 +49,7 @@ void IniFile::cargaTexto(const QString& texto, const QString& nombre)
         }
         const QString clave = linea.left(igual).trimmed();
         const QString claveMayus = clave.toUpper();
-        if (!actual->valores.contains(claveMayus))
-            actual->claves << clave;
+        if (!actual->valores.contains(claveMayus)) actual->claves << clave;
         actual->valores.insert(claveMayus, linea.mid(igual + 1).trimmed());
     }
     if (malformadas > kMaxAvisos) {
@@ -60,22 +58,18 @@ void IniFile::cargaTexto(const QString& texto, const QString& nombre)
     }
 }
 
-bool IniFile::contiene(const QString& seccion, const QString& clave) const
-{
+bool IniFile::contiene(const QString& seccion, const QString& clave) const {
     auto s = m_secciones.constFind(seccion.toUpper());
     return s != m_secciones.cend() && s->valores.contains(clave.toUpper());
 }
 
-QString IniFile::valor(const QString& seccion, const QString& clave, const QString& defecto) const
-{
+QString IniFile::valor(const QString& seccion, const QString& clave, const QString& defecto) const {
     auto s = m_secciones.constFind(seccion.toUpper());
-    if (s == m_secciones.cend())
-        return defecto;
+    if (s == m_secciones.cend()) return defecto;
     return s->valores.value(clave.toUpper(), defecto);
 }
 
-QStringList IniFile::claves(const QString& seccion) const
-{
+QStringList IniFile::claves(const QString& seccion) const {
     auto s = m_secciones.constFind(seccion.toUpper());
     return s == m_secciones.cend() ? QStringList() : s->claves;
 }

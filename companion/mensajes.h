@@ -10,7 +10,6 @@
 
 #include <QString>
 #include <QVector>
-
 #include <cstdint>
 #include <deque>
 
@@ -63,7 +62,8 @@ void InstalaServicioMensajes(ServicioMensajes* servicio);
 /// counts as yes (1) and 7 as no (2).
 class ServicioMensajesGuionado : public ServicioMensajes {
 public:
-    explicit ServicioMensajesGuionado(std::deque<int> respuestas = {}) : m_respuestas(std::move(respuestas)) {}
+    explicit ServicioMensajesGuionado(std::deque<int> respuestas = {})
+        : m_respuestas(std::move(respuestas)) {}
 
     void error(const QString& texto, const QString& titulo) override;
     void info(const QString& texto, const QString& titulo) override;
@@ -76,7 +76,10 @@ public:
 
     const QVector<DialogoMostrado>& mostrados() const { return m_mostrados; }
     void respuestas(std::deque<int> r) { m_respuestas = std::move(r); }
-    void limpia() { m_mostrados.clear(); m_respuestas.clear(); }
+    void limpia() {
+        m_mostrados.clear();
+        m_respuestas.clear();
+    }
     bool esperaVisible() const { return m_esperaVisible; }
 
 private:

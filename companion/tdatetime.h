@@ -10,10 +10,14 @@ namespace nod {
 using TDateTime = double;
 
 /// The day 30/12/1899, serial 0.
-inline QDate FechaBase() { return QDate(1899, 12, 30); }
+inline QDate FechaBase() {
+    return QDate(1899, 12, 30);
+}
 
 /// Serial of a calendar date at midnight; an invalid date gives 0.
-inline TDateTime QDateToTDateTime(QDate d) { return d.isValid() ? double(FechaBase().daysTo(d)) : 0.0; }
+inline TDateTime QDateToTDateTime(QDate d) {
+    return d.isValid() ? double(FechaBase().daysTo(d)) : 0.0;
+}
 
 /// Serial of a date and time, to the millisecond.
 TDateTime QDateTimeToTDateTime(const QDateTime& dt);
@@ -26,9 +30,13 @@ QDate TDateTimeToQDate(TDateTime t);
 QDateTime TDateTimeToQDateTime(TDateTime t);
 
 /// The whole-day part of a serial, as the suite compares dates.
-inline int DiaDe(TDateTime t) { return int(t); }
+inline int DiaDe(TDateTime t) {
+    return int(t);
+}
 
 /// Builds a serial from year, month and day; an impossible date gives 0.
-inline TDateTime EncodeDate(int anno, int mes, int dia) { return QDateToTDateTime(QDate(anno, mes, dia)); }
+inline TDateTime EncodeDate(int anno, int mes, int dia) {
+    return QDateToTDateTime(QDate(anno, mes, dia));
+}
 
 } // namespace nod

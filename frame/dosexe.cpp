@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-
 #include <cstdio>
 #include <cstring>
 #include <optional>
@@ -17,7 +16,9 @@ namespace nod {
 namespace {
 
 QString g_carpetaPif;
-void pitidoConsola() { std::fputc('\a', stderr); }
+void pitidoConsola() {
+    std::fputc('\a', stderr);
+}
 void (*g_pitido)() = pitidoConsola;
 
 // Offsets of the image (from 0).
@@ -27,25 +28,25 @@ constexpr int kLargoCampo = 63;
 constexpr int kCabeceraPifex = 0x171, kCabecera386 = 0x187, kDatos386 = 0x19D;
 constexpr int kCabeceraVmm = 0x205, kDatosVmm = 0x21B;
 
-void pon(QByteArray& img, int offset, const QByteArray& bytes) { std::memcpy(img.data() + offset, bytes.constData(), size_t(bytes.size())); }
-void pon16(QByteArray& img, int offset, quint16 v)
-{
+void pon(QByteArray& img, int offset, const QByteArray& bytes) {
+    std::memcpy(img.data() + offset, bytes.constData(), size_t(bytes.size()));
+}
+void pon16(QByteArray& img, int offset, quint16 v) {
     img[offset] = char(v & 0xFF);
     img[offset + 1] = char(v >> 8);
 }
 
 // An extension heading: a 16-byte name, the offset of the next heading (0xFFFF for the last), the offset
 // and the length of the section's data.
-void cabecera(QByteArray& img, int offset, const char* nombre, quint16 siguiente, quint16 datos, quint16 largo)
-{
+void cabecera(QByteArray& img, int offset, const char* nombre, quint16 siguiente, quint16 datos,
+              quint16 largo) {
     pon(img, offset, QByteArray(nombre));
     pon16(img, offset + 16, siguiente);
     pon16(img, offset + 18, datos);
     pon16(img, offset + 20, largo);
 }
 
-QByteArray construyePlantilla()
-{
+QByteArray construyePlantilla() {
     QByteArray img(kTamanoPif, '\0');
     // Basic section: the sample values the office's image has always carried.
     pon(img, kTitulo, QByteArray("MS-DOS Prompt").leftJustified(kLargoTitulo, ' '));
@@ -60,7 +61,7 @@ QByteArray construyePlantilla()
     img[0xE8] = char(0xFF); // last interrupt vector
     img[0xE9] = char(25);   // rows
     img[0xEA] = char(80);   // columns
-    pon16(img, 0x170, 0); // end of the basic section
+    pon16(img, 0x170, 0);   // end of the basic section
 
     cabecera(img, kCabeceraPifex, "MICROSOFT PIFEX", kCabecera386, 0x0000, 0x0171);
     cabecera(img, kCabecera386, "WINDOWS 386 3.0", kCabeceraVmm, kDatos386, 0x0068);
@@ -82,64 +83,61 @@ QByteArray construyePlantilla()
     return img;
 }
 
-std::optional<QByteArray> campo(const QString& texto, int largo)
-{
+std::optional<QByteArray> campo(const QString& texto, int largo) {
     auto bytes = Codifica(texto.left(largo));
     if (!bytes)
         qCWarning(lcFrame) << "DOSExe: el texto tiene caracteres que Windows-1252 no admite:" << texto;
     return bytes;
 }
 
-QString carpetaDe(const QString& programa)
-{
-    const qsizetype barra = qMax(programa.lastIndexOf(QLatin1Char('\\')), programa.lastIndexOf(QLatin1Char('/')));
+QString carpetaDe(const QString& programa) {
+    const qsizetype barra =
+        qMax(programa.lastIndexOf(QLatin1Char('\\')), programa.lastIndexOf(QLatin1Char('/')));
     return barra < 0 ? QString() : programa.left(barra + 1);
 }
 
 } // namespace
 
-const QByteArray& PlantillaPif()
-{
+const QByteArray& PlantillaPif() {
     static const QByteArray plantilla = construyePlantilla();
     return plantilla;
 }
 
-QByteArray ImagenPif(const QString& programa, const QString& parametros, const QString& titulo)
-{
+QByteArray ImagenPif(const QString& programa, const QString& parametros, const QString& titulo) {
     const auto t = campo(titulo.leftJustified(kLargoTitulo, QLatin1Char(' '), true), kLargoTitulo);
     const auto p = campo(programa, kLargoCampo);
     const auto c = campo(carpetaDe(programa), kLargoCampo);
     const auto a = campo(parametros, kLargoCampo);
-    if (!t || !p || !c || !a)
-        return {};
+    if (!t || !p || !c || !a) return {};
     QByteArray img = PlantillaPif();
     pon(img, kTitulo, *t);
-    for (auto [offset, bytes] : {std::pair{kPrograma, *p}, {kCarpeta, *c}, {kParametros, *a}, {kParametros386, *a}}) {
+    for (auto [offset, bytes] :
+         {std::pair{kPrograma, *p}, {kCarpeta, *c}, {kParametros, *a}, {kParametros386, *a}}) {
         pon(img, offset, bytes);
         img[offset + bytes.size()] = '\0';
     }
     return img;
 }
 
-void FijaCarpetaPif(const QString& carpeta) { g_carpetaPif = carpeta; }
+void FijaCarpetaPif(const QString& carpeta) {
+    g_carpetaPif = carpeta;
+}
 
-QString CarpetaPif()
-{
-    if (!g_carpetaPif.isEmpty())
-        return g_carpetaPif;
+QString CarpetaPif() {
+    if (!g_carpetaPif.isEmpty()) return g_carpetaPif;
     return QCoreApplication::instance() ? QCoreApplication::applicationDirPath() : QDir::currentPath();
 }
 
-void FijaPitido(void (*pitido)()) { g_pitido = pitido ? pitido : pitidoConsola; }
+void FijaPitido(void (*pitido)()) {
+    g_pitido = pitido ? pitido : pitidoConsola;
+}
 
-bool DOSExe(const QString& programa, const QString& parametros, const QString& titulo)
-{
+bool DOSExe(const QString& programa, const QString& parametros, const QString& titulo) {
     const QByteArray img = ImagenPif(programa, parametros, titulo);
     const QString ruta = QDir(CarpetaPif()).filePath(QStringLiteral("UnPif.pif"));
     QFile f(ruta);
     qint64 escritos = -1;
-    if (!img.isEmpty() && f.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        escritos = f.write(img);
+    if (!img.isEmpty() && f.open(QIODevice::WriteOnly | QIODevice::Truncate)) escritos = f.write(img);
     f.close();
     if (escritos != kTamanoPif) {
         qCWarning(lcFrame).noquote() << "DOSExe: no se pudo escribir" << ruta << f.errorString();
@@ -152,8 +150,7 @@ bool DOSExe(const QString& programa, const QString& parametros, const QString& t
     proceso.setProgram(ejecutable);
     proceso.setArguments(QProcess::splitCommand(parametros));
     const QString carpeta = carpetaDe(ejecutable);
-    if (!carpeta.isEmpty())
-        proceso.setWorkingDirectory(carpeta);
+    if (!carpeta.isEmpty()) proceso.setWorkingDirectory(carpeta);
     proceso.setProcessChannelMode(QProcess::ForwardedChannels);
     proceso.start();
     if (!proceso.waitForStarted())

@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-
 #include <cmath>
 
 #ifdef Q_OS_UNIX
@@ -16,43 +15,36 @@
 
 namespace nod {
 
-QString FicheroTemporalNod(const QString& prefijo)
-{
+QString FicheroTemporalNod(const QString& prefijo) {
     const QDir tmp(QDir::tempPath());
     const QString base = prefijo.left(3);
     quint32 numero = QRandomGenerator::global()->bounded(0x10000u);
     for (int intento = 0; intento < 0x10000; ++intento, numero = (numero + 1) & 0xFFFF) {
-        const QString nombre = tmp.filePath(base + QString::number(numero, 16).toUpper() + QStringLiteral(".tmp"));
+        const QString nombre =
+            tmp.filePath(base + QString::number(numero, 16).toUpper() + QStringLiteral(".tmp"));
         QFile f(nombre);
-        if (f.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-            return QDir::toNativeSeparators(nombre);
-        if (!f.exists())
-            break; // the folder refuses new files: no point trying other names
+        if (f.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return QDir::toNativeSeparators(nombre);
+        if (!f.exists()) break; // the folder refuses new files: no point trying other names
     }
     qCWarning(lcFrame) << "FicheroTemporalNod: no se puede crear un fichero en" << tmp.path();
     return {};
 }
 
-void EliminaTablaTemporal(const QString& ruta)
-{
+void EliminaTablaTemporal(const QString& ruta) {
     for (const char* ext : {".dbf", ".mdx", ".dbt"}) {
         const QString fichero = ruta + QLatin1String(ext);
-        if (!QFileInfo::exists(fichero))
-            continue;
+        if (!QFileInfo::exists(fichero)) continue;
         // Windows sets the archive attribute on the bare path (without extension); POSIX has no such
         // attribute, so there is nothing to do for it here.
         QFile::remove(fichero);
     }
 }
 
-bool FicheroAbierto(const QString& nombre)
-{
-    if (nombre.isEmpty() || !QFileInfo::exists(nombre))
-        return false;
+bool FicheroAbierto(const QString& nombre) {
+    if (nombre.isEmpty() || !QFileInfo::exists(nombre)) return false;
 #ifdef Q_OS_UNIX
     const int fd = ::open(QFile::encodeName(nombre).constData(), O_RDWR | O_CLOEXEC);
-    if (fd < 0)
-        return true; // the exclusive open failed, as on Windows
+    if (fd < 0) return true; // the exclusive open failed, as on Windows
     struct flock l {};
     l.l_type = F_WRLCK;
     l.l_whence = SEEK_SET;
@@ -63,14 +55,12 @@ bool FicheroAbierto(const QString& nombre)
     return retenido;
 #else
     QFile f(nombre);
-    if (!f.open(QIODevice::ReadWrite))
-        return true;
+    if (!f.open(QIODevice::ReadWrite)) return true;
     return false;
 #endif
 }
 
-QString ExtraePath(const QString& nombre)
-{
+QString ExtraePath(const QString& nombre) {
     for (qsizetype i = nombre.size() - 1; i >= 0; --i) {
         const QChar c = nombre[i];
         if (c == QLatin1Char('\\') || c == QLatin1Char('/') || c == QLatin1Char(':'))
@@ -79,11 +69,9 @@ QString ExtraePath(const QString& nombre)
     return {};
 }
 
-int GetDate(TDateTime fecha)
-{
+int GetDate(TDateTime fecha) {
     constexpr int kDiasHasta1899 = 693594; // 1/1/0001 .. 30/12/1899, the day before counting as day 1
-    if (!std::isfinite(fecha) || std::fabs(fecha) > 3.0e6)
-        return 0;
+    if (!std::isfinite(fecha) || std::fabs(fecha) > 3.0e6) return 0;
     return int(std::trunc(fecha)) + kDiasHasta1899;
 }
 

@@ -1,6 +1,7 @@
 #include "ident/calculaletranif.h"
 
 #include "companion/documentos.h"
+#include "companion/editmayusculas.h"
 #include "companion/foco.h"
 #include "ident/nif.h"
 
@@ -28,17 +29,6 @@ template <typename W> W* crea(QWidget* padre, const char* nombre, const QString&
     else
         w->setText(texto);
     return w;
-}
-
-// A number typed in upper case, as ECIF and ENIE show it.
-void enMayusculas(QLineEdit* e) {
-    QObject::connect(e, &QLineEdit::textEdited, e, [e](const QString& t) {
-        if (t != t.toUpper()) {
-            const int cursor = e->cursorPosition();
-            e->setText(t.toUpper());
-            e->setCursorPosition(cursor);
-        }
-    });
 }
 
 QFrame* panel(QWidget* padre, const char* nombre) {
@@ -113,8 +103,8 @@ TFCalculaLetraNIF::TFCalculaLetraNIF(QWidget* owner)
     capaNIE->addWidget(LNIE_);
     capaNIE->addLayout(filaNIE);
     capaNIE->addWidget(lblAyuda);
-    enMayusculas(ECIF);
-    enMayusculas(ENIE);
+    EscribeEnMayusculas(ECIF);
+    EscribeEnMayusculas(ENIE);
 
     BBCalculaLetra = crea<QPushButton>(this, "BBCalculaLetra", QStringLiteral("&Letra"));
     BBValidaCIF = crea<QPushButton>(this, "BBValidaCIF", QStringLiteral("&Valida"));

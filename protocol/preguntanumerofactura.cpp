@@ -1,5 +1,6 @@
 #include "protocol/preguntanumerofactura.h"
 
+#include "companion/editmayusculas.h"
 #include "companion/fechas.h"
 #include "companion/foco.h"
 #include "companion/hoy.h"
@@ -46,17 +47,6 @@ QLabel* rotulo(QWidget* padre, const QString& texto, QLineEdit* de) {
     return l;
 }
 
-// Series and bis letter are kept in capitals as they are typed.
-void enMayusculas(QLineEdit* e) {
-    QObject::connect(e, &QLineEdit::textEdited, e, [e](const QString& t) {
-        if (t != t.toUpper()) {
-            const int cursor = e->cursorPosition();
-            e->setText(t.toUpper());
-            e->setCursorPosition(cursor);
-        }
-    });
-}
-
 } // namespace
 
 TFPreguntaNumeroFactura::TFPreguntaNumeroFactura(QWidget* owner)
@@ -73,8 +63,8 @@ TFPreguntaNumeroFactura::TFPreguntaNumeroFactura(QWidget* owner)
                     QStringLiteral("Número de la factura dentro de su serie y año"));
     EBis = campo(panel, "EBis", "[A-Za-z]?", 2,
                  QStringLiteral("Letra bis de una factura repetida (en blanco si no lo es)"));
-    enMayusculas(ESerie);
-    enMayusculas(EBis);
+    EscribeEnMayusculas(ESerie);
+    EscribeEnMayusculas(EBis);
     ENumero->setAlignment(Qt::AlignRight);
 
     auto* rejilla = new QGridLayout;

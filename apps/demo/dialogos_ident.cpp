@@ -23,9 +23,10 @@ QString validaReferenciaCatastral(QWidget* owner) {
 } // namespace
 
 void RegistraDialogosIdent(CatalogoDemo& c) {
-    c.agrega("Identificación", "calcula_letra_nif", "TFCalculaLetraNIF: letra del NIF, NIE y CIF", calculaLetraNif);
-    c.agrega("Identificación", "valida_referencia_catastral", "TFValidaReferenciaCatastral: referencia catastral",
-             validaReferenciaCatastral);
+    c.agrega("Identificación", "calcula_letra_nif", "TFCalculaLetraNIF: letra del NIF, NIE y CIF",
+             calculaLetraNif);
+    c.agrega("Identificación", "valida_referencia_catastral",
+             "TFValidaReferenciaCatastral: referencia catastral", validaReferenciaCatastral);
 }
 
 } // namespace nod::demo

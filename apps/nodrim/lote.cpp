@@ -6,7 +6,6 @@
 #include "companion/mensajes.h"
 
 #include <QDate>
-
 #include <istream>
 #include <ostream>
 
@@ -14,46 +13,39 @@ namespace nod::lote {
 
 namespace {
 
-json error(std::string texto)
-{
-    return json{{"result", nullptr}, {"out", json::array()}, {"dialogs", json::array()}, {"error", std::move(texto)}};
+json error(std::string texto) {
+    return json{
+        {"result", nullptr}, {"out", json::array()}, {"dialogs", json::array()}, {"error", std::move(texto)}};
 }
 
-std::string lista(const std::vector<std::string>& v)
-{
+std::string lista(const std::vector<std::string>& v) {
     std::string s;
     for (const auto& e : v)
         s += (s.empty() ? "" : ", ") + e;
     return s;
 }
 
-std::string tipoJson(const json& j)
-{
-    if (j.is_number_integer())
-        return "integer";
-    if (j.is_number_float())
-        return "float";
+std::string tipoJson(const json& j) {
+    if (j.is_number_integer()) return "integer";
+    if (j.is_number_float()) return "float";
     return j.type_name();
 }
 
 // Applies "config" for one request and puts the previous values back afterwards.
 class ConfigTemporal {
 public:
-    ~ConfigTemporal()
-    {
+    ~ConfigTemporal() {
         for (auto it = m_anteriores.rbegin(); it != m_anteriores.rend(); ++it)
             it->first->escribe(Config, it->second);
     }
 
     /// Empty on success, else what is wrong.
-    std::string aplica(const json& valores)
-    {
+    std::string aplica(const json& valores) {
         if (!valores.is_object())
             return "\"config\" must be an object of values by getter name without \"Get\"";
         for (const auto& [clave, valor] : valores.items()) {
             const auto* d = TConfig::BuscaDescriptor(QString::fromStdString(clave));
-            if (!d)
-                return "unknown configuration value \"" + clave + "\"";
+            if (!d) return "unknown configuration value \"" + clave + "\"";
             QVariant v;
             switch (d->tipo) {
             case TConfig::Tipo::Entero:
@@ -62,18 +54,15 @@ public:
                 v = valor.get<int>();
                 break;
             case TConfig::Tipo::Real:
-                if (!valor.is_number())
-                    return "configuration value \"" + clave + "\" takes a number";
+                if (!valor.is_number()) return "configuration value \"" + clave + "\" takes a number";
                 v = valor.get<double>();
                 break;
             case TConfig::Tipo::Logico:
-                if (!valor.is_boolean())
-                    return "configuration value \"" + clave + "\" takes a boolean";
+                if (!valor.is_boolean()) return "configuration value \"" + clave + "\" takes a boolean";
                 v = valor.get<bool>();
                 break;
             case TConfig::Tipo::Texto:
-                if (!valor.is_string())
-                    return "configuration value \"" + clave + "\" takes a string";
+                if (!valor.is_string()) return "configuration value \"" + clave + "\" takes a string";
                 v = QString::fromStdString(valor.get<std::string>());
                 break;
             }
@@ -89,18 +78,13 @@ private:
 
 class HoyTemporal {
 public:
-    ~HoyTemporal()
-    {
-        if (m_fijado)
-            FijaAhora(std::nullopt);
+    ~HoyTemporal() {
+        if (m_fijado) FijaAhora(std::nullopt);
     }
-    bool fija(const json& hoy)
-    {
-        if (!hoy.is_string())
-            return false;
+    bool fija(const json& hoy) {
+        if (!hoy.is_string()) return false;
         const QDate d = QDate::fromString(QString::fromStdString(hoy.get<std::string>()), Qt::ISODate);
-        if (!d.isValid())
-            return false;
+        if (!d.isValid()) return false;
         FijaAhora(QDateToTDateTime(d));
         m_fijado = true;
         return true;
@@ -112,26 +96,22 @@ private:
 
 } // namespace
 
-std::string Firmas(const std::string& nombre, const std::vector<Sobrecarga>& formas)
-{
+std::string Firmas(const std::string& nombre, const std::vector<Sobrecarga>& formas) {
     std::string s;
     for (const auto& f : formas)
         s += (s.empty() ? "" : " | ") + nombre + "(" + lista(f.parametros) + ")";
     return s;
 }
 
-json Atiende(const json& peticion, const Rutinas& rutinas)
-{
+json Atiende(const json& peticion, const Rutinas& rutinas) {
     if (!peticion.is_object() || !peticion.contains("fn") || !peticion["fn"].is_string())
         return error("a request is an object with \"fn\" naming a routine");
     const std::string fn = peticion["fn"].get<std::string>();
     const auto* formas = rutinas.busca(fn);
-    if (!formas)
-        return error("unknown routine \"" + fn + "\"");
+    if (!formas) return error("unknown routine \"" + fn + "\"");
 
     const json args = peticion.value("args", json::array());
-    if (!args.is_array())
-        return error(fn + ": \"args\" must be an array");
+    if (!args.is_array()) return error(fn + ": \"args\" must be an array");
     const Sobrecarga* elegida = nullptr;
     int mejor = 0;
     for (const auto& f : *formas) {
@@ -150,8 +130,7 @@ json Atiende(const json& peticion, const Rutinas& rutinas)
 
     ConfigTemporal config;
     if (peticion.contains("config")) {
-        if (auto e = config.aplica(peticion["config"]); !e.empty())
-            return error(fn + ": " + e);
+        if (auto e = config.aplica(peticion["config"]); !e.empty()) return error(fn + ": " + e);
     }
     HoyTemporal hoy;
     if (peticion.contains("today") && !hoy.fija(peticion["today"]))
@@ -159,11 +138,9 @@ json Atiende(const json& peticion, const Rutinas& rutinas)
     std::deque<int> respuestas;
     if (peticion.contains("answers")) {
         const json& a = peticion["answers"];
-        if (!a.is_array())
-            return error(fn + ": \"answers\" must be an array of modal results");
+        if (!a.is_array()) return error(fn + ": \"answers\" must be an array of modal results");
         for (const auto& r : a) {
-            if (!r.is_number_integer())
-                return error(fn + ": \"answers\" must be an array of modal results");
+            if (!r.is_number_integer()) return error(fn + ": \"answers\" must be an array of modal results");
             respuestas.push_back(r.get<int>());
         }
     }
@@ -182,7 +159,9 @@ json Atiende(const json& peticion, const Rutinas& rutinas)
     }
     json dialogos = json::array();
     for (const auto& d : guion.mostrados())
-        dialogos.push_back({{"kind", d.kind.toStdString()}, {"title", d.title.toStdString()}, {"text", d.text.toStdString()}});
+        dialogos.push_back({{"kind", d.kind.toStdString()},
+                            {"title", d.title.toStdString()},
+                            {"text", d.text.toStdString()}});
     if (!fallo.empty()) {
         json r = error(fallo);
         r["dialogs"] = std::move(dialogos);
@@ -193,25 +172,21 @@ json Atiende(const json& peticion, const Rutinas& rutinas)
     return respuesta;
 }
 
-json AtiendeLinea(const std::string& linea, long numeroLinea, const Rutinas& rutinas)
-{
+json AtiendeLinea(const std::string& linea, long numeroLinea, const Rutinas& rutinas) {
     json peticion = json::parse(linea, nullptr, false);
-    if (peticion.is_discarded())
-        return error("line " + std::to_string(numeroLinea) + ": not valid JSON");
+    if (peticion.is_discarded()) return error("line " + std::to_string(numeroLinea) + ": not valid JSON");
     return Atiende(peticion, rutinas);
 }
 
-void Procesa(std::istream& entrada, std::ostream& salida, const Rutinas& rutinas)
-{
+void Procesa(std::istream& entrada, std::ostream& salida, const Rutinas& rutinas) {
     std::string linea;
     long numero = 0;
     while (std::getline(entrada, linea)) {
         ++numero;
-        if (linea.find_first_not_of(" \t\r") == std::string::npos)
-            continue;
-        salida << AtiendeLinea(linea, numero, rutinas).dump(-1, ' ', false, json::error_handler_t::replace) << '\n';
-        if (entrada.rdbuf()->in_avail() <= 0)
-            salida.flush();
+        if (linea.find_first_not_of(" \t\r") == std::string::npos) continue;
+        salida << AtiendeLinea(linea, numero, rutinas).dump(-1, ' ', false, json::error_handler_t::replace)
+               << '\n';
+        if (entrada.rdbuf()->in_avail() <= 0) salida.flush();
     }
     salida.flush();
 }

@@ -1,8 +1,9 @@
 #pragma once
 // `nodrim batch`: JSON Lines in, JSON Lines out, one response per request and in order.
 //
-// Request:  {"fn": "LetrasNod", "args": [...], "config": {"nCuantos": 2}, "answers": [1], "today": "2024-05-31"}
-// Response: {"result": ..., "out": [...], "dialogs": [{"kind", "title", "text"}...]} and "error" when the
+// Request:  {"fn": "LetrasNod", "args": [...], "config": {"nCuantos": 2}, "answers": [1], "today":
+// "2024-05-31"} Response: {"result": ..., "out": [...], "dialogs": [{"kind", "title", "text"}...]} and
+// "error" when the
 //           call failed (unknown routine, arguments that fit no form of it, a routine that raised).
 // "config" values apply to this request only; "answers" feed the dialogs the routine shows, in order
 // (an exhausted list answers as Escape would); "today" fixes the current date.

@@ -9,7 +9,6 @@
 #include "companion/config.h"
 
 #include <QCoreApplication>
-
 #include <clocale>
 #include <iostream>
 #include <optional>
@@ -19,8 +18,7 @@ using nod::lote::json;
 
 namespace {
 
-int ayuda(std::ostream& os)
-{
+int ayuda(std::ostream& os) {
     os << "usage: nodrim batch [--office DIR]\n"
           "       nodrim [--office DIR] ROUTINE [ARG...]\n\n"
           "Office folder: --office, else $NODRIM_DIR, else the bundled sample office.\n\n"
@@ -32,12 +30,9 @@ int ayuda(std::ostream& os)
 
 // A shell word as the JSON value a parameter of the given type takes ("integer", "number&" ...);
 // nullopt when the word cannot be one.
-std::optional<json> comoTipo(const std::string& palabra, std::string tipo)
-{
-    if (!tipo.empty() && tipo.back() == '&')
-        tipo.pop_back();
-    if (tipo == "string" || tipo == "character")
-        return json(palabra);
+std::optional<json> comoTipo(const std::string& palabra, std::string tipo) {
+    if (!tipo.empty() && tipo.back() == '&') tipo.pop_back();
+    if (tipo == "string" || tipo == "character") return json(palabra);
     const json j = json::parse(palabra, nullptr, false);
     const bool encaja = (tipo == "integer" && j.is_number_integer()) || (tipo == "number" && j.is_number()) ||
                         (tipo == "boolean" && j.is_boolean());
@@ -47,21 +42,17 @@ std::optional<json> comoTipo(const std::string& palabra, std::string tipo)
 // The arguments for the first form of the routine whose parameter types all the words fit, so that
 // "28" reaches a text parameter as text; when none fits, each word as JSON when it parses, for the
 // error message to name what was given.
-json argumentos(const std::string& rutina, const std::vector<std::string>& palabras)
-{
+json argumentos(const std::string& rutina, const std::vector<std::string>& palabras) {
     if (const auto* formas = lote::TodasLasRutinas().busca(rutina)) {
         for (const auto& forma : *formas) {
-            if (forma.parametros.size() != palabras.size())
-                continue;
+            if (forma.parametros.size() != palabras.size()) continue;
             json args = json::array();
             for (size_t i = 0; i < palabras.size(); ++i) {
                 auto v = comoTipo(palabras[i], forma.parametros[i]);
-                if (!v)
-                    break;
+                if (!v) break;
                 args.push_back(*v);
             }
-            if (args.size() == palabras.size())
-                return args;
+            if (args.size() == palabras.size()) return args;
         }
     }
     json args = json::array();
@@ -72,8 +63,7 @@ json argumentos(const std::string& rutina, const std::vector<std::string>& palab
     return args;
 }
 
-int unaLlamada(const std::string& rutina, const std::vector<std::string>& args)
-{
+int unaLlamada(const std::string& rutina, const std::vector<std::string>& args) {
     const json peticion{{"fn", rutina}, {"args", argumentos(rutina, args)}};
     const json r = lote::Atiende(peticion);
     for (const auto& d : r["dialogs"])
@@ -85,15 +75,13 @@ int unaLlamada(const std::string& rutina, const std::vector<std::string>& args)
     }
     const json& res = r["result"];
     std::cout << (res.is_string() ? res.get<std::string>() : res.dump()) << '\n';
-    if (!r["out"].empty())
-        std::cout << "out: " << r["out"].dump() << '\n';
+    if (!r["out"].empty()) std::cout << "out: " << r["out"].dump() << '\n';
     return 0;
 }
 
 } // namespace
 
-int main(int argc, char** argv)
-{
+int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C"); // machine formats never follow the user's decimal comma
     std::ios::sync_with_stdio(false);

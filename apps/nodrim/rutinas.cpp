@@ -2,8 +2,7 @@
 
 namespace nod::lote {
 
-const Rutinas& TodasLasRutinas()
-{
+const Rutinas& TodasLasRutinas() {
     static const Rutinas rutinas = [] {
         Rutinas r;
         RegistraRutinasFrame(r);

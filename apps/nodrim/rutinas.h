@@ -12,11 +12,9 @@
 
 #include <QChar>
 #include <QString>
-
-#include <nlohmann/json.hpp>
-
 #include <functional>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <tuple>
 #include <type_traits>
@@ -31,12 +29,13 @@ template <typename T> struct Conversor;
 
 template <> struct Conversor<int> {
     static constexpr const char* nombre = "integer";
-    static int puntua(const json& j)
-    {
-        if (!j.is_number_integer())
-            return 0;
+    static int puntua(const json& j) {
+        if (!j.is_number_integer()) return 0;
         const auto v = j.get<long long>();
-        return v >= INT32_MIN && v <= INT32_MAX && !(j.is_number_unsigned() && j.get<unsigned long long>() > INT32_MAX) ? 2 : 0;
+        return v >= INT32_MIN && v <= INT32_MAX &&
+                       !(j.is_number_unsigned() && j.get<unsigned long long>() > INT32_MAX)
+                   ? 2
+                   : 0;
     }
     static int desde(const json& j) { return j.get<int>(); }
     static json hacia(int v) { return v; }
@@ -44,9 +43,10 @@ template <> struct Conversor<int> {
 
 template <> struct Conversor<long long> {
     static constexpr const char* nombre = "integer";
-    static int puntua(const json& j)
-    {
-        return j.is_number_integer() && !(j.is_number_unsigned() && j.get<unsigned long long>() > INT64_MAX) ? 2 : 0;
+    static int puntua(const json& j) {
+        return j.is_number_integer() && !(j.is_number_unsigned() && j.get<unsigned long long>() > INT64_MAX)
+                   ? 2
+                   : 0;
     }
     static long long desde(const json& j) { return j.get<long long>(); }
     static json hacia(long long v) { return v; }
@@ -78,30 +78,31 @@ template <> struct Conversor<QString> {
 
 template <> struct Conversor<QChar> {
     static constexpr const char* nombre = "character";
-    static int puntua(const json& j) { return j.is_string() && QString::fromStdString(j.get<std::string>()).size() == 1 ? 2 : 0; }
+    static int puntua(const json& j) {
+        return j.is_string() && QString::fromStdString(j.get<std::string>()).size() == 1 ? 2 : 0;
+    }
     static QChar desde(const json& j) { return QString::fromStdString(j.get<std::string>()).at(0); }
     static json hacia(QChar v) { return QString(v).toStdString(); }
 };
 
 /// One callable form of a routine.
 struct Sobrecarga {
-    std::vector<std::string> parametros; // JSON type names, "&" appended for out parameters
+    std::vector<std::string> parametros;         // JSON type names, "&" appended for out parameters
     std::function<int(const json& args)> puntua; // 0 when the arguments do not fit
     std::function<json(const json& args, json& out)> invoca;
 };
 
-template <typename A> constexpr bool esSalida = std::is_lvalue_reference_v<A> && !std::is_const_v<std::remove_reference_t<A>>;
+template <typename A>
+constexpr bool esSalida = std::is_lvalue_reference_v<A> && !std::is_const_v<std::remove_reference_t<A>>;
 template <typename A> using Valor = std::remove_cvref_t<A>;
 
 class Rutinas {
 public:
-    template <typename R, typename... A> void agrega(const std::string& nombre, R (*fn)(A...))
-    {
+    template <typename R, typename... A> void agrega(const std::string& nombre, R (*fn)(A...)) {
         m_rutinas[nombre].push_back(crea(fn, std::index_sequence_for<A...>{}));
     }
 
-    const std::vector<Sobrecarga>* busca(const std::string& nombre) const
-    {
+    const std::vector<Sobrecarga>* busca(const std::string& nombre) const {
         auto it = m_rutinas.find(nombre);
         return it == m_rutinas.end() ? nullptr : &it->second;
     }
@@ -109,18 +110,15 @@ public:
 
 private:
     template <typename R, typename... A, std::size_t... I>
-    static Sobrecarga crea(R (*fn)(A...), std::index_sequence<I...>)
-    {
+    static Sobrecarga crea(R (*fn)(A...), std::index_sequence<I...>) {
         Sobrecarga s;
         s.parametros = {(std::string(Conversor<Valor<A>>::nombre) + (esSalida<A> ? "&" : ""))...};
         s.puntua = [](const json& args) {
-            if (args.size() != sizeof...(A))
-                return 0;
+            if (args.size() != sizeof...(A)) return 0;
             const int puntos[] = {2, Conversor<Valor<A>>::puntua(args[I])...};
             int total = 0;
             for (int p : puntos) {
-                if (p == 0)
-                    return 0;
+                if (p == 0) return 0;
                 total += p;
             }
             return total;
@@ -139,10 +137,8 @@ private:
         return s;
     }
 
-    template <typename A> static void anotaSalida(json& out, const Valor<A>& v)
-    {
-        if constexpr (esSalida<A>)
-            out.push_back(Conversor<Valor<A>>::hacia(v));
+    template <typename A> static void anotaSalida(json& out, const Valor<A>& v) {
+        if constexpr (esSalida<A>) out.push_back(Conversor<Valor<A>>::hacia(v));
     }
 
     std::map<std::string, std::vector<Sobrecarga>> m_rutinas;

@@ -4,8 +4,7 @@
 
 using namespace nod;
 
-TEST(CodePage, EveryByteRoundTripsInEveryPage)
-{
+TEST(CodePage, EveryByteRoundTripsInEveryPage) {
     QByteArray todos;
     for (int b = 0; b < 256; ++b)
         todos.append(char(b));
@@ -16,15 +15,13 @@ TEST(CodePage, EveryByteRoundTripsInEveryPage)
     }
 }
 
-TEST(CodePage, Windows1252IsNotLatin1)
-{
+TEST(CodePage, Windows1252IsNotLatin1) {
     EXPECT_EQ(Decodifica("\x80"), QStringLiteral("€"));
     EXPECT_EQ(Decodifica("\xD1\xC7\xB7"), QStringLiteral("ÑÇ·"));
     EXPECT_EQ(Decodifica("\xA5", CodePage::Cp850), QStringLiteral("Ñ"));
 }
 
-TEST(CodePage, CharactersOutsideThePageAreAnErrorNotAQuestionMark)
-{
+TEST(CodePage, CharactersOutsideThePageAreAnErrorNotAQuestionMark) {
     qsizetype fallo = -1;
     EXPECT_FALSE(Codifica(u"Ab\u4E2D", CodePage::Windows1252, &fallo).has_value());
     EXPECT_EQ(fallo, 2);

@@ -7,8 +7,7 @@
 using namespace nod;
 using nod::prueba::OficinaPrueba;
 
-TEST(Config, MissingOfficeGivesDefaultsAndOneWarningPerFile)
-{
+TEST(Config, MissingOfficeGivesDefaultsAndOneWarningPerFile) {
     TConfig c;
     c.Carga(QStringLiteral("/no/such/office"));
     EXPECT_EQ(c.GetAliasNotario(), QStringLiteral("DBNOTARIO"));
@@ -19,26 +18,25 @@ TEST(Config, MissingOfficeGivesDefaultsAndOneWarningPerFile)
     EXPECT_TRUE(c.Avisos()[1].contains(QStringLiteral("CONFIG.INI")));
 }
 
-TEST(Config, ReadsWindows1252TextsIntact)
-{
+TEST(Config, ReadsWindows1252TextsIntact) {
     OficinaPrueba o(QStringLiteral("[general]\naliasnotario = NOTARÍA\n[NOTARIO1]\n"));
     EXPECT_EQ(Config.GetAliasNotario(), QStringLiteral("NOTARÍA")); // sections and keys ignore case
     QFile f(o.ruta(QStringLiteral("CONFIG/CONFIG.INI")));
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(f.readAll().contains("NOTAR\xCD" "A")); // one byte, as Windows wrote it
+    EXPECT_TRUE(f.readAll().contains("NOTAR\xCD"
+                                     "A")); // one byte, as Windows wrote it
 }
 
-TEST(Config, MalformedLinesAreSkippedWithFileAndLine)
-{
-    OficinaPrueba o(QStringLiteral("[GENERAL]\nNumeroNotarios=3\nthis line is junk\n[GENERAL]\nNumeroNotarios=tres\n"));
+TEST(Config, MalformedLinesAreSkippedWithFileAndLine) {
+    OficinaPrueba o(
+        QStringLiteral("[GENERAL]\nNumeroNotarios=3\nthis line is junk\n[GENERAL]\nNumeroNotarios=tres\n"));
     EXPECT_EQ(Config.GetnCuantos(), 1) << "a value that does not parse keeps the default";
     const QString avisos = Config.Avisos().join(QLatin1Char('\n'));
     EXPECT_TRUE(avisos.contains(QStringLiteral("CONFIG.INI:3:"))) << avisos.toStdString();
     EXPECT_TRUE(avisos.contains(QStringLiteral("NumeroNotarios=tres"))) << avisos.toStdString();
 }
 
-TEST(Config, WarningsAreCappedPerFile)
-{
+TEST(Config, WarningsAreCappedPerFile) {
     QString basura = QStringLiteral("[GENERAL]\n");
     for (int i = 0; i < 50; ++i)
         basura += QStringLiteral("junk\n");
@@ -47,17 +45,16 @@ TEST(Config, WarningsAreCappedPerFile)
     EXPECT_TRUE(Config.Avisos().last().contains(QStringLiteral("40")));
 }
 
-TEST(Config, AliasesMapToFoldersUnderTheOffice)
-{
+TEST(Config, AliasesMapToFoldersUnderTheOffice) {
     OficinaPrueba o(QStringLiteral("[ALIAS]\nDB=DATOS\nABS=/srv/datos\n"));
     EXPECT_EQ(Config.CarpetaAlias(QStringLiteral("DB")), o.ruta(QStringLiteral("DATOS")));
     EXPECT_EQ(Config.CarpetaAlias(QStringLiteral("ABS")), QStringLiteral("/srv/datos"));
     EXPECT_TRUE(Config.CarpetaAlias(QStringLiteral("NINGUNO")).isEmpty());
-    EXPECT_EQ(Config.RutaUnidadC(QStringLiteral("C:\\PasarelaWeb.ini")), o.ruta(QStringLiteral("C/PasarelaWeb.ini")));
+    EXPECT_EQ(Config.RutaUnidadC(QStringLiteral("C:\\PasarelaWeb.ini")),
+              o.ruta(QStringLiteral("C/PasarelaWeb.ini")));
 }
 
-TEST(Config, DescriptorsReadAndWriteByName)
-{
+TEST(Config, DescriptorsReadAndWriteByName) {
     OficinaPrueba o;
     const auto* d = TConfig::BuscaDescriptor(u"nCuantos");
     ASSERT_NE(d, nullptr);
@@ -68,8 +65,7 @@ TEST(Config, DescriptorsReadAndWriteByName)
     EXPECT_EQ(TConfig::BuscaDescriptor(u"NoExiste"), nullptr);
 }
 
-TEST(Config, EveryValueIsDocumented)
-{
+TEST(Config, EveryValueIsDocumented) {
     QFile doc(QStringLiteral(NOD_SOURCE_DIR "/docs/configuration.md"));
     ASSERT_TRUE(doc.open(QIODevice::ReadOnly));
     const QString texto = QString::fromUtf8(doc.readAll());

@@ -4,13 +4,14 @@
 
 using namespace nod;
 
-TEST(Mensajes, ScriptedServiceRecordsAndAnswersInOrder)
-{
+TEST(Mensajes, ScriptedServiceRecordsAndAnswersInOrder) {
     ServicioMensajesGuionado guion({1, 7});
     ServicioMensajesInstalado instalado(guion);
     Mensaje_Error(QStringLiteral("No existe la tabla"), QStringLiteral("Tablas"));
-    EXPECT_EQ(Mensaje_NoSi(QStringLiteral("¿Desea continuar (S/N)?"), QStringLiteral("Texto"), QStringLiteral("Aplicación de IVA")), 1);
-    EXPECT_FALSE(NoSi(QStringLiteral("¿Seguro?")));                          // 7 counts as no
+    EXPECT_EQ(Mensaje_NoSi(QStringLiteral("¿Desea continuar (S/N)?"), QStringLiteral("Texto"),
+                           QStringLiteral("Aplicación de IVA")),
+              1);
+    EXPECT_FALSE(NoSi(QStringLiteral("¿Seguro?")));                           // 7 counts as no
     EXPECT_EQ(Mensaje_SiNo(QString(), QStringLiteral("Otra"), QString()), 2); // queue exhausted: Escape
     ASSERT_EQ(guion.mostrados().size(), 4);
     EXPECT_EQ(guion.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
@@ -18,8 +19,7 @@ TEST(Mensajes, ScriptedServiceRecordsAndAnswersInOrder)
     EXPECT_EQ(guion.mostrados()[1].text, QStringLiteral("Texto\n¿Desea continuar (S/N)?"));
 }
 
-TEST(Mensajes, WaitWindowIsTracked)
-{
+TEST(Mensajes, WaitWindowIsTracked) {
     ServicioMensajesGuionado guion;
     ServicioMensajesInstalado instalado(guion);
     MuestraMensaje(QStringLiteral("Espere..."));
@@ -28,8 +28,7 @@ TEST(Mensajes, WaitWindowIsTracked)
     EXPECT_FALSE(guion.esperaVisible());
 }
 
-TEST(Mensajes, InstalledServiceIsRestoredAfterItsScope)
-{
+TEST(Mensajes, InstalledServiceIsRestoredAfterItsScope) {
     ServicioMensajesGuionado exterior;
     ServicioMensajesInstalado a(exterior);
     {

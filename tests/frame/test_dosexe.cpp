@@ -8,12 +8,15 @@
 using namespace nod;
 
 namespace {
-QByteArray campo(const QByteArray& img, int offset, int largo) { return img.mid(offset, largo); }
-QByteArray hastaNul(const QByteArray& img, int offset) { return QByteArray(img.constData() + offset); }
+QByteArray campo(const QByteArray& img, int offset, int largo) {
+    return img.mid(offset, largo);
+}
+QByteArray hastaNul(const QByteArray& img, int offset) {
+    return QByteArray(img.constData() + offset);
+}
 } // namespace
 
-TEST(DOSExe, TemplateHasTheClassicSections)
-{
+TEST(DOSExe, TemplateHasTheClassicSections) {
     const QByteArray& t = PlantillaPif();
     ASSERT_EQ(t.size(), kTamanoPif);
     EXPECT_EQ(hastaNul(t, 0x171), "MICROSOFT PIFEX");
@@ -23,8 +26,7 @@ TEST(DOSExe, TemplateHasTheClassicSections)
     EXPECT_TRUE(t.contains("Lucida Console"));
 }
 
-TEST(DOSExe, ImageFillsTheFieldsAndKeepsEverythingElse)
-{
+TEST(DOSExe, ImageFillsTheFieldsAndKeepsEverythingElse) {
     const QString programa = QStringLiteral("C:\\NODRIM\\UTIL\\COPIAS.EXE");
     const QByteArray img = ImagenPif(programa, QStringLiteral("/A /B"), QStringLiteral("Copias"));
     ASSERT_EQ(img.size(), kTamanoPif);
@@ -41,9 +43,9 @@ TEST(DOSExe, ImageFillsTheFieldsAndKeepsEverythingElse)
     EXPECT_EQ(img, t);
 }
 
-TEST(DOSExe, LongTextsAreCut)
-{
-    const QString largo = QStringLiteral("C:\\") + QString(66, QLatin1Char('P')) + QStringLiteral(".EXE"); // 73
+TEST(DOSExe, LongTextsAreCut) {
+    const QString largo =
+        QStringLiteral("C:\\") + QString(66, QLatin1Char('P')) + QStringLiteral(".EXE"); // 73
     const QByteArray img = ImagenPif(largo, QString(70, QLatin1Char('x')), QString(40, QLatin1Char('T')));
     EXPECT_EQ(hastaNul(img, 36).size(), 63);
     EXPECT_EQ(img[36 + 63], '\0');
@@ -52,13 +54,11 @@ TEST(DOSExe, LongTextsAreCut)
     EXPECT_EQ(img[32], PlantillaPif()[32]) << "the title never spills into the next field";
 }
 
-TEST(DOSExe, TextOutsideWindows1252GivesNoImage)
-{
+TEST(DOSExe, TextOutsideWindows1252GivesNoImage) {
     EXPECT_TRUE(ImagenPif(QStringLiteral("C:\\A.EXE"), QStringLiteral("\u4E2D"), QString()).isEmpty());
 }
 
-TEST(DOSExe, RunsTheProgramAndRemovesTheImage)
-{
+TEST(DOSExe, RunsTheProgramAndRemovesTheImage) {
     QTemporaryDir dir;
     FijaCarpetaPif(dir.path());
     // The program copies the image it was started from, so the test can read back what was written.
@@ -78,8 +78,7 @@ TEST(DOSExe, RunsTheProgramAndRemovesTheImage)
     FijaCarpetaPif({});
 }
 
-TEST(DOSExe, UnwritableFolderReturnsFalse)
-{
+TEST(DOSExe, UnwritableFolderReturnsFalse) {
     FijaCarpetaPif(QStringLiteral("/proc/no-such-folder"));
     EXPECT_FALSE(DOSExe(QStringLiteral("/bin/true"), QString(), QString()));
     FijaCarpetaPif({});

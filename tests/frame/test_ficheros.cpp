@@ -4,23 +4,20 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <unistd.h>
 
 using namespace nod;
 
 namespace {
-void toca(const QString& ruta)
-{
+void toca(const QString& ruta) {
     QFile f(ruta);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
 }
 } // namespace
 
-TEST(Ficheros, FicheroTemporalNodCreatesAUniqueEmptyFile)
-{
+TEST(Ficheros, FicheroTemporalNodCreatesAUniqueEmptyFile) {
     const QString a = FicheroTemporalNod(QStringLiteral("NODRIM"));
     const QString b = FicheroTemporalNod(QStringLiteral("NODRIM"));
     ASSERT_FALSE(a.isEmpty());
@@ -34,8 +31,7 @@ TEST(Ficheros, FicheroTemporalNodCreatesAUniqueEmptyFile)
     QFile::remove(b);
 }
 
-TEST(Ficheros, EliminaTablaTemporalDeletesTheThreeCompanionsOnly)
-{
+TEST(Ficheros, EliminaTablaTemporalDeletesTheThreeCompanionsOnly) {
     QTemporaryDir dir;
     const QString base = dir.filePath(QStringLiteral("TEMP01"));
     for (const char* ext : {".dbf", ".dbt", ".cdx"})
@@ -46,8 +42,7 @@ TEST(Ficheros, EliminaTablaTemporalDeletesTheThreeCompanionsOnly)
     EXPECT_TRUE(QFile::exists(base + QStringLiteral(".cdx")));
 }
 
-TEST(Ficheros, FicheroAbierto)
-{
+TEST(Ficheros, FicheroAbierto) {
     QTemporaryDir dir;
     const QString nombre = dir.filePath(QStringLiteral("CLIENTES.DBF"));
     EXPECT_FALSE(FicheroAbierto(nombre)) << "missing file";
@@ -66,19 +61,21 @@ TEST(Ficheros, FicheroAbierto)
     EXPECT_FALSE(FicheroAbierto(nombre));
 }
 
-TEST(Ficheros, ExtraePath)
-{
+TEST(Ficheros, ExtraePath) {
     const struct {
         const char* nombre;
         const char* carpeta;
-    } casos[] = {{"C:\\NOD\\DATOS\\A.DBF", "C:\\NOD\\DATOS\\"}, {"C:A.DBF", "C:"}, {"/srv/nod/a.dbf", "/srv/nod/"},
-                 {"A.DBF", ""}, {"", ""}, {"C:\\NOD\\", "C:\\NOD\\"}};
+    } casos[] = {{"C:\\NOD\\DATOS\\A.DBF", "C:\\NOD\\DATOS\\"},
+                 {"C:A.DBF", "C:"},
+                 {"/srv/nod/a.dbf", "/srv/nod/"},
+                 {"A.DBF", ""},
+                 {"", ""},
+                 {"C:\\NOD\\", "C:\\NOD\\"}};
     for (const auto& c : casos)
         EXPECT_EQ(ExtraePath(QString::fromUtf8(c.nombre)), QString::fromUtf8(c.carpeta)) << c.nombre;
 }
 
-TEST(Ficheros, GetDateCountsFromTheFirstOfJanuaryOfYearOne)
-{
+TEST(Ficheros, GetDateCountsFromTheFirstOfJanuaryOfYearOne) {
     EXPECT_EQ(GetDate(0.0), 693594);
     EXPECT_EQ(GetDate(2.75), 693596); // 1/1/1900 at 18:00
     EXPECT_EQ(GetDate(45000.5), 738594);

@@ -7,8 +7,7 @@
 using namespace nod;
 using nod::prueba::OficinaPrueba;
 
-TEST(Notarios, AliasNotario)
-{
+TEST(Notarios, AliasNotario) {
     OficinaPrueba o(QStringLiteral("[GENERAL]\nAliasNotario=DBNOT\n"));
     const struct {
         int numero;
@@ -18,8 +17,7 @@ TEST(Notarios, AliasNotario)
         EXPECT_EQ(AliasNotario(c.numero), QLatin1String(c.alias)) << c.numero;
 }
 
-TEST(Notarios, AliasNotarioActualFollowsTheSelectedNotary)
-{
+TEST(Notarios, AliasNotarioActualFollowsTheSelectedNotary) {
     OficinaPrueba o(QStringLiteral("[GENERAL]\nNotario=2\n"));
     EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO2"));
     Config.SetsNotario(QStringLiteral("0"));
@@ -28,8 +26,7 @@ TEST(Notarios, AliasNotarioActualFollowsTheSelectedNotary)
     EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO1"));
 }
 
-TEST(Notarios, NumeroDeNotariosNeverBelowOne)
-{
+TEST(Notarios, NumeroDeNotariosNeverBelowOne) {
     OficinaPrueba o;
     for (auto [configurado, esperado] : {std::pair{0, 1}, {-3, 1}, {1, 1}, {4, 4}}) {
         Config.SetnCuantos(configurado);
@@ -37,8 +34,7 @@ TEST(Notarios, NumeroDeNotariosNeverBelowOne)
     }
 }
 
-TEST(Notarios, SelectingANotaryReloadsItsOwnSection)
-{
+TEST(Notarios, SelectingANotaryReloadsItsOwnSection) {
     // The per-notary values live in [NOTARIO<n>]; no frame value is per notary, so check the mechanism
     // through the selected notary's alias alone.
     OficinaPrueba o(QStringLiteral("[GENERAL]\nNotario=1\nNumeroNotarios=2\n"));
@@ -47,13 +43,13 @@ TEST(Notarios, SelectingANotaryReloadsItsOwnSection)
     EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO2"));
 }
 
-TEST(Unidades, StartAndStopOnlyCount)
-{
+TEST(Unidades, StartAndStopOnlyCount) {
     const int antes = VecesIniciada(QStringLiteral("Rut"));
     {
         NodRutinasCargada cargada;
         EXPECT_EQ(VecesIniciada(QStringLiteral("Rut")), antes + 1);
-        EXPECT_EQ(VecesIniciada(QStringLiteral("Clasificardocumentos")), VecesIniciada(QStringLiteral("Mensajenod")));
+        EXPECT_EQ(VecesIniciada(QStringLiteral("Clasificardocumentos")),
+                  VecesIniciada(QStringLiteral("Mensajenod")));
     }
     EXPECT_EQ(VecesFinalizada(QStringLiteral("Rut")), antes + 1);
     EXPECT_EQ(UnidadesNodRutinas().size(), 42);

@@ -39,8 +39,12 @@ TEST_F(DialogoLetraNIF, OpensInDniModeAndEachTypeShowsItsPanel) {
         EXPECT_EQ(f.PNIE->isVisible(), c.nie);
         EXPECT_EQ(f.BBValidaCIF->isVisible(), !c.dni);
         EXPECT_TRUE(f.ENIF->text().isEmpty() && f.ECIF->text().isEmpty() && f.ENIE->text().isEmpty());
-        if (c.cif) EXPECT_FALSE(f.LResultadoCIF_->isVisible());
-        if (c.nie) EXPECT_FALSE(f.LResultadoNIE_->isVisible());
+        if (c.cif) {
+            EXPECT_FALSE(f.LResultadoCIF_->isVisible());
+        }
+        if (c.nie) {
+            EXPECT_FALSE(f.LResultadoNIE_->isVisible());
+        }
     }
 }
 

@@ -283,7 +283,9 @@ TEST_F(Arancel, BASE_C_SiempreTerminaAunqueElArancelNoCrezca) {
                                            std::uniform_real_distribution<double>(0, 500000)(g),
                                            g() % 2 ? SI : NO, g() % 2 ? SI : NO);
         EXPECT_LE(b.vueltas, kMaximoVueltasBase);
-        if (b.agotada) EXPECT_EQ(b.vueltas, kMaximoVueltasBase);
+        if (b.agotada) {
+            EXPECT_EQ(b.vueltas, kMaximoVueltasBase);
+        }
     }
 }
 

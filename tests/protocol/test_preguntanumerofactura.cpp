@@ -181,7 +181,8 @@ TEST(PreguntaNumeroFacturaForm, AcceptingReturnsTheTypedValues) {
         QTest::keyClick(f->ENumero, Qt::Key_Return);
         QTest::keyClicks(f->EBis, QStringLiteral("c"));
         QTest::keyClick(f->EBis, Qt::Key_Return);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        ASSERT_EQ(f->focusWidget(), f->BBAceptar);
+        QTest::keyClick(f->BBAceptar, Qt::Key_Return);
     });
     EXPECT_TRUE(PreguntaNumeroFacturaForm(serie, ano, numero, bis, QStringLiteral("Factura a rectificar")));
     EXPECT_TRUE(vistoAbierto);

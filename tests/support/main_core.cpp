@@ -1,10 +1,8 @@
 // Test main for routines without a screen: a QCoreApplication exists, as in every program of the suite.
 #include <QCoreApplication>
-
 #include <gtest/gtest.h>
 
-int main(int argc, char** argv)
-{
+int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

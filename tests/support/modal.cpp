@@ -2,14 +2,13 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QTest>
 #include <QTimer>
-
 #include <memory>
 
 namespace nod::prueba {
 
-void AlAbrirseModal(std::function<void(QWidget*)> accion, int plazoMs)
-{
+void AlAbrirseModal(std::function<void(QWidget*)> accion, int plazoMs) {
     auto timer = new QTimer(qApp);
     auto reloj = std::make_shared<QElapsedTimer>();
     reloj->start();
@@ -18,6 +17,11 @@ void AlAbrirseModal(std::function<void(QWidget*)> accion, int plazoMs)
         if (QWidget* w = QApplication::activeModalWidget()) {
             timer->stop();
             timer->deleteLater();
+            // Keys go to the focused control only once the dialog's window is active; on a loaded machine
+            // that can come a little after the dialog appears.
+            w->activateWindow();
+            if (!QTest::qWaitForWindowActive(w))
+                qWarning("the modal dialog never became the active window");
             accion(w);
         } else if (reloj->elapsed() > plazoMs) {
             timer->stop();
@@ -27,8 +31,7 @@ void AlAbrirseModal(std::function<void(QWidget*)> accion, int plazoMs)
     timer->start();
 }
 
-int VentanasVisibles()
-{
+int VentanasVisibles() {
     int n = 0;
     for (QWidget* w : QApplication::topLevelWidgets())
         n += w->isVisible() ? 1 : 0;

@@ -3,12 +3,12 @@
 // as soon as it appears, from the event loop the dialog itself runs.
 
 #include <QWidget>
-
 #include <functional>
 
 namespace nod::prueba {
 
-/// Polls every 10 ms for up to `plazoMs` for an active modal widget and runs `accion` on it once.
+/// Polls every 10 ms for up to `plazoMs` for an active modal widget and runs `accion` on it once, after
+/// its window has become active (so keys reach its focused control).
 void AlAbrirseModal(std::function<void(QWidget*)> accion, int plazoMs = 5000);
 
 /// Top-level widgets still visible (after a dialog routine returns there should be none of its own).

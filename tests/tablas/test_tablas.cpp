@@ -108,7 +108,9 @@ TEST_F(Tablas, SearchesOnTagsAndWithoutThem) {
           C{"ACTIVO", false, true, 4}, C{"FECHA", QDate(2024, 2, 29), true, 1}}) {
         tb->First();
         EXPECT_EQ(TBBusca(*tb, {{QString::fromLatin1(c.campo), c.valor}}, c.exacta), c.recno != 0) << c.campo;
-        if (c.recno) EXPECT_EQ(tb->RecNo(), c.recno) << c.campo;
+        if (c.recno) {
+            EXPECT_EQ(tb->RecNo(), c.recno) << c.campo;
+        }
     }
     TBIndexa(*tb, QStringLiteral("CODIGO"));
     tb->Last();
