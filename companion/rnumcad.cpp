@@ -31,7 +31,9 @@ Decimal descompone(double x) {
 
 QString Float_Cad(double x) {
     if (!std::isfinite(x) || x == 0) return QStringLiteral("0");
-    char buf[64];
+    // Written without exponent, the largest double has 309 digits and the smallest 323 zeros after
+    // the mark before its digit.
+    char buf[512];
     auto res = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::fixed);
     QString s = QString::fromLatin1(buf, res.ptr - buf);
     s.replace(QLatin1Char('.'), QLatin1Char(','));

@@ -26,6 +26,18 @@ TEST(Rnumcad, Float_CadWritesTheShortestExactDigits) {
                  {kInf, "0"}};
     for (const auto& c : casos)
         EXPECT_EQ(Float_Cad(c.x), QString::fromLatin1(c.esperado)) << c.x;
+
+    // Figures far longer than any amount: every digit is written without exponent and reads back as
+    // the same number.
+    for (double x : {1e300, -1e100, std::numeric_limits<double>::max(), 1e22}) {
+        const QString t = Float_Cad(x);
+        const qsizetype digitos = qsizetype(std::floor(std::log10(std::fabs(x)))) + 1;
+        EXPECT_EQ(t.size(), digitos + (x < 0 ? 1 : 0)) << x;
+        EXPECT_TRUE(EsUnNumero(x < 0 ? t.mid(1) : t)) << x;
+        EXPECT_EQ(Cad_Float(t), x) << x;
+    }
+    EXPECT_EQ(Float_Cad(std::numeric_limits<double>::denorm_min()),
+              QStringLiteral("0,") + QString(323, QLatin1Char('0')) + QLatin1Char('5'));
 }
 
 TEST(Rnumcad, RedondeaDecHalfAwayFromZeroOnTheWrittenDigits) {
