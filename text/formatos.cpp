@@ -76,14 +76,14 @@ QString FormateaCantidad(const QString& formato, double importe) {
     const size_t decimales = k >= 3 ? k : k > 0 ? 2 : 0;
     Texto r;
     if (modo == u"M2")
-        EscribeEurosEnLetra(r, importe, c, caso);
+        EscribeEurosEnLetra(r, importe, c, caso, caso == u'S');
     else if (modo == u"M3") {
         anadeFigura(r, c, decimales);
         r.anade(u" € ("sv);
-        EscribeEurosEnLetra(r, importe, c, caso);
+        EscribeEurosEnLetra(r, importe, c, caso, caso == u'S');
         r.anade(u')');
     } else if (modo == u"M4") {
-        EscribeEurosEnLetra(r, importe, c, caso);
+        EscribeEurosEnLetra(r, importe, c, caso, caso == u'S');
         r.anade(u" ("sv);
         anadeFigura(r, c, decimales);
         r.anade(u" € )"sv);

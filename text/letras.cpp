@@ -229,27 +229,28 @@ QString LetrasPorCientoNod(double numero, QChar genero, QChar minusculas) {
     return r.qstring();
 }
 
-void EscribeEurosEnLetra(Texto& r, double importe, const Cifras& c, QChar minusculas) {
+void EscribeEurosEnLetra(Texto& r, double importe, const Cifras& c, QChar minusculas, bool unidadMinusculas) {
     if (!enRango(importe)) return;
     // One decimal digit stands for tens of cents: 21,5 is 21 euros 50.
     const qint64 centimos =
         ValorDigitosRellenos(c.decimal(), qMax<qint64>(2, qint64(c.decimal().size())), kCifrasMaximas);
     if (centimos < 0) return;
-    const bool m = minus(minusculas);
+    const bool m = minus(minusculas), mu = unidadMinusculas;
     // Without decimals the amount is a whole number already, its own rounding.
     anadeLetras(r, ValorDigitos(c.entera(), kCifrasMaximas), u'M', m, true);
-    r.anade(m ? u" euros"sv : u" EUROS"sv);
+    r.anade(mu ? u" euros"sv : u" EUROS"sv);
     if (!c.decimal().empty()) {
-        r.anade(m ? u" con "sv : u" CON "sv);
+        r.anade(mu ? u" con "sv : u" CON "sv);
         anadeLetras(r, centimos, u'M', m, true);
-        r.anade(m ? u" céntimos"sv : u" CENTIMOS"sv);
+        r.anade(mu ? u" céntimos"sv : u" CENTIMOS"sv);
     }
 }
 
 QString EurosEnLetra(double importe, const QString& minusculas) {
     const Cifras c(importe);
     Texto r;
-    EscribeEurosEnLetra(r, importe, c, minusculas.isEmpty() ? QChar() : minusculas[0]);
+    // The numbers follow the first character; the unit words are lowered only by the flag "S" itself.
+    EscribeEurosEnLetra(r, importe, c, minusculas.isEmpty() ? QChar() : minusculas[0], minusculas == u"S");
     return r.qstring();
 }
 

@@ -63,17 +63,19 @@ QString LetrasPorCientoNod(double numero, QChar genero, QChar minusculas);
 
 /// An amount in euros in words, masculine and short: EurosEnLetra(21.5, "N") ==
 /// "VEINTIÚN EUROS CON CINCUENTA CENTIMOS". The unit is always plural ("UN EUROS") and upper-case
-/// "CENTIMOS" carries no accent, as the suite's deeds print them; with a first character "S" the
-/// words are " euros", " con ", " céntimos". Cents are the decimal digits as written, one digit
-/// standing for tens ("5" reads "CINCUENTA"); amounts are expected rounded to cents.
+/// "CENTIMOS" carries no accent, as the suite's deeds print them. The numbers take the case of the
+/// first character of `minusculas`; the words " euros", " con ", " céntimos" are lower case only when
+/// `minusculas` is exactly "S", like every flag passed as text: EurosEnLetra(1, "SI") == "un EUROS".
+/// Cents are the decimal digits as written, one digit standing for tens ("5" reads "CINCUENTA");
+/// amounts are expected rounded to cents.
 QString EurosEnLetra(double importe, const QString& minusculas);
 
 class Texto;
 class Cifras;
 /// The words of `EurosEnLetra`, appended to `r` for the writers that put figure and words in one text;
-/// `c` holds the digits of `importe` and `minusculas` is the case character. Writes nothing when
-/// `EurosEnLetra` gives "".
-void EscribeEurosEnLetra(Texto& r, double importe, const Cifras& c, QChar minusculas);
+/// `c` holds the digits of `importe`, `minusculas` is the case character of the numbers and
+/// `unidadMinusculas` lowers the unit words. Writes nothing when `EurosEnLetra` gives "".
+void EscribeEurosEnLetra(Texto& r, double importe, const Cifras& c, QChar minusculas, bool unidadMinusculas);
 
 /// Kept for callers of the earlier currency: always "".
 QString Letras_Pesetas(qint64 numero, QChar minusculas);

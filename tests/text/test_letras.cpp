@@ -161,7 +161,10 @@ TEST(EurosEnLetra, PluralUnitAndCents) {
         {21.5, "S", "veintiún euros con cincuenta céntimos"},
         {21.5, "", "VEINTIÚN EUROS CON CINCUENTA CENTIMOS"},
         {1, "N", "UN EUROS"},
-        {1, "SN", "un euros"},
+        // Only the whole text "S" lowers the unit words; the numbers take its first character.
+        {1, "SN", "un EUROS"},
+        {21.5, "SI", "veintiún EUROS CON cincuenta CENTIMOS"},
+        {21.5, "s", "VEINTIÚN EUROS CON CINCUENTA CENTIMOS"},
         {0.05, "N", "CERO EUROS CON CINCO CENTIMOS"},
         {21.01, "N", "VEINTIÚN EUROS CON UN CENTIMOS"},
         {21000, "N", "VEINTIUNO MIL EUROS"},
