@@ -68,11 +68,18 @@ qint64 EurosPesetasNod(double euros) {
 QString PuntosNod(const QString& numero, bool decimal) {
     const QString s = TrimTotal(numero);
     if (!decimal) return agrupaEntero(s);
-    // The first "." is the decimal point; any later one is kept as it stands (regrouping the text
-    // again at each of them would only garble it further, and grows it without bound).
-    const qsizetype punto = s.indexOf(u'.');
-    if (punto < 0) return s.contains(u',') ? s : agrupaEntero(s);
-    return agrupaEntero(s.left(punto)) + u',' + s.mid(punto + 1);
+    // Each "." groups everything written before it and becomes ","; a well-formed figure has one.
+    // Regrouping makes the text a third longer each time, so a text of many points would grow without
+    // bound: once wider than any column it is no longer regrouped.
+    QString r;
+    for (QChar c : s) {
+        if (c == u'.') {
+            if (r.size() <= kAnchoMaximoTexto) r = agrupaEntero(r);
+            r += u',';
+        } else
+            r += c;
+    }
+    return r.contains(u',') ? r : agrupaEntero(r);
 }
 
 } // namespace nod

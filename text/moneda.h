@@ -24,8 +24,11 @@ qint64 EurosPesetasNod(double euros);
 /// A number written with "." as decimal point, regrouped the Spanish way: blanks are removed, thousands
 /// are grouped with "." and (when `decimal` is true) the decimal point becomes ",":
 /// PuntosNod("1234567.89", true) == "1.234.567,89", PuntosNod("-123456", false) == "-123.456",
-/// PuntosNod("1 234", false) == "1.234". Other characters, and any "." after the first, are kept as they
-/// stand; a text with "," and no "." is returned without grouping.
+/// PuntosNod("1 234", false) == "1.234". Other characters are kept as they stand; a text with "," and
+/// no "." is returned without grouping. Every "." regroups all that comes before it, the "," of an
+/// earlier one included: PuntosNod("1.234.567", true) == "1,.234,567" (an already grouped figure is
+/// not a number this routine reads). Once the text is wider than `kAnchoMaximoTexto` it is no longer
+/// regrouped.
 QString PuntosNod(const QString& numero, bool decimal);
 
 } // namespace nod

@@ -1,3 +1,4 @@
+#include "companion/rnumcad.h"
 #include "tests/support/oficina_prueba.h"
 #include "text/moneda.h"
 
@@ -93,8 +94,22 @@ TEST(Moneda, PuntosNodGroupsDigits) {
         {".5", true, ",5"},
         {"-1234.5", true, "-1.234,5"},
         {"", true, ""},
+        {"1234,5", true, "1234,5"}, // a "," and no "." is left as it stands
+        {"1234.", true, "1.234,"},
+        // Every "." regroups what has been written so far, the "," included.
+        {"1.234.567", true, "1,.234,567"},
+        {"1234.5.6", true, "1..23.4,5,6"},
+        {"1234567.8901.2", true, "1..234..56.7,8.901,2"},
     };
     for (const auto& c : casos)
         EXPECT_EQ(PuntosNod(QString::fromLatin1(c.numero), c.decimal), QString::fromLatin1(c.esperado))
             << c.numero << ' ' << c.decimal;
+}
+
+// Each "." regroups the whole text written before it, which grows by a third every time: a text made of
+// many points stops being regrouped once it is wider than any column instead of growing without bound.
+TEST(Moneda, PuntosNodWithManyPointsStaysBounded) {
+    const QString r = PuntosNod(QStringLiteral("1234567890") + QString(400, QLatin1Char('.')), true);
+    EXPECT_LE(r.size(), 2 * kAnchoMaximoTexto);
+    EXPECT_GE(r.size(), kAnchoMaximoTexto);
 }
