@@ -19,6 +19,10 @@ namespace nod {
 /// Catalan joins day and month with " d'" before "abril", "agost" and "octubre" and " de " otherwise,
 /// the year with " de " (" de l'any  " in F8, two blanks as the suite prints it); its joiners are not
 /// case-converted except " de l'any  ". Any other code gives d/m/yy; a serial outside the calendar "".
+/// The weekday of "F5" and "F7" is the date's own in both languages: Spanish lower case ("lunes"),
+/// Catalan capitalised ("Dijous") before the case character applies. The Catalan one is
+/// `DiaTexto(fecha, 1, 1)`, given the whole date and not only its day of the month, since the day
+/// of the month alone does not tell the weekday and a deed must state the real one.
 /// FormateaFecha("F4S", 15 March 2010, false) == "quince de marzo de dos mil diez".
 QString FormateaFecha(const QString& formato, TDateTime fecha, bool catalan);
 
