@@ -1,5 +1,7 @@
 #include "protocol/indices.h"
 
+#include "companion/rnumcad.h"
+
 #include <cmath>
 
 namespace nod {
@@ -20,7 +22,8 @@ const QString kIntervenciones = QStringLiteral(
     "VERBAL DE");
 
 int indice(const QString& palabra, const QString& ranuras, int ancho) {
-    const QString w = palabra.toUpper(); // accent-aware, as the suite's UpperCase
+    // Letter by letter, accents included, never changing the length ("ß" and ligatures stay).
+    const QString w = UpperCase(palabra);
     const qsizetype posicion = w.isEmpty() ? 0 : ranuras.indexOf(w) + 1;
     return int(std::trunc(double(posicion) / ancho - 1));
 }

@@ -70,8 +70,15 @@ TEST(Indices, PorPosicionEnLasRanuras) {
     for (const auto& [w, i] : actuacion)
         EXPECT_EQ(IndexActuacion(q(w)), i) << w;
 
-    const std::pair<const char*, int> polizas[] = {{"ADQUIRENTE", 0},   {"Fiador", 4},   {"REPRESENTANTE", 6},
-                                                   {"TRANSMITENTE", 9}, {"cónyuge", -1}, {"CONYUGE", 3}};
+    const std::pair<const char*, int> polizas[] = {{"ADQUIRENTE", 0},
+                                                   {"Fiador", 4},
+                                                   {"REPRESENTANTE", 6},
+                                                   {"TRANSMITENTE", 9},
+                                                   {"cónyuge", -1},
+                                                   {"CONYUGE", 3},
+                                                   // upper case letter by letter: the ligature "ﬁ" is no "FI"
+                                                   {"ﬁador", -1},
+                                                   {"ﬁ", -1}};
     for (const auto& [w, i] : polizas)
         EXPECT_EQ(IndexActuacionPolizas(q(w)), i) << w;
 
