@@ -182,18 +182,11 @@ bool TFPreguntaNumeroFactura::FormKeyDown(QWidget* control, QKeyEvent* tecla) {
         reject();
         return true;
     }
-    if ((k == Qt::Key_Return || k == Qt::Key_Enter) && esCampo(control)) {
-        // Enter means "next field" on this form; the buttons keep Enter to press themselves. A disabled
-        // "&Aceptar" is skipped by the focus chain.
+    if ((k == Qt::Key_Return || k == Qt::Key_Enter) &&
+        (esCampo(control) || control == BBAceptar || control == BBCancelar)) {
+        // Enter means "next control" everywhere on this form, on the buttons too (Space or the
+        // accelerator presses them). A disabled "&Aceptar" is skipped by the focus chain.
         focusNextChild();
-        return true;
-    }
-    if ((k == Qt::Key_Return || k == Qt::Key_Enter) && control == BBAceptar) {
-        BBAceptar->click();
-        return true;
-    }
-    if ((k == Qt::Key_Return || k == Qt::Key_Enter) && control == BBCancelar) {
-        BBCancelar->click();
         return true;
     }
     return false;

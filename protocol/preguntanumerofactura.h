@@ -3,7 +3,8 @@
 // of an invoice repeated under the same number. The suite's billing programs use it to find or reissue an
 // invoice.
 //
-// Keys: Enter in a field moves to the next control (on a button it presses the button), Escape cancels.
+// Keys: Enter moves to the next control, from a button too (Space or Alt and the underlined letter
+// press a button), Escape cancels.
 // Modal results: 1 "&Aceptar", 2 "&Cancelar" or Escape. Entering a control shows its hint in the status
 // bar `SBExplica`; fields also take the focus mark (`TomaFocoControl`). Leaving clears both.
 
@@ -47,7 +48,7 @@ public:
     void DejaFoco(QWidget* control);
     void TomaFocoBoton(QPushButton* boton);
     void DejaFocoBoton(QPushButton* boton);
-    /// The form sees keys before its controls: true when it handled `tecla` (Enter in a field, Escape).
+    /// The form sees keys before its controls: true when it handled `tecla` (Enter, Escape).
     bool FormKeyDown(QWidget* control, QKeyEvent* tecla);
 
     void reject() override; // Escape and "&Cancelar" give 2, not QDialog's 0

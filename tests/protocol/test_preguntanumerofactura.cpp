@@ -118,8 +118,21 @@ TEST_F(FormNumeroFactura, EnterMovesOnAndSkipsADisabledAceptar) {
     recorrido(f->BBCancelar);
     f->ENumero->setText(QStringLiteral("15"));
     recorrido(f->BBAceptar);
-    QTest::keyClick(f->BBAceptar, Qt::Key_Return);
-    EXPECT_EQ(f->result(), 1);
+}
+
+TEST_F(FormNumeroFactura, EnterOnAButtonMovesOnWithoutPressingIt) {
+    f->ENumero->setText(QStringLiteral("15"));
+    const std::pair<QWidget*, QWidget*> casos[] = {{f->BBAceptar, f->BBCancelar}, {f->BBCancelar, f->ESerie}};
+    for (const auto& [desde, hacia] : casos) {
+        for (int tecla : {int(Qt::Key_Return), int(Qt::Key_Enter)}) {
+            f->setResult(-1);
+            enfoca(desde);
+            QTest::keyClick(desde, Qt::Key(tecla));
+            EXPECT_EQ(QApplication::focusWidget(), hacia) << desde->objectName().toStdString();
+            EXPECT_TRUE(f->isVisible()) << desde->objectName().toStdString();
+            EXPECT_EQ(f->result(), -1) << desde->objectName().toStdString();
+        }
+    }
 }
 
 TEST_F(FormNumeroFactura, ModalResultsOfTheButtonsAndEscape) {
@@ -133,7 +146,8 @@ TEST_F(FormNumeroFactura, ModalResultsOfTheButtonsAndEscape) {
         {"click on Cancelar", [&] { QTest::mouseClick(f->BBCancelar, Qt::LeftButton); }, 2},
         {"Escape in a field", [&] { QTest::keyClick(f->ENumero, Qt::Key_Escape); }, 2},
         {"Escape on Aceptar", [&] { QTest::keyClick(f->BBAceptar, Qt::Key_Escape); }, 2},
-        {"Enter on Cancelar", [&] { QTest::keyClick(f->BBCancelar, Qt::Key_Return); }, 2},
+        {"Space on Aceptar", [&] { QTest::keyClick(f->BBAceptar, Qt::Key_Space); }, 1},
+        {"Space on Cancelar", [&] { QTest::keyClick(f->BBCancelar, Qt::Key_Space); }, 2},
     };
     for (const Caso& c : casos) {
         f->setResult(-1);
@@ -182,7 +196,7 @@ TEST(PreguntaNumeroFacturaForm, AcceptingReturnsTheTypedValues) {
         QTest::keyClicks(f->EBis, QStringLiteral("c"));
         QTest::keyClick(f->EBis, Qt::Key_Return);
         ASSERT_EQ(f->focusWidget(), f->BBAceptar);
-        QTest::keyClick(f->BBAceptar, Qt::Key_Return);
+        QTest::keyClick(f->BBAceptar, Qt::Key_Space);
     });
     EXPECT_TRUE(PreguntaNumeroFacturaForm(serie, ano, numero, bis, QStringLiteral("Factura a rectificar")));
     EXPECT_TRUE(vistoAbierto);
