@@ -1,5 +1,7 @@
 #include "frame/esperalistado.h"
 
+#include "frame/ventanas.h"
+
 #include <QGuiApplication>
 #include <QProgressBar>
 #include <QScreen>
@@ -20,9 +22,12 @@ TFEsperaListado::TFEsperaListado(QWidget* owner, const QString& caption)
     auto* l = new QVBoxLayout(this);
     l->addWidget(m_barra);
 
+    // Centred on the program's main window, whoever owns it (the progress window usually has none);
+    // on the screen while there is no main window to be seen.
     QRect zona;
-    if (owner && owner->window()->isVisible())
-        zona = owner->window()->frameGeometry();
+    const QWidget* principal = VentanaPrincipal();
+    if (principal && principal != this && principal->isVisible())
+        zona = principal->frameGeometry();
     else if (const QScreen* s = QGuiApplication::primaryScreen())
         zona = s->availableGeometry();
     if (zona.isValid()) move(zona.center() - rect().center());

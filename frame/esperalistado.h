@@ -12,7 +12,8 @@ class TFEsperaListado : public QDialog {
     Q_OBJECT
 public:
     /// A single-border window titled `caption` (design title "Generando el Listado."), centred on the
-    /// owner (or on the screen without one), holding the bar `PbListado` with range 0 to 100.
+    /// program's main window (`VentanaPrincipal`, or on the screen while none is visible) whatever its
+    /// owner, holding the bar `PbListado` with range 0 to 100.
     explicit TFEsperaListado(QWidget* owner = nullptr,
                              const QString& caption = QStringLiteral("Generando el Listado."));
 

@@ -86,6 +86,10 @@ void TFPreguntaZEB::LMDCorreoClick() {
     AbreEnShell(QUrl(QStringLiteral("mailto:") + Config.GetCorreoFabricante()));
 }
 
+void TFPreguntaZEB::reject() {
+    done(2);
+}
+
 bool TFPreguntaZEB::eventFilter(QObject* objeto, QEvent* e) {
     auto* l = qobject_cast<QLabel*>(objeto);
     if (l == m_imagen && e->type() == QEvent::MouseButtonRelease) {

@@ -25,6 +25,9 @@ public:
     void LMDZebClick();
     void LMDCorreoClick();
 
+    /// Escape, the close button and a click on the image close the box with result 2.
+    void reject() override;
+
 protected:
     bool eventFilter(QObject* objeto, QEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;

@@ -84,7 +84,7 @@ TFRelojNod::TFRelojNod(QWidget* owner)
     for (QPushButton* b : {aceptar, cancelar})
         b->setAutoDefault(false);
     connect(aceptar, &QPushButton::clicked, this, &TFRelojNod::BBAceptarClick);
-    connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
+    connect(cancelar, &QPushButton::clicked, this, &TFRelojNod::reject);
 
     auto* campos = new QFormLayout;
     campos->addRow(QStringLiteral("&Fecha:"), m_fecha);
@@ -118,6 +118,10 @@ void TFRelojNod::BBAceptarClick() {
         Mensaje_Error(QStringLiteral("No se ha podido cambiar la fecha y la hora del sistema.\n") + motivo,
                       QStringLiteral("Fecha y hora"));
     done(1);
+}
+
+void TFRelojNod::reject() {
+    done(2);
 }
 
 void TFRelojNod::showEvent(QShowEvent* e) {

@@ -38,6 +38,9 @@ public:
     /// The date and time the pickers hold, joined as the clock will be set.
     QDateTime FechaHoraElegida() const;
 
+    /// `BBCancelar` and Escape: closes without touching the clock, result 2.
+    void reject() override;
+
 protected:
     void showEvent(QShowEvent* e) override;
     bool eventFilter(QObject* objeto, QEvent* e) override;

@@ -68,6 +68,10 @@ TFVersionNod::TFVersionNod(QWidget* owner)
     l->addWidget(aceptar, 0, Qt::AlignRight);
 }
 
+void TFVersionNod::reject() {
+    done(2);
+}
+
 void TFVersionNod::keyPressEvent(QKeyEvent* e) {
     if ((e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && e->modifiers() == Qt::NoModifier) {
         focusNextChild();

@@ -24,6 +24,9 @@ public:
     /// `BBAceptar`; when the alias has no folder, `LAviso` says so.
     explicit TFVersionNod(QWidget* owner = nullptr);
 
+    /// Escape and the close button: result 2 (`BBAceptar` gives 1).
+    void reject() override;
+
 protected:
     /// Enter moves the focus to the next control; Escape closes.
     void keyPressEvent(QKeyEvent* e) override;

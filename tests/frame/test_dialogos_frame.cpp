@@ -6,6 +6,7 @@
 #include "frame/qtmensajes.h"
 #include "frame/relojnod.h"
 #include "frame/shell.h"
+#include "frame/ventanas.h"
 #include "frame/versionnod.h"
 #include "tests/support/modal.h"
 #include "tests/support/oficina_prueba.h"
@@ -97,6 +98,24 @@ TEST(EsperaListado, ProgressWindowLifecycle) {
     EXPECT_EQ(TFEsperaListado().windowTitle(), QStringLiteral("Generando el Listado."));
 }
 
+TEST(EsperaListado, CentredOnTheMainWindowWhateverItsOwner) {
+    QWidget principal;
+    principal.setGeometry(40, 30, 800, 600);
+    principal.show();
+    FijaVentanaPrincipal(&principal);
+    QWidget otroPropietario;
+    otroPropietario.setGeometry(900, 700, 200, 100);
+    otroPropietario.show();
+    std::unique_ptr<TFEsperaListado> sinDueno(MuestraProgreso(QStringLiteral("x")));
+    TFEsperaListado conDueno(&otroPropietario);
+    for (TFEsperaListado* f : {sinDueno.get(), &conDueno}) {
+        const QPoint centro = f->geometry().center();
+        EXPECT_LE((centro - principal.frameGeometry().center()).manhattanLength(), 1)
+            << centro.x() << "," << centro.y();
+    }
+    FijaVentanaPrincipal(nullptr);
+}
+
 namespace {
 // Records what the clock would have been set to, and refuses when asked to.
 struct RelojDePrueba {
@@ -147,13 +166,51 @@ TEST(RelojNod, AcceptSetsTheClockToTheChosenDateAndTime) {
     FijaAhora(std::nullopt);
 }
 
-TEST(RelojNod, CancelLeavesTheClockAlone) {
-    RelojDePrueba reloj;
-    TFRelojNod f;
-    f.show();
-    QTest::mouseClick(f.findChild<QPushButton*>(QStringLiteral("BBCancelar")), Qt::LeftButton);
-    EXPECT_TRUE(reloj.pedidas.isEmpty());
-    EXPECT_EQ(f.result(), QDialog::Rejected);
+TEST(RelojNod, CancelAndEscapeLeaveTheClockAloneWithResultTwo) {
+    for (bool escape : {false, true}) {
+        RelojDePrueba reloj;
+        TFRelojNod f;
+        prueba::AlAbrirseModal([&](QWidget* w) {
+            if (escape)
+                QTest::keyClick(w, Qt::Key_Escape);
+            else
+                QTest::mouseClick(w->findChild<QPushButton*>(QStringLiteral("BBCancelar")), Qt::LeftButton);
+        });
+        EXPECT_EQ(f.exec(), 2) << (escape ? "Escape" : "BBCancelar");
+        EXPECT_TRUE(reloj.pedidas.isEmpty());
+    }
+}
+
+TEST(DialogosMarco, ModalResultsOfTheSmallFrameDialogs) {
+    prueba::OficinaPrueba o;
+    AbridorShell anterior = FijaAbridorShell([](const QUrl&) { return true; });
+    const struct {
+        const char* dialogo;
+        const char* accion; // a control's name to click, or nullptr for Escape
+        int resultado;
+    } casos[] = {{"version", "BBAceptar", 1},
+                 {"version", nullptr, 2},
+                 {"zeb", nullptr, 2},
+                 {"zeb", "Imagen", 2},
+                 {"reloj", nullptr, 2}};
+    for (const auto& k : casos) {
+        std::unique_ptr<QDialog> f;
+        if (qstrcmp(k.dialogo, "version") == 0)
+            f = std::make_unique<TFVersionNod>();
+        else if (qstrcmp(k.dialogo, "zeb") == 0)
+            f = std::make_unique<TFPreguntaZEB>(nullptr, QStringLiteral("texto"));
+        else
+            f = std::make_unique<TFRelojNod>();
+        prueba::AlAbrirseModal([&](QWidget* w) {
+            if (k.accion)
+                QTest::mouseClick(w->findChild<QWidget*>(QLatin1String(k.accion)), Qt::LeftButton);
+            else
+                QTest::keyClick(w, Qt::Key_Escape);
+        });
+        EXPECT_EQ(f->exec(), k.resultado) << k.dialogo << " " << (k.accion ? k.accion : "Escape");
+        EXPECT_EQ(prueba::VentanasVisibles(), 0);
+    }
+    FijaAbridorShell(anterior);
 }
 
 TEST(VersionNod, GridListsTheTablesOfTheSuiteAlias) {
