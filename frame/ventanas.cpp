@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QMainWindow>
 #include <QScreen>
+#include <QWindow>
+#include <algorithm>
 #include <cmath>
 
 namespace nod {
@@ -51,7 +53,9 @@ QWidget* MostrarNoModal(QWidget* owner, const QMetaObject& clase,
     nombre = nombre.mid(nombre.lastIndexOf(QLatin1Char(':')) + 1).mid(1); // no namespace, no leading "T"
     if (owner) {
         for (QObject* o : owner->children())
-            if (auto* w = qobject_cast<QWidget*>(o); w && w->objectName() == nombre) return w;
+            if (auto* w = qobject_cast<QWidget*>(o);
+                w && w->objectName().compare(nombre, Qt::CaseInsensitive) == 0)
+                return w;
     }
     return crea(owner);
 }
@@ -77,15 +81,31 @@ QPoint CentroDeLaPantalla() {
     return s ? CentroDe(s->virtualSize()) : QPoint();
 }
 
+QWidgetList FormulariosVisibles() {
+    // QApplication::topLevelWidgets() comes from a hash set, in no useful order: order the windows by
+    // when their native window was made (QGuiApplication keeps that list in creation order), and put the
+    // active one first, where the suite's form list keeps the form that has the focus.
+    const QWindowList creadas = QGuiApplication::topLevelWindows();
+    QList<std::pair<qsizetype, QWidget*>> orden;
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+        if (!w->isWindow() || !w->isVisible()) continue;
+        const qsizetype i = w->windowHandle() ? creadas.indexOf(w->windowHandle()) : -1;
+        orden.append({w == QApplication::activeWindow() ? -2 : (i < 0 ? creadas.size() : i), w});
+    }
+    std::stable_sort(orden.begin(), orden.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    QWidgetList formularios;
+    for (const auto& [i, w] : orden)
+        formularios.append(w);
+    return formularios;
+}
+
 void OcultaNodrim(ListaVentanas& lista) {
     lista = std::make_unique<QList<QPointer<QWidget>>>();
-    const QWidgetList ventanas = QApplication::topLevelWidgets();
+    const QWidgetList ventanas = FormulariosVisibles();
     for (auto it = ventanas.crbegin(); it != ventanas.crend(); ++it) {
-        QWidget* w = *it;
-        if (w->isWindow() && w->isVisible()) {
-            lista->append(w);
-            w->hide();
-        }
+        lista->append(*it);
+        (*it)->hide();
     }
 }
 
@@ -99,10 +119,12 @@ void MuestraNodrim(ListaVentanas& lista) {
 void TomaFoco(QWidget* ventana) {
     if (!ventana) return;
     ventana = ventana->window();
-    ventana->showMinimized();
+    ventana->showMinimized(); // a maximised window keeps its maximised flag while minimised
     ventana->raise();
     ventana->activateWindow();
-    ventana->showNormal();
+    // Restore as the system does: back to the placement before minimising, maximised if it was.
+    ventana->setWindowState(ventana->windowState() & ~Qt::WindowMinimized);
+    ventana->show();
 }
 
 void TomaFoco(WId id) {

@@ -56,15 +56,22 @@ QPoint CentroDeLaPantalla();
 /// The forms hidden by `OcultaNodrim`, to be shown again by `MuestraNodrim`.
 using ListaVentanas = std::unique_ptr<QList<QPointer<QWidget>>>;
 
-/// Frees `lista`, makes a new one, and hides every visible window of the program (last to first),
-/// recording it.
+/// The program's visible windows in the order of the suite's form list: the active window first, then
+/// the others in the order they were created.
+QWidgetList FormulariosVisibles();
+
+/// Frees `lista`, makes a new one, and hides every visible window of the program, walking
+/// `FormulariosVisibles` from the last to the first and recording each one; the active window is hidden
+/// last.
 void OcultaNodrim(ListaVentanas& lista);
 
-/// Shows again, in list order, the windows `OcultaNodrim` hid (those still alive), and frees the list.
+/// Shows again, in list order, the windows `OcultaNodrim` hid (those still alive), and frees the list,
+/// so the window that was active comes back last, on top of the others.
 void MuestraNodrim(ListaVentanas& lista);
 
-/// Brings a window to the front the way the system allows it: minimise, bring to the foreground, restore.
-/// An id that is not a window of this program is ignored.
+/// Brings a window to the front the way the system allows it: minimise, bring to the foreground, restore
+/// (to its placement before minimising: a maximised window comes back maximised). An id that is not a
+/// window of this program is ignored.
 void TomaFoco(WId ventana);
 void TomaFoco(QWidget* ventana);
 

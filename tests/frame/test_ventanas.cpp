@@ -55,6 +55,11 @@ TEST(Ventanas, MostrarNoModalReusesTheOwnersFormByClassName) {
     EXPECT_EQ(MostrarNoModal<TFMensajeNod>(&owner), primera);
     QWidget otro;
     EXPECT_NE(MostrarNoModal<TFMensajeNod>(&otro), primera);
+    // Form names compare without regard to case, as the suite's component names do.
+    QWidget tercero;
+    auto* mayusculas = new QWidget(&tercero, Qt::Window);
+    mayusculas->setObjectName(QStringLiteral("FMENSAJENOD"));
+    EXPECT_EQ(MostrarNoModal<TFMensajeNod>(&tercero), mayusculas);
 }
 
 TEST(Ventanas, CentroDeRoundsHalvesToEven) {
@@ -111,16 +116,45 @@ TEST(Ventanas, OcultaYMuestraNodrim) {
     MuestraNodrim(lista); // an empty list is ignored
 }
 
-TEST(Ventanas, TomaFocoLeavesTheWindowRestoredAndActive) {
-    QWidget principal;
-    principal.show();
-    principal.showMinimized();
-    FijaVentanaPrincipal(&principal);
-    TomaFocoNodrim();
-    EXPECT_FALSE(principal.isMinimized());
-    EXPECT_TRUE(principal.isVisible());
-    EXPECT_EQ(VentanaPrincipal(), &principal);
-    FijaVentanaPrincipal(nullptr);
+TEST(Ventanas, OcultaNodrimHidesTheActiveWindowLastSoItComesBackOnTop) {
+    // Creation order a, b, c; the list the suite walks keeps the active window first.
+    const struct {
+        int activa; // index of the active window, -1 none
+        const char* ocultadas;
+    } casos[] = {{-1, "cba"}, {1, "cab"}, {0, "cba"}, {2, "bac"}};
+    for (const auto& k : casos) {
+        QWidget v[3];
+        for (int i = 0; i < 3; ++i) {
+            v[i].setObjectName(QString(QLatin1Char('a' + i)));
+            v[i].show();
+        }
+        QApplication::setActiveWindow(k.activa < 0 ? nullptr : &v[k.activa]);
+        ListaVentanas lista;
+        OcultaNodrim(lista);
+        QString ocultadas;
+        for (const QPointer<QWidget>& w : *lista)
+            ocultadas += w->objectName();
+        EXPECT_EQ(ocultadas, QLatin1String(k.ocultadas)) << k.activa;
+        MuestraNodrim(lista);
+    }
+}
+
+TEST(Ventanas, TomaFocoLeavesTheWindowRestoredToItsPlacement) {
+    const struct {
+        bool maximizada, minimizada; // before the call
+    } casos[] = {{false, false}, {false, true}, {true, false}, {true, true}};
+    for (const auto& k : casos) {
+        QWidget principal;
+        k.maximizada ? principal.showMaximized() : principal.show();
+        if (k.minimizada) principal.showMinimized();
+        FijaVentanaPrincipal(&principal);
+        TomaFocoNodrim();
+        EXPECT_FALSE(principal.isMinimized()) << k.maximizada << k.minimizada;
+        EXPECT_EQ(principal.isMaximized(), k.maximizada) << k.maximizada << k.minimizada;
+        EXPECT_TRUE(principal.isVisible());
+        EXPECT_EQ(VentanaPrincipal(), &principal);
+        FijaVentanaPrincipal(nullptr);
+    }
     TomaFoco(WId(0)); // not a window of the program: ignored
 }
 
