@@ -2,6 +2,7 @@
 
 #include "companion/codepage.h"
 #include "companion/registro.h"
+#include "frame/ficheros.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -106,7 +107,7 @@ const QByteArray& PlantillaPif() {
 QByteArray ImagenPif(const QString& programa, const QString& parametros, const QString& titulo) {
     const auto t = campo(titulo.leftJustified(kLargoTitulo, QLatin1Char(' '), true), kLargoTitulo);
     const auto p = campo(programa, kLargoCampo);
-    const auto c = campo(carpetaDe(programa), kLargoCampo);
+    const auto c = campo(ExtraePath(programa), kLargoCampo);
     const auto a = campo(parametros, kLargoCampo);
     if (!t || !p || !c || !a) return {};
     QByteArray img = PlantillaPif();

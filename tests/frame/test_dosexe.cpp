@@ -54,6 +54,19 @@ TEST(DOSExe, LongTextsAreCut) {
     EXPECT_EQ(img[32], PlantillaPif()[32]) << "the title never spills into the next field";
 }
 
+TEST(DOSExe, StartUpFolderIsTheProgramsFolderPart) {
+    const struct {
+        const char *programa, *carpeta;
+    } casos[] = {{"C:\\NOD\\COPIAS.EXE", "C:\\NOD\\"},
+                 {"C:COPIAS.EXE", "C:"},
+                 {"COPIAS.EXE", ""},
+                 {"\\\\SERVIDOR\\NOD\\X.BAT", "\\\\SERVIDOR\\NOD\\"}};
+    for (const auto& k : casos) {
+        const QByteArray img = ImagenPif(QLatin1String(k.programa), {}, {});
+        EXPECT_EQ(hastaNul(img, 101), QByteArray(k.carpeta)) << k.programa;
+    }
+}
+
 TEST(DOSExe, TextOutsideWindows1252GivesNoImage) {
     EXPECT_TRUE(ImagenPif(QStringLiteral("C:\\A.EXE"), QStringLiteral("\u4E2D"), QString()).isEmpty());
 }
