@@ -3,6 +3,7 @@
 #include "companion/config.h"
 #include "companion/rnumcad.h"
 
+#include <QtNumeric>
 #include <cmath>
 
 namespace nod {
@@ -54,7 +55,7 @@ qint64 Sujeto(qint64 importe, qint64 cuota, double porcentaje, const QString& pa
     const qint64 sujeto = qint64(bruto);
     if (esS(parte)) return sujeto;
     qint64 resto = 0;
-    return __builtin_sub_overflow(importe, sujeto, &resto) ? 0 : resto;
+    return qSubOverflow(importe, sujeto, &resto) ? 0 : resto;
 }
 
 double Sujeto_E(double importe, double cuota, double porcentaje, const QString& parte) {
