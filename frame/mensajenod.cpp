@@ -169,9 +169,10 @@ void TFMensajeNod::CambiaMensaje2(const QString& s) {
 }
 
 void TFMensajeNod::FormCreate() {
-    const QWidget* owner = parentWidget() ? parentWidget()->window() : nullptr;
+    // Only an owner that is itself a window counts; a control of some window as owner gives the screen.
+    const QWidget* owner = parentWidget();
     QRect zona;
-    if (owner && owner->isVisible())
+    if (owner && owner->isWindow() && owner->isVisible())
         zona = owner->frameGeometry();
     else if (const QScreen* s = screen() ? screen() : QGuiApplication::primaryScreen())
         zona = s->availableGeometry();

@@ -47,7 +47,8 @@ public:
 
     int tipoMensaje() const { return m_tipo; }
 
-    /// Centres the box on its owner when the owner is a visible window, else on the screen.
+    /// Centres the box on its owner when the owner is a visible window (not a control inside one), else
+    /// on the screen.
     void FormCreate();
     /// Lays the box out by which lines are present, sets the focus by type and raises the box.
     void FormShow();

@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <gtest/gtest.h>
 #include <memory>
@@ -130,6 +131,31 @@ TEST(MensajeNod, ButtonSetsForEveryType) {
             EXPECT_EQ(c.forma->focusWidget(), c.b2) << k.tipo;
         }
         EXPECT_EQ(c.forma->tipoMensaje(), k.tipo);
+    }
+}
+
+TEST(MensajeNod, FormCreateCentresOnAVisibleOwnerWindowElseOnTheScreen) {
+    QWidget ventana;
+    ventana.setGeometry(30, 40, 700, 500);
+    auto* control = new QWidget(&ventana);
+    control->setGeometry(0, 0, 50, 20);
+    QWidget oculta;
+    oculta.setGeometry(30, 40, 700, 500);
+    const QPoint pantalla = QGuiApplication::primaryScreen()->availableGeometry().center();
+    const struct {
+        const char* caso;
+        QWidget* owner;
+        bool enVentana; // centred on `ventana`, else on the screen
+    } casos[] = {{"none", nullptr, false},
+                 {"visible window", &ventana, true},
+                 {"hidden window", &oculta, false},
+                 {"control of a visible window", control, false}};
+    ventana.show();
+    ASSERT_NE(ventana.frameGeometry().center(), pantalla);
+    for (const auto& k : casos) {
+        TFMensajeNod forma(k.owner);
+        const QPoint esperado = k.enVentana ? ventana.frameGeometry().center() : pantalla;
+        EXPECT_LE((forma.geometry().center() - esperado).manhattanLength(), 1) << k.caso;
     }
 }
 
