@@ -1,5 +1,7 @@
 #include "ident/atributos.h"
 
+#include "companion/rnumcad.h"
+
 #include <array>
 
 namespace nod {
@@ -77,10 +79,10 @@ QString DecodificaEstadoCivil(int codigo, const QString& sexo, bool catalan) {
 }
 
 int CodificaEstadoCivil(const QString& s) {
-    const QString t = s.toUpper();
+    const QString t = UpperCase(s);
     for (int i = 0; i < int(kEstadosCiviles.size()); ++i)
-        if (t == QString::fromUtf16(kEstadosCiviles[i].hombre).toUpper() ||
-            t == QString::fromUtf16(kEstadosCiviles[i].mujer).toUpper())
+        if (t == UpperCase(QString::fromUtf16(kEstadosCiviles[i].hombre)) ||
+            t == UpperCase(QString::fromUtf16(kEstadosCiviles[i].mujer)))
             return i + 1;
     return 0;
 }
@@ -92,7 +94,7 @@ QString DecodificaRegimen(int codigo, bool catalan) {
 }
 
 int CodificaRegimen(const QString& s) {
-    const QString t = s.toUpper();
+    const QString t = UpperCase(s);
     if (t.contains(u"GANANCIALES")) return 1;
     if (t.contains(u"PARTICIPACI")) return 3;
     if (t.contains(u"SEPARACI")) return 2;
@@ -105,7 +107,7 @@ QString DecodificaTipoJuridico(int codigo) {
 }
 
 int CodificaTipoJuridico(const QString& s) {
-    const QString t = s.toUpper();
+    const QString t = UpperCase(s);
     for (int i = 0; i < int(kTiposJuridicos.size()); ++i)
         if (t == QString::fromUtf16(kTiposJuridicos[i])) return i + 1 == kSociedadColectiva ? 1 : i + 1;
     return 0;

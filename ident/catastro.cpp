@@ -1,5 +1,8 @@
 #include "ident/catastro.h"
 
+#include "companion/rnumcad.h"
+#include "text/recorte.h"
+
 namespace nod {
 
 namespace {
@@ -11,9 +14,11 @@ bool esLetra(QChar c) {
     return c >= u'A' && c <= u'Z';
 }
 
-// The text as both tests and formatters read it.
+// The text as both tests and formatters read it: trimmed of blanks and control characters (a no-break
+// space stays, and so is not expandable) and upper-cased letter by letter, so that the length never
+// changes ("ß" does not become "SS" and turn into two letters).
 QString normaliza(const QString& s) {
-    return s.trimmed().toUpper();
+    return UpperCase(Trim(s));
 }
 
 bool todoDigitosOLetras(const QString& t) {

@@ -2,6 +2,7 @@
 
 #include "companion/config.h"
 #include "companion/rnumcad.h"
+#include "text/recorte.h"
 
 namespace nod {
 
@@ -37,7 +38,7 @@ constexpr Colegio kColegios[] = {
 };
 
 QString normaliza(const QString& s) {
-    return UpperCase(s.trimmed());
+    return UpperCase(Trim(s));
 }
 
 } // namespace

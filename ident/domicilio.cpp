@@ -4,6 +4,7 @@
 #include "companion/registro.h"
 #include "companion/rnumcad.h"
 #include "companion/tablas.h"
+#include "text/recorte.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -39,7 +40,7 @@ bool esEntero(const QString& s, qint64& n) {
 }
 
 QString valor(const TTabla& t, const char* campo) {
-    return t.AsString(QLatin1String(campo)).trimmed();
+    return Trim(t.AsString(QLatin1String(campo)));
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 #include "ident/editrefcatastral.h"
 
+#include "companion/rnumcad.h"
 #include "ident/controlcatastral.h"
 #include "ident/recuperamunicipio.h"
+#include "text/recorte.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -39,9 +41,10 @@ bool PatronRefCatastral(const QString& ref, TTipoFinca tipo) {
 TEditRefCatastral::TEditRefCatastral(QWidget* parent)
     : QLineEdit(parent) {
     setMaxLength(20);
-    // Typed letters appear in upper case, as the cadastre writes them.
+    // Typed letters appear in upper case, as the cadastre writes them, letter by letter ("ß" stays one
+    // character).
     connect(this, &QLineEdit::textEdited, this, [this](const QString& t) {
-        const QString mayusculas = t.toUpper();
+        const QString mayusculas = UpperCase(t);
         if (mayusculas != t) {
             const int cursor = cursorPosition();
             setText(mayusculas);
@@ -73,7 +76,7 @@ int TEditRefCatastral::validaConCatastro(const QString& ref) {
 }
 
 int TEditRefCatastral::ValidaRefCatastral() {
-    const QString ref = text().trimmed().toUpper();
+    const QString ref = UpperCase(Trim(text()));
     m_resultado = validaSinConexion(ref);
     if (m_resultado == ResultadoRefCatastral::Valida && m_modo == 2) m_resultado = validaConCatastro(ref);
     return m_resultado;

@@ -3,6 +3,7 @@
 #include "companion/config.h"
 #include "companion/registro.h"
 #include "companion/tablas.h"
+#include "text/recorte.h"
 
 namespace nod {
 
@@ -12,7 +13,7 @@ QString campoDe(const QString& fichero, const QString& indice, const QString& cl
                 const QString& campo) {
     try {
         auto tb = CreaTabla(Config.GetAliasNodrim(), fichero, indice);
-        if (TBBusca(*tb, {{clave, valor}}) && tb->TieneCampo(campo)) return tb->AsString(campo).trimmed();
+        if (TBBusca(*tb, {{clave, valor}}) && tb->TieneCampo(campo)) return Trim(tb->AsString(campo));
     } catch (const ErrorNod& e) {
         qCWarning(lcIdent).noquote() << e.mensaje();
     }

@@ -4,6 +4,7 @@
 #include "companion/registro.h"
 #include "companion/rnumcad.h"
 #include "companion/tablas.h"
+#include "text/recorte.h"
 
 namespace nod {
 
@@ -19,7 +20,7 @@ std::unique_ptr<TTabla> abre(const QString& indice) {
 }
 
 QString campo(const TTabla& tb, const QString& nombre) {
-    return tb.AsString(nombre).trimmed();
+    return Trim(tb.AsString(nombre));
 }
 
 // Whether the current row is still one of INE code `ine`.
@@ -40,8 +41,8 @@ bool vacioOCeros(const QString& s, const char* ceros) {
 QString BusquedaMunicipio(const QString& provincia, const QString& municipio) {
     try {
         auto tb = abre(QStringLiteral("CPROVMUN"));
-        if (TBBusca(*tb, {{QStringLiteral("COD_PROV"), provincia.trimmed()},
-                          {QStringLiteral("COD_MUN"), municipio}}))
+        if (TBBusca(*tb,
+                    {{QStringLiteral("COD_PROV"), Trim(provincia)}, {QStringLiteral("COD_MUN"), municipio}}))
             return campo(*tb, kNombre);
     } catch (const ErrorNod& e) {
         qCWarning(lcIdent).noquote() << e.mensaje();
@@ -59,7 +60,7 @@ QString BusquedaCodIne(bool incluyeMenores, const QString& nombre, const QString
     try {
         auto tb = abre(kNombre);
         TBFiltra(*tb, filtro);
-        if (TBBusca(*tb, {{kNombre, nombre.trimmed()}})) return campo(*tb, kCodIne);
+        if (TBBusca(*tb, {{kNombre, Trim(nombre)}})) return campo(*tb, kCodIne);
     } catch (const ErrorNod& e) {
         qCWarning(lcIdent).noquote() << e.mensaje();
     }
@@ -95,7 +96,7 @@ QString Cod_MunToNombre(const QString& ine, const QString& prov, const QString& 
 QString CompruebaEntidadMenor(const QString& ine, const QString& nombre, QString& codMun,
                               QString& nombreMunicipio) {
     codMun = QStringLiteral("0000");
-    if (ine.trimmed().isEmpty()) return {};
+    if (Trim(ine).isEmpty()) return {};
     QString resultado;
     try {
         auto tb = abre(kCodIne);

@@ -4,6 +4,7 @@
 #include "companion/registro.h"
 #include "companion/rnumcad.h"
 #include "companion/tablas.h"
+#include "text/recorte.h"
 
 namespace nod {
 
@@ -19,7 +20,7 @@ QString buscaEnProvin(const QString& indice, const QString& filtro, const TClave
         auto tb = CreaTabla(Config.GetAliasNodrim(), kProvin, indice);
         TBFiltra(*tb, filtro);
         if (TBBusca(*tb, clave)) {
-            const QString v = tb->AsString(campo).trimmed();
+            const QString v = Trim(tb->AsString(campo));
             if (!v.isEmpty()) return v;
         }
     } catch (const ErrorNod& e) {
@@ -29,7 +30,7 @@ QString buscaEnProvin(const QString& indice, const QString& filtro, const TClave
 }
 
 QString porNombre(const QString& nombre, const QString& campo, const QString& defecto) {
-    const QString n = nombre.trimmed();
+    const QString n = Trim(nombre);
     if (n.isEmpty()) return defecto;
     return buscaEnProvin(QStringLiteral("ALFABETICO"), QStringLiteral("GRUPO='2'"),
                          {{QStringLiteral("PROVINCIA"), n}}, campo, defecto);
@@ -55,7 +56,7 @@ QString Cod_PaisISO3166PorCodigo(const QString& codigo) {
 }
 
 QString Cod_PaisToNombre(const QString& codigo) {
-    const int n = Cad_Int(codigo.trimmed());
+    const int n = Cad_Int(Trim(codigo));
     if (n == 0) return QStringLiteral("999");
     return buscaEnProvin(QStringLiteral("CODIGO"), QStringLiteral("GRUPO='2'"),
                          {{QStringLiteral("CODIGO"), n}}, QStringLiteral("PROVINCIA"), QStringLiteral("999"));
@@ -73,8 +74,8 @@ QString Cod_ISO3166_13ToNombre(const QString& iso) {
         auto tb = CreaTabla(Config.GetAliasNodrim(), kProvin, QStringLiteral("ALFABETICO"));
         const int cIso = tb->IndiceCampo(QStringLiteral("ISO3166_13"));
         for (tb->First(); !tb->Eof(); tb->Next())
-            if (tb->AsString(cIso).trimmed() == iso) {
-                const QString v = tb->AsString(QStringLiteral("PROVINCIA")).trimmed();
+            if (Trim(tb->AsString(cIso)) == iso) {
+                const QString v = Trim(tb->AsString(QStringLiteral("PROVINCIA")));
                 return v.isEmpty() ? QStringLiteral("ESPAÑA") : v;
             }
     } catch (const ErrorNod& e) {
@@ -90,12 +91,12 @@ QString DameCodPais_BOE2003_12_23_Anexo11_grupo3____a_partir_del_codigo_grupo2(i
         if (!TBBusca(*porCodigo, {{QStringLiteral("CODIGO"), codigo}})) return {};
         for (; !porCodigo->Eof() && porCodigo->AsInteger(QStringLiteral("CODIGO")) == codigo;
              porCodigo->Next()) {
-            const QString nombre = porCodigo->AsString(QStringLiteral("PROVINCIA")).trimmed();
+            const QString nombre = Trim(porCodigo->AsString(QStringLiteral("PROVINCIA")));
             if (!TBBusca(*porNombre, {{QStringLiteral("PROVINCIA"), nombre}})) continue;
-            for (; !porNombre->Eof() && porNombre->AsString(QStringLiteral("PROVINCIA")).trimmed() == nombre;
+            for (; !porNombre->Eof() && Trim(porNombre->AsString(QStringLiteral("PROVINCIA"))) == nombre;
                  porNombre->Next())
                 if (porNombre->AsInteger(QStringLiteral("GRUPO")) == 3)
-                    return porNombre->AsString(QStringLiteral("COD_198")).trimmed();
+                    return Trim(porNombre->AsString(QStringLiteral("COD_198")));
         }
     } catch (const ErrorNod& e) {
         qCWarning(lcIdent).noquote() << e.mensaje();

@@ -1,5 +1,6 @@
 #include "companion/rnumcad.h"
 #include "ident/catastro.h"
+#include "text/recorte.h"
 
 namespace nod {
 
@@ -11,7 +12,7 @@ bool parteAntesDe(QString& w, QStringView plural, QStringView singular, QString&
     for (QStringView palabra : {plural, singular}) {
         const qsizetype p = w.indexOf(palabra);
         if (p >= 0) {
-            antes = w.left(p).trimmed();
+            antes = Trim(w.left(p));
             if (corta) w = w.mid(p + palabra.size());
             return true;
         }

@@ -1,6 +1,8 @@
 #include "ident/tipodocumento.h"
 
 #include "companion/documentos.h"
+#include "companion/rnumcad.h"
+#include "text/recorte.h"
 
 namespace nod {
 
@@ -20,11 +22,11 @@ QString TipoDeDocumento(int codigo) {
 }
 
 int TipoDeDocumento(const QString& etiqueta) {
-    const QString t = QString(etiqueta).remove(u'.').trimmed();
+    const QString t = Trim(QString(etiqueta).remove(u'.'));
     if (t == u"NIF") return 1;
     if (t == u"CIF") return 2;
     if (t == u"NIE") return 3;
-    if (t.toUpper() == u"PASAPORTE") return 4;
+    if (UpperCase(t) == u"PASAPORTE") return 4;
     return 5;
 }
 

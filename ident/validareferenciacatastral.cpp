@@ -7,6 +7,7 @@
 #include "ident/catastro.h"
 #include "ident/editrefcatastral.h"
 #include "ident/recuperamunicipio.h"
+#include "text/recorte.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -135,7 +136,7 @@ TFValidaReferenciaCatastral::TFValidaReferenciaCatastral(QWidget* owner)
 void TFValidaReferenciaCatastral::showEvent(QShowEvent* e) {
     QDialog::showEvent(e);
     if (e->spontaneous()) return;
-    m_guardada = Config.GetRefCatastralActual().trimmed();
+    m_guardada = Trim(Config.GetRefCatastralActual());
     ERCRefCatastral->setText(m_guardada);
 }
 
@@ -170,7 +171,7 @@ bool TFValidaReferenciaCatastral::eventFilter(QObject* o, QEvent* e) {
 }
 
 void TFValidaReferenciaCatastral::Aceptar() {
-    Config.SetRefCatastralActual(ERCRefCatastral->text().trimmed());
+    Config.SetRefCatastralActual(Trim(ERCRefCatastral->text()));
     done(1);
 }
 
@@ -218,7 +219,7 @@ void TFValidaReferenciaCatastral::RecuperaMunicipio(const QString& ref, QString&
 }
 
 void TFValidaReferenciaCatastral::Catastro() {
-    const QString ref = ERCRefCatastral->text().trimmed();
+    const QString ref = Trim(ERCRefCatastral->text());
     QString provincia, municipio;
     RecuperaMunicipio(ref, provincia, municipio);
     if (!provincia.isEmpty() && !municipio.isEmpty())

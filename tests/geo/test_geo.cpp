@@ -180,7 +180,10 @@ TEST(Colegios, ExactNamesThenFragmentsInOrder) {
          {C{"MADRID", "", "2850172"}, C{"COMUNIDAD DE MADRID", "", "2850172"},
           C{"CASTILLA-LEON", "", "3350178"}, C{"CASTILLA Y LEON", "", "4750148"},
           C{" cataluña ", "", "0850153"}, C{"", "GALICIA", "1550160"}, C{"LAS CANARIAS", "", "3550180"},
-          C{"ARAGON", "", "5050195"}, C{"LA RIOJA", "", "2650177"}, C{"ATLANTIDA", "", ""}})
+          C{"ARAGON", "", "5050195"}, C{"LA RIOJA", "", "2650177"}, C{"ATLANTIDA", "", ""},
+          // Blanks and control characters are trimmed before the exact names; a no-break space is not, so
+          // the name is no longer exact and the fragments decide ("AST" inside CASTILLA).
+          C{"\tCASTILLA Y LEON\r\n", "", "4750148"}, C{"CASTILLA Y LEON\u00a0", "", "3350178"}})
         EXPECT_EQ(ObtenCodColegioPorNombre(QString::fromUtf8(c.nombre), QString::fromUtf8(c.alternativo)),
                   QString::fromUtf8(c.esperado))
             << c.nombre;

@@ -39,6 +39,9 @@ TEST(ReferenciaUrbana, ShapeAndExpansion) {
         {u"", false, u""},
         {u"   ", false, u""},
         {u"123\u00d1H5797S1WX", false, u"123\u00d1H5797S1WX"},
+        {u"123VH5797S1W\u00df", false, u"123VH5797S1W\u00df"},   // "ß" is one character, not "SS"
+        {u"\u00a0123VH5797S1WX", false, u"\u00a0123VH5797S1WX"}, // a no-break space is not trimmed
+        {u"\t123VH5797S1WX\r\n", true, u"0000123VH5797S0001WX"}, // control characters are
     };
     for (const auto& c : casos) {
         EXPECT_EQ(SePuedeFormatearReferenciaCatastralUrbana(q(c.entrada)), c.expandible)
@@ -60,6 +63,7 @@ TEST(ReferenciaRustica, ShapeLooksAtTheEndWhileTheFormatterTakesTheNextTwo) {
         {u"28079A", false, u"28079A"},
         {u"28079", false, u"28079"},
         {u"28079A-1001AB", false, u"28079A-1001AB"},
+        {u"28079A1001A\u00df", false, u"28079A1001A\u00df"},
         {u"", false, u""},
     };
     for (const auto& c : casos) {

@@ -55,9 +55,23 @@ TEST(TipoDeDocumento, LabelsOfCodes) {
 
 TEST(TipoDeDocumento, CodesOfLabelsKeepTheirCaseAsymmetry) {
     const std::pair<const char16_t*, int> casos[] = {
-        {u"N.I.F.", 1},    {u"NIF", 1},       {u"C.I.F.", 2},     {u" N.I.E. ", 3}, {u"N.I.E", 3},
-        {u"PASAPORTE", 4}, {u"pasaporte", 4}, {u"Pasa.porte", 4}, {u"n.i.f.", 5},   {u"nie", 5},
-        {u"DNI", 5},       {u"", 5},          {u"....", 5}};
+        {u"N.I.F.", 1},
+        {u"NIF", 1},
+        {u"C.I.F.", 2},
+        {u" N.I.E. ", 3},
+        {u"N.I.E", 3},
+        {u"PASAPORTE", 4},
+        {u"pasaporte", 4},
+        {u"Pasa.porte", 4},
+        {u"n.i.f.", 5},
+        {u"nie", 5},
+        {u"DNI", 5},
+        {u"", 5},
+        {u"....", 5},
+        // Blanks and control characters are trimmed; a no-break space is a character of the label.
+        {u"\tN.I.E.\r\n", 3},
+        {u"\u00a0NIF", 5},
+        {u"PASAPORTE\u00a0", 5}};
     for (const auto& [etiqueta, codigo] : casos)
         EXPECT_EQ(TipoDeDocumento(QString::fromUtf16(etiqueta)), codigo)
             << qPrintable(QString::fromUtf16(etiqueta));

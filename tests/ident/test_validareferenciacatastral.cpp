@@ -10,6 +10,7 @@
 #include "tests/support/oficina_prueba.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
@@ -72,6 +73,24 @@ TEST_F(DialogoRefCatastral, ShowsTheTrimmedReferenceAndAceptarHandsBackTheTypedO
     QTest::mouseClick(f.BBAceptar, Qt::LeftButton);
     EXPECT_EQ(f.result(), 1);
     EXPECT_EQ(Config.GetRefCatastralActual(), QStringLiteral("9872023VH5797S0001WX"));
+}
+
+TEST_F(DialogoRefCatastral, TypedLettersTurnUpperCaseOneForOne) {
+    const std::pair<const char16_t*, const char16_t*> casos[] = {
+        {u"9872023vh5797s0001wx", u"9872023VH5797S0001WX"},
+        {u"123\u00df\u00e1\u00f1", u"123\u00df\u00c1\u00d1"}, // "ß" stays one character
+        {u"1234567890123456789\u00df", u"1234567890123456789\u00df"},
+    };
+    for (const auto& [tecleado, mostrado] : casos) {
+        f.ERCRefCatastral->clear();
+        // Key by key as a keyboard sends them (QTest's key helpers take ASCII only).
+        for (const QChar c : QString::fromUtf16(tecleado)) {
+            QKeyEvent pulsada(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+            QApplication::sendEvent(f.ERCRefCatastral, &pulsada);
+        }
+        EXPECT_EQ(f.ERCRefCatastral->text(), QString::fromUtf16(mostrado))
+            << qPrintable(QString::fromUtf16(tecleado));
+    }
 }
 
 TEST_F(DialogoRefCatastral, CancelarAndEscapeHandBackTheOriginalWhateverWasValidated) {
