@@ -2,6 +2,7 @@
 
 #include "companion/config.h"
 #include "companion/registro.h"
+#include "text/recorte.h"
 
 #include <QEventLoop>
 #include <QNetworkAccessManager>
@@ -119,7 +120,7 @@ QByteArray PeticionSoapCatastro(const QString& referencia) {
         QStringLiteral("    <CodigoProvincia xmlns=\"%1\" />").arg(ns),
         QStringLiteral("    <CodigoMunicipio xmlns=\"%1\" />").arg(ns),
         QStringLiteral("    <CodigoMunicipioINE xmlns=\"%1\" />").arg(ns),
-        QStringLiteral("    <RefCat xmlns=\"%1\">%2</RefCat>").arg(ns, escapaXml(referencia.trimmed())),
+        QStringLiteral("    <RefCat xmlns=\"%1\">%2</RefCat>").arg(ns, escapaXml(Trim(referencia))),
         QStringLiteral("  </soap:Body>"),
         QStringLiteral("</soap:Envelope>"),
     };
@@ -144,10 +145,10 @@ bool LeeRespuestaCatastro(const QByteArray& respuesta, QString& provincia, QStri
     if (!datos) return false;
     const Nodo* loine = buscaEnDosFormas(datos, u"loine", u"LOINE");
     const Nodo* cp = loine ? buscaEnDosFormas(loine, u"cp", u"CP") : nullptr;
-    if (!cp || cp->textoCompleto().isEmpty()) return false;
+    if (!cp) return false;
     provincia = cp->textoCompleto();
     if (const Nodo* cmc = buscaEnDosFormas(datos, u"cmc", u"CMC")) municipio = cmc->textoCompleto();
-    return true;
+    return !provincia.isEmpty();
 }
 
 ConsultaCatastro ConsultaCodigosCatastro(const QString& referencia, const std::function<bool()>& cancelada) {

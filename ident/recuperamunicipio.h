@@ -46,8 +46,8 @@ QByteArray SoapActionConsultaCatastro();
 /// empty. The codes are found by child position: document, its second child (the envelope), then first,
 /// first, first, second, first and second children (the property's data), which must hold more than two
 /// children; in it "loine" (or "LOINE") with "cp" (or "CP") gives the province and "cmc" (or "CMC") the
-/// municipality. Without "cmc" only the province is filled; an empty "cp" counts as missing. Returns true
-/// when the province was found.
+/// municipality. Without "cmc" only the province is filled; an empty "cp" is read as it is (an empty
+/// province, the municipality still read). Returns true when a non-empty province was found.
 bool LeeRespuestaCatastro(const QByteArray& respuesta, QString& provincia, QString& municipio);
 
 /// Asks the cadastre for the codes of `referencia`, waiting in a local event loop (the screen keeps

@@ -94,6 +94,8 @@ TEST_F(RecuperaMunicipioTest, AnswersAndTheirCodes) {
          ResultadoCatastro::Encontrada, u"28", u""},
         {"no province", respuestaMadrid("<loine><cm>79</cm></loine><cmc>900</cmc><np>MADRID</np>"), 200,
          ResultadoCatastro::NoEncontrada, u"", u""},
+        {"empty province", respuestaMadrid("<loine><cp></cp></loine><cmc>900</cmc><np>MADRID</np>"), 200,
+         ResultadoCatastro::NoEncontrada, u"", u"900"},
         {"no loine", respuestaMadrid("<cmc>900</cmc><np>MADRID</np><nm>MADRID</nm>"), 200,
          ResultadoCatastro::NoEncontrada, u"", u""},
         {"data with two children only", respuestaMadrid("<loine><cp>28</cp></loine><cmc>900</cmc>"), 200,
@@ -115,7 +117,7 @@ TEST_F(RecuperaMunicipioTest, AnswersAndTheirCodes) {
         {"external entity",
          "<!DOCTYPE d [<!ENTITY x SYSTEM \"file:///etc/hostname\">]>" +
              respuestaMadrid().mid(40).replace("<cp>28", "<cp>&x;"),
-         200, ResultadoCatastro::NoEncontrada, u"", u""},
+         200, ResultadoCatastro::NoEncontrada, u"", u"900"}, // nothing read from outside: an empty province
         {"huge answer", QByteArray(3 << 20, ' ') + respuestaMadrid(), 200, ResultadoCatastro::SinConexion,
          u"", u""},
         {"deep nesting", QByteArray(100000, 'x').replace("x", "<a>"), 200, ResultadoCatastro::NoEncontrada,
