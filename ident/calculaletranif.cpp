@@ -178,7 +178,8 @@ void TFCalculaLetraNIF::muestraVeredicto(QLabel* etiqueta, bool correcto) {
 }
 
 void TFCalculaLetraNIF::Valida() {
-    if (PCIF->isVisible())
+    // The panel's own visibility flag, as the mode left it, whether or not the form is on screen.
+    if (!PCIF->isHidden())
         muestraVeredicto(LResultadoCIF_, EsUnCif(ECIF->text(), true));
     else
         muestraVeredicto(LResultadoNIE_, EsUnNie(ENIE->text(), true));

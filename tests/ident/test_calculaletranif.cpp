@@ -94,6 +94,26 @@ TEST_F(DialogoLetraNIF, VerdictsInTheirColoursAndTheSharedChangeHandler) {
     EXPECT_EQ(f.LResultadoNIE_->text(), QStringLiteral("Incorrecto"));
 }
 
+// The verdict goes by the mode chosen, also on a form that is not on screen yet (built and driven by a
+// program before showing it).
+TEST(CalculaLetraNIFSinMostrar, VerdictFollowsTheChosenMode) {
+    struct Caso {
+        bool cif;
+        const char* numero;
+    };
+    for (const Caso& c : {Caso{true, "B58818501"}, Caso{false, "X1234567L"}}) {
+        TFCalculaLetraNIF f;
+        (c.cif ? f.RBCIF : f.RBNIE)->setChecked(true);
+        (c.cif ? f.ECIF : f.ENIE)->setText(QString::fromLatin1(c.numero));
+        f.BBValidaCIF->click();
+        QLabel* esperado = c.cif ? f.LResultadoCIF_ : f.LResultadoNIE_;
+        QLabel* otro = c.cif ? f.LResultadoNIE_ : f.LResultadoCIF_;
+        EXPECT_FALSE(esperado->isHidden()) << c.numero;
+        EXPECT_EQ(esperado->text(), QStringLiteral("Correcto")) << c.numero;
+        EXPECT_EQ(otro->text(), QStringLiteral("Incorrecto")) << c.numero;
+    }
+}
+
 TEST(ICalculaLetraNif, SalirClosesTheModalDialog) {
     bool visto = false;
     prueba::AlAbrirseModal([&](QWidget* w) {
