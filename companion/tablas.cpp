@@ -418,8 +418,12 @@ void TTabla::SetFloat(const QString& campo, double valor) {
     if (def.tipo == 'L') return SetBoolean(campo, valor != 0);
     if (def.tipo != 'N' && def.tipo != 'F') return SetString(campo, QString::number(valor, 'f', -1));
     if (!std::isfinite(valor)) d->falla(QStringLiteral("valor no finito para el campo %1").arg(campo));
+    // A dBase numeric field is at most a few dozen characters wide: a figure that does not even fit this
+    // buffer cannot fit the field, and is reported the same way.
     char texto[64];
     const auto r = std::to_chars(texto, texto + sizeof texto, valor, std::chars_format::fixed, def.decimales);
+    if (r.ec != std::errc())
+        d->falla(QStringLiteral("el valor %1 no cabe en el campo %2").arg(valor, 0, 'g', 17).arg(campo));
     d->ponTexto(campo, QByteArrayView(texto, r.ptr - texto), true);
 }
 

@@ -170,6 +170,9 @@ TEST_F(Tablas, EditAndLastRowLock) {
     EXPECT_THROW(tb->SetString(QStringLiteral("NOMBRE"), QStringLiteral("ДОМ")), ErrorTabla)
         << "not in Windows-1252";
     EXPECT_THROW(tb->SetString(QStringLiteral("NOMBRE"), QString(21, QLatin1Char('X'))), ErrorTabla);
+    // Figures too wide for the field, down to ones too wide to write at all, are refused, never cut.
+    for (double enorme : {1e12, 1e100, 1e300, -1e300})
+        EXPECT_THROW(tb->SetFloat(QStringLiteral("IMPORTE"), enorme), ErrorTabla) << enorme;
     tb->SetString(QStringLiteral("NOMBRE"), QStringLiteral("NUEVO €"));
     tb->Post();
     EXPECT_EQ(TTabla::AbreRuta(ruta)->RecordCount(), 5);
