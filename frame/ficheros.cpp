@@ -41,7 +41,8 @@ void EliminaTablaTemporal(const QString& ruta) {
 }
 
 bool FicheroAbierto(const QString& nombre) {
-    if (nombre.isEmpty() || !QFileInfo::exists(nombre)) return false;
+    const QFileInfo info(nombre);
+    if (nombre.isEmpty() || !info.exists() || info.isDir()) return false; // a folder is no file
 #ifdef Q_OS_UNIX
     const int fd = ::open(QFile::encodeName(nombre).constData(), O_RDWR | O_CLOEXEC);
     if (fd < 0) return true; // the exclusive open failed, as on Windows

@@ -17,7 +17,8 @@ QString FicheroTemporalNod(const QString& prefijo);
 void EliminaTablaTemporal(const QString& ruta);
 
 /// True when the file exists and another process (another workstation of the office) holds it: an
-/// exclusive open is refused, or a lock of the table layer is held on it. Never raises.
+/// exclusive open is refused, or a lock of the table layer is held on it. A missing file or a folder
+/// gives false. Never raises.
 bool FicheroAbierto(const QString& nombre);
 
 /// The folder part of a file name, with its final separator ("\", "/" or the drive's ":"); empty when

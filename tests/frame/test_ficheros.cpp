@@ -46,6 +46,8 @@ TEST(Ficheros, FicheroAbierto) {
     QTemporaryDir dir;
     const QString nombre = dir.filePath(QStringLiteral("CLIENTES.DBF"));
     EXPECT_FALSE(FicheroAbierto(nombre)) << "missing file";
+    EXPECT_FALSE(FicheroAbierto(dir.path())) << "a folder is not a file";
+    EXPECT_FALSE(FicheroAbierto(QString())) << "no name";
     toca(nombre);
     EXPECT_FALSE(FicheroAbierto(nombre)) << "nobody holds it";
 
