@@ -40,6 +40,11 @@ Partes parte(double codigo, qint64 factor) {
     return {int(*entero / factor), int(*entero % factor)};
 }
 
+void reparte(Partes p, int& anno, int& numero) {
+    anno = p.anno;
+    numero = p.numero;
+}
+
 // The number part alone, which fits whatever the year is; 0 when the code fails.
 int resto(double codigo, qint64 factor) {
     const auto entero = trunca(codigo);
@@ -78,27 +83,19 @@ int EncodeCor(int anno, double numero) {
 }
 
 void DecodeCod4(int codigo, int& anno, int& numero) {
-    const Partes p = parte(codigo, 10000);
-    anno = p.anno;
-    numero = p.numero;
+    reparte(parte(codigo, 10000), anno, numero);
 }
 
 void DecodeCod(double codigo, int& anno, int& numero) {
-    const Partes p = parte(codigo, 100000);
-    anno = p.anno;
-    numero = p.numero;
+    reparte(parte(codigo, 100000), anno, numero);
 }
 
 void DecodeCod6(int codigo, int& anno, int& numero) {
-    const Partes p = parte(codigo, 1000000);
-    anno = p.anno;
-    numero = p.numero;
+    reparte(parte(codigo, 1000000), anno, numero);
 }
 
 void DecodeCor(int codigo, int& anno, int& numero) {
-    const Partes p = parte(codigo, 100000);
-    anno = p.anno;
-    numero = p.numero;
+    reparte(parte(codigo, 100000), anno, numero);
 }
 
 int CodToAno4(double codigo) {
