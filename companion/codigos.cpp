@@ -1,21 +1,14 @@
 #include "companion/codigos.h"
 
+#include "companion/rnumcad.h"
+
 #include <cmath>
 #include <limits>
 
 namespace nod {
 
 QString FormateaMiles(qint64 n) {
-    if (n == 0) return {};
-    // The magnitude as unsigned, so the most negative number needs no special case.
-    const quint64 magnitud = n < 0 ? quint64(0) - quint64(n) : quint64(n);
-    const QString digitos = QString::number(magnitud);
-    QString texto;
-    for (qsizetype i = 0; i < digitos.size(); ++i) {
-        if (i > 0 && (digitos.size() - i) % 3 == 0) texto += QLatin1Char('.');
-        texto += digitos[i];
-    }
-    return n < 0 ? QLatin1Char('-') + texto : texto;
+    return n == 0 ? QString() : AgrupaMiles(QString::number(n));
 }
 
 int EncodeCod(int anno, int numero) {

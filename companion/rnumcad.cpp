@@ -163,6 +163,19 @@ bool EsUnNumero(QChar c) {
     return c >= QLatin1Char('0') && c <= QLatin1Char('9');
 }
 
+QString AgrupaMiles(const QString& cifras) {
+    const qsizetype signo = cifras.startsWith(u'-') ? 1 : 0;
+    const qsizetype n = cifras.size() - signo;
+    QString r;
+    r.reserve(cifras.size() + n / 3);
+    if (signo) r += u'-';
+    for (qsizetype i = 0; i < n; ++i) {
+        if (i > 0 && (n - i) % 3 == 0) r += u'.';
+        r += cifras[signo + i];
+    }
+    return r;
+}
+
 bool EsUnNumero(const QString& s) {
     return !s.isEmpty() && std::all_of(s.begin(), s.end(), [](QChar c) { return EsUnNumero(c); });
 }

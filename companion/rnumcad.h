@@ -47,6 +47,10 @@ QString StrCeros(qint64 valor, int ancho);
 QString UpperCase(const QString& s);
 QString lowerCase(const QString& s);
 
+/// The digits of a whole number grouped by thousands with ".", a leading "-" kept outside the groups:
+/// AgrupaMiles("1234567") == "1.234.567", AgrupaMiles("-123456") == "-123.456".
+QString AgrupaMiles(const QString& cifras);
+
 /// True for the decimal digits "0" to "9" only.
 bool EsUnNumero(QChar c);
 /// True when `s` is not empty and every character of it is a decimal digit: EsUnNumero("0123") is true,

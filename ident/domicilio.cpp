@@ -14,19 +14,10 @@ namespace nod {
 
 namespace {
 
-// Digits grouped by thousands with ".", as the suite prints figures.
-QString agrupaMiles(QString digitos) {
-    const bool negativo = digitos.startsWith(QLatin1Char('-'));
-    if (negativo) digitos.remove(0, 1);
-    for (qsizetype p = digitos.size() - 3; p > 0; p -= 3)
-        digitos.insert(p, QLatin1Char('.'));
-    return negativo ? QLatin1Char('-') + digitos : digitos;
-}
-
 // A number with two decimals, "," decimal mark and "." thousands (the picture "0,.00").
 QString conDosDecimales(double v) {
     const qint64 centimos = qint64(std::llround(std::fabs(v) * 100));
-    const QString entera = agrupaMiles(QString::number(centimos / 100));
+    const QString entera = AgrupaMiles(QString::number(centimos / 100));
     return (v < 0 && centimos ? QStringLiteral("-") : QString()) + entera + QLatin1Char(',') +
            QStringLiteral("%1").arg(centimos % 100, 2, 10, QLatin1Char('0'));
 }
@@ -58,7 +49,7 @@ QString Planta(const QString& s) {
     qint64 n = 0;
     if (esEntero(u, n))
         return n == 0 ? QStringLiteral("planta baja")
-                      : QStringLiteral("planta ") + agrupaMiles(QString::number(n)) + QStringLiteral("ª");
+                      : QStringLiteral("planta ") + AgrupaMiles(QString::number(n)) + QStringLiteral("ª");
     return u;
 }
 

@@ -38,16 +38,6 @@ void anadeFigura(Texto& r, const Cifras& c, size_t decimales) {
 
 } // namespace
 
-QString AgrupaMiles(const QString& digitos) {
-    QString r;
-    r.reserve(digitos.size() + digitos.size() / 3);
-    for (qsizetype i = 0; i < digitos.size(); ++i) {
-        if (i > 0 && (digitos.size() - i) % 3 == 0) r += u'.';
-        r += digitos[i];
-    }
-    return r;
-}
-
 QString FormateaNumero(const QString& formato, double numero) {
     const QString modo = formato.left(2);
     const QChar genero = caracter(formato, 2), caso = caracter(formato, 3);

@@ -26,7 +26,4 @@ QString FormateaNumero(const QString& formato, double numero);
 /// As in `FormateaNumero`, a zero integer part prints nothing (0.5 gives ",50 €").
 QString FormateaCantidad(const QString& formato, double importe);
 
-/// The digits of a whole number grouped by thousands with ".": "1234567" -> "1.234.567".
-QString AgrupaMiles(const QString& digitos);
-
 } // namespace nod

@@ -2,7 +2,6 @@
 
 #include "companion/config.h"
 #include "companion/rnumcad.h"
-#include "text/formatos.h"
 #include "text/limpieza.h"
 
 #include <algorithm>
@@ -18,13 +17,6 @@ namespace {
 double cambio() {
     const double r = Config.GetPesetasPorEuro();
     return std::isfinite(r) && r > 0 ? r : 0.0;
-}
-
-// The integer form of PuntosNod: "." before every group of three digits counted from the right.
-QString agrupaEntero(QString s) {
-    const bool negativo = s.startsWith(u'-');
-    if (negativo) s.remove(0, 1);
-    return (negativo ? QStringLiteral("-") : QString()) + AgrupaMiles(s);
 }
 
 // Half up at `decimales` places, through the written digits of the fraction.
@@ -46,7 +38,7 @@ QString PesetasEurosNod(qint64 pesetas) {
     if (rate == 0) return {};
     QString entera, decimal;
     ParteEnteraDecimal(Float_Cad(RedondeaDec(double(pesetas) / rate, 2)), entera, decimal);
-    const QString texto = agrupaEntero(entera) + u',' + (decimal + QStringLiteral("00")).left(2);
+    const QString texto = AgrupaMiles(entera) + u',' + (decimal + QStringLiteral("00")).left(2);
     return texto == u"0,00" ? QString() : texto;
 }
 
@@ -67,19 +59,19 @@ qint64 EurosPesetasNod(double euros) {
 
 QString PuntosNod(const QString& numero, bool decimal) {
     const QString s = TrimTotal(numero);
-    if (!decimal) return agrupaEntero(s);
+    if (!decimal) return AgrupaMiles(s);
     // Each "." groups everything written before it and becomes ","; a well-formed figure has one.
     // Regrouping makes the text a third longer each time, so a text of many points would grow without
     // bound: once wider than any column it is no longer regrouped.
     QString r;
     for (QChar c : s) {
         if (c == u'.') {
-            if (r.size() <= kAnchoMaximoTexto) r = agrupaEntero(r);
+            if (r.size() <= kAnchoMaximoTexto) r = AgrupaMiles(r);
             r += u',';
         } else
             r += c;
     }
-    return r.contains(u',') ? r : agrupaEntero(r);
+    return r.contains(u',') ? r : AgrupaMiles(r);
 }
 
 } // namespace nod

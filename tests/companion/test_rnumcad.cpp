@@ -132,6 +132,19 @@ TEST(Rnumcad, Digits) {
         EXPECT_EQ(EsUnNumero(QString::fromLatin1(texto)), numero) << texto;
 }
 
+TEST(Rnumcad, AgrupaMilesKeepsTheSignOutsideTheGroups) {
+    const std::pair<const char*, const char*> casos[] = {{"1234567", "1.234.567"},
+                                                         {"-123456", "-123.456"},
+                                                         {"-1234", "-1.234"},
+                                                         {"999", "999"},
+                                                         {"1000", "1.000"},
+                                                         {"-1", "-1"},
+                                                         {"", ""},
+                                                         {"-", "-"}};
+    for (auto [cifras, agrupadas] : casos)
+        EXPECT_EQ(AgrupaMiles(QString::fromLatin1(cifras)), QString::fromLatin1(agrupadas)) << cifras;
+}
+
 TEST(Fechas, CompletaAnnoCentury) {
     const struct {
         const char* anno;
