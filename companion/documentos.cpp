@@ -1,5 +1,7 @@
 #include "companion/documentos.h"
 
+#include "companion/rnumcad.h"
+
 namespace nod {
 
 namespace {
@@ -7,18 +9,8 @@ namespace {
 constexpr QStringView kLetrasNIF = u"TRWAGMYFPDXBNJZSQVHLCKE";
 constexpr QStringView kLetrasControlCIF = u"JABCDEFGHI";
 
-bool esDigito(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
 bool esLetraAscii(QChar c) {
     return c >= u'A' && c <= u'Z';
-}
-
-bool sonDigitos(QStringView s) {
-    if (s.isEmpty()) return false;
-    for (QChar c : s)
-        if (!esDigito(c)) return false;
-    return true;
 }
 
 // The value of a run of at most 18 digits already checked with sonDigitos.
@@ -35,7 +27,7 @@ QString forma(const QString& s, bool normaliza) {
 
 // A letter followed by 7 digits and a last character, the common frame of CIF, NIE and K/L/M numbers.
 bool letraSieteDigitosYControl(QStringView t, QStringView letras) {
-    return t.size() == 9 && letras.contains(t[0]) && sonDigitos(t.mid(1, 7));
+    return t.size() == 9 && letras.contains(t[0]) && EsUnNumero(t.mid(1, 7));
 }
 
 } // namespace
@@ -55,7 +47,7 @@ QChar LetraNIF(qint64 numero) {
 
 bool EsNif(const QString& s, bool normaliza) {
     const QString t = forma(s, normaliza);
-    return t.size() == 9 && sonDigitos(QStringView(t).left(8)) &&
+    return t.size() == 9 && EsUnNumero(QStringView(t).left(8)) &&
            LetraNIF(valor(QStringView(t).left(8))) == t[8];
 }
 
@@ -67,7 +59,7 @@ bool EsUnNie(const QString& s, bool normaliza) {
 }
 
 int ControlCIF(QStringView digitos) {
-    if (digitos.size() != 7 || !sonDigitos(digitos)) return -1;
+    if (digitos.size() != 7 || !EsUnNumero(digitos)) return -1;
     int suma = 0;
     for (int i = 0; i < 7; ++i) {
         const int d = digitos[i].unicode() - u'0';
@@ -94,16 +86,16 @@ bool EsUnCif(const QString& s, bool normaliza) {
 int QueTipoDeDocumentoEs(const QString& s) {
     const QString t = PreparaCIFNIF(s);
     const QStringView v(t);
-    if (t.size() == 9 && sonDigitos(v.left(8)) && esLetraAscii(t[8])) return 1;
+    if (t.size() == 9 && EsUnNumero(v.left(8)) && esLetraAscii(t[8])) return 1;
     if (letraSieteDigitosYControl(t, u"KLM") && esLetraAscii(t[8])) return 1;
     if (letraSieteDigitosYControl(t, u"XYZ") && esLetraAscii(t[8])) return 3;
     if (letraSieteDigitosYControl(t, u"ABCDEFGHJNPQRSUVW") &&
-        (esDigito(t[8]) || kLetrasControlCIF.contains(t[8])))
+        (EsUnNumero(t[8]) || kLetrasControlCIF.contains(t[8])))
         return 2;
     bool algunDigito = false;
     for (QChar c : t) {
-        if (!esDigito(c) && !esLetraAscii(c)) return 5;
-        algunDigito = algunDigito || esDigito(c);
+        if (!EsUnNumero(c) && !esLetraAscii(c)) return 5;
+        algunDigito = algunDigito || EsUnNumero(c);
     }
     return algunDigito && t.size() >= 5 && t.size() <= 15 ? 4 : 5;
 }

@@ -176,7 +176,7 @@ QString AgrupaMiles(const QString& cifras) {
     return r;
 }
 
-bool EsUnNumero(const QString& s) {
+bool EsUnNumero(QStringView s) {
     return !s.isEmpty() && std::all_of(s.begin(), s.end(), [](QChar c) { return EsUnNumero(c); });
 }
 

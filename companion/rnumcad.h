@@ -55,7 +55,7 @@ QString AgrupaMiles(const QString& cifras);
 bool EsUnNumero(QChar c);
 /// True when `s` is not empty and every character of it is a decimal digit: EsUnNumero("0123") is true,
 /// EsUnNumero("12.3") and EsUnNumero("") are false.
-bool EsUnNumero(const QString& s);
+bool EsUnNumero(QStringView s);
 
 /// The decimal digits of `s`, in order, everything else dropped: DejaSoloNumeros("B-12.3") == "123".
 /// With `conSeparadores` the decimal and thousands marks "," and "." are kept too, for figures that

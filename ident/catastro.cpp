@@ -7,9 +7,6 @@ namespace nod {
 
 namespace {
 
-bool esDigito(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
 bool esLetra(QChar c) {
     return c >= u'A' && c <= u'Z';
 }
@@ -23,14 +20,14 @@ QString normaliza(const QString& s) {
 
 bool todoDigitosOLetras(const QString& t) {
     for (QChar c : t)
-        if (!esDigito(c) && !esLetra(c)) return false;
+        if (!EsUnNumero(c) && !esLetra(c)) return false;
     return !t.isEmpty();
 }
 
 // 1-based position of the first non-digit at or after `desde`; size + 1 when there is none.
 qsizetype primeraNoCifra(const QString& t, qsizetype desde) {
     qsizetype p = desde;
-    while (p <= t.size() && esDigito(t[p - 1]))
+    while (p <= t.size() && EsUnNumero(t[p - 1]))
         ++p;
     return p;
 }

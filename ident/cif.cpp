@@ -1,16 +1,11 @@
 #include "ident/cif.h"
 
 #include "companion/documentos.h"
+#include "companion/rnumcad.h"
 
 namespace nod {
 
 namespace {
-
-bool sonDigitos(QStringView s) {
-    for (QChar c : s)
-        if (c < u'0' || c > u'9') return false;
-    return true;
-}
 
 int digito(QChar c) {
     return c.unicode() - u'0';
@@ -58,7 +53,7 @@ bool EsCif(const QString& s) {
     if (t[0] >= u'0' && t[0] <= u'9') return EsNif(t, false);
     if (!QStringView(u"ABCDEFGHKLMNPQSX").contains(t[0])) return false;
     if (t[0] == u'X') return EsNif(u'0' + t.mid(1), false);
-    if (!sonDigitos(QStringView(t).mid(1, 7))) return false;
+    if (!EsUnNumero(QStringView(t).mid(1, 7))) return false;
     if (QStringView(u"MKLN").contains(t[0])) return true;
     return primeraComprobacion(t) || segundaComprobacion(t);
 }

@@ -85,8 +85,9 @@ void registraMonedaYConversiones(Rutinas& r) {
     r.agrega("StrCeros", &StrCeros);
     r.agrega("UpperCase", &UpperCase);
     r.agrega("lowerCase", &lowerCase);
-    r.agrega("EsUnNumero",
-             qOverload<const QString&>(&EsUnNumero)); // a one-character text is the character form
+    r.agrega(
+        "EsUnNumero",
+        +[](const QString& s) { return EsUnNumero(s); }); // a one-character text is the character form
     r.agrega("DejaSoloNumeros", &DejaSoloNumeros);
 }
 
