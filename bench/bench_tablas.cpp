@@ -2,9 +2,9 @@
 // routines do), and the client-code revision's core: scanning 1,000,000 records spread over tables, each
 // code looked up in a 100,000-record clients table.
 #include "companion/config.h"
-#include "companion/tablas.h"
 #include "ident/municipios.h"
 #include "ident/paises.h"
+#include "tables/tablas.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -3,7 +3,7 @@
 #include "companion/config.h"
 #include "companion/registro.h"
 #include "companion/rnumcad.h"
-#include "companion/tablas.h"
+#include "tables/tablas.h"
 #include "text/recorte.h"
 
 #include <QHash>

@@ -2,7 +2,7 @@
 
 #include "companion/config.h"
 #include "companion/registro.h"
-#include "companion/tablas.h"
+#include "tables/tablas.h"
 #include "text/recorte.h"
 
 namespace nod {

@@ -1,7 +1,7 @@
 #include "protocol/actuaciones.h"
 
 #include "companion/config.h"
-#include "companion/tablas.h"
+#include "tables/tablas.h"
 
 #include <QHash>
 

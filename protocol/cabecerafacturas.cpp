@@ -1,8 +1,8 @@
 #include "protocol/cabecerafacturas.h"
 
 #include "companion/config.h"
-#include "companion/tablas.h"
 #include "frame/notarios.h"
+#include "tables/tablas.h"
 
 #include <QList>
 #include <cmath>

@@ -1,6 +1,6 @@
 // A client's address on one line, over client rows written to a temporary table.
-#include "companion/tablas.h"
 #include "ident/domicilio.h"
+#include "tables/tablas.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

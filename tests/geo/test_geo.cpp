@@ -1,11 +1,11 @@
 // Geography and staff routines over the sample office's tables, and their defaults when a table is missing.
 #include "companion/config.h"
-#include "companion/tablas.h"
 #include "ident/colegios.h"
 #include "ident/domicilio.h"
 #include "ident/empleados.h"
 #include "ident/municipios.h"
 #include "ident/paises.h"
+#include "tables/tablas.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QDir>

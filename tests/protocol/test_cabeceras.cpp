@@ -1,8 +1,8 @@
 // Invoice headers in force by date, per notary, and the intervention descriptions of Tipo_Int.dbf.
 #include "companion/config.h"
-#include "companion/tablas.h"
 #include "protocol/actuaciones.h"
 #include "protocol/cabecerafacturas.h"
+#include "tables/tablas.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QDir>

@@ -20,8 +20,7 @@ void AlAbrirseModal(std::function<void(QWidget*)> accion, int plazoMs) {
             // Keys go to the focused control only once the dialog's window is active; on a loaded machine
             // that can come a little after the dialog appears.
             w->activateWindow();
-            if (!QTest::qWaitForWindowActive(w))
-                qWarning("the modal dialog never became the active window");
+            if (!QTest::qWaitForWindowActive(w)) qWarning("the modal dialog never became the active window");
             accion(w);
         } else if (reloj->elapsed() > plazoMs) {
             timer->stop();

@@ -1,7 +1,7 @@
 // Damaged table files: every one gives ErrorTabla naming the file, or opens; none crashes or reads past the
 // bytes (this suite also runs under AddressSanitizer).
-#include "companion/dbfdatos.h"
-#include "companion/tablas.h"
+#include "tables/dbfdatos.h"
+#include "tables/tablas.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // The table layer over real dBase files: writing and reading back (also through an independent reader),
 // searches, ranges, filters, deletion, packing, and two processes appending at once.
-#include "companion/tablas.h"
+#include "tables/tablas.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QDir>

@@ -8,8 +8,8 @@
 // field whose text does not parse raises ErrorTabla naming the file, the record and the field.
 
 #include "companion/codepage.h"
-#include "companion/dbfbloqueo.h"
-#include "companion/tablas.h"
+#include "tables/dbfbloqueo.h"
+#include "tables/tablas.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -39,7 +39,7 @@ struct OrdenIndice {
     std::vector<double> claves; // first key field's value per position (numeric first field only)
 };
 
-class FiltroTabla; // a compiled filter expression (companion/tablafiltro.h)
+class FiltroTabla; // a compiled filter expression (tables/tablafiltro.h)
 
 class DatosDbf {
 public:
@@ -88,11 +88,11 @@ public:
     const OrdenIndice& orden(const std::vector<int>& campos) const;
     /// The live records in physical order.
     const OrdenIndice& ordenFisico() const { return orden({}); }
-    /// The order of index tag `etiqueta` of this table (companion/catalogoindices.h), remembered by tag
+    /// The order of index tag `etiqueta` of this table (tables/catalogoindices.h), remembered by tag
     /// name so that reopening on the same tag costs one lookup. Throws ErrorTabla for a tag the catalog
     /// does not know for this table or whose fields the table lacks.
     const OrdenIndice& ordenDeEtiqueta(const QString& etiqueta) const;
-    /// The compiled filter `texto` (companion/tablafiltro.h), remembered by its text. Throws ErrorTabla.
+    /// The compiled filter `texto` (tables/tablafiltro.h), remembered by its text. Throws ErrorTabla.
     std::shared_ptr<const FiltroTabla> filtro(const QString& texto) const;
 
     [[noreturn]] void falla(int fila, int campo, const QString& motivo) const;

@@ -1,4 +1,4 @@
-#include "companion/dbfbloqueo.h"
+#include "tables/dbfbloqueo.h"
 
 #include "companion/config.h"
 #include "companion/errores.h"

@@ -3,7 +3,7 @@
 // fields compare as their bytes in the table's code page without trailing blanks (the machine order of a
 // dBase index without collation); numeric, float, date and logical fields compare as numbers.
 
-#include "companion/dbfdatos.h"
+#include "tables/dbfdatos.h"
 
 #include <QVariant>
 

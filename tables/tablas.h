@@ -10,7 +10,7 @@
 // Files are real dBase III/IV tables (.dbf, with a .dbt beside it for memo fields) in the code page their
 // header names (Windows-1252 when it names none; a ".cpg" file beside the table overrides the header).
 // Index tags are not .mdx files: every tag is a key expression over the table's fields, kept in one catalog
-// (companion/catalogoindices.h). The order of a tag is built in memory the first time it is used and
+// (tables/catalogoindices.h). The order of a tag is built in memory the first time it is used and
 // reused, shared by every handle of the process, while the file keeps the same identity, size and
 // modification time; opening a table per call therefore costs a few microseconds once it is warm.
 //
@@ -53,7 +53,7 @@ struct TCampoDbf {
 using TValorClave = std::pair<QString, QVariant>;
 using TClaves = QList<TValorClave>;
 
-class DatosDbf; // the loaded, shared image of a file (companion/dbfdatos.h)
+class DatosDbf; // the loaded, shared image of a file (tables/dbfdatos.h)
 
 /// An open table: a cursor over the visible rows (those not deleted, inside the range, passing the
 /// filter) in the order of the current index tag (physical order when there is none).

@@ -1,4 +1,4 @@
-#include "companion/tablafiltro.h"
+#include "tables/tablafiltro.h"
 
 #include <vector>
 

@@ -8,7 +8,7 @@
 // orders by that field alone: most of the suite's tags ("CODIGO", "CODCLIENTE", "FECHA_ENT", "EQUIPO" ...)
 // are of that kind, so only the others are listed.
 
-#include "companion/tablas.h"
+#include "tables/tablas.h"
 
 #include <QStringList>
 #include <optional>

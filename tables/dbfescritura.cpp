@@ -1,7 +1,7 @@
-#include "companion/dbfescritura.h"
+#include "tables/dbfescritura.h"
 
-#include "companion/dbfdatos.h"
 #include "companion/hoy.h"
+#include "tables/dbfdatos.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
-#include "companion/dbfclaves.h"
+#include "tables/dbfclaves.h"
 
-#include "companion/catalogoindices.h"
+#include "tables/catalogoindices.h"
 
 #include <QDate>
 #include <QDateTime>

@@ -4,9 +4,9 @@
 // A comparison is FIELD op value, op one of = <> != < > <= >=; a value is a quoted text ('...' or "...",
 // a doubled quote inside stands for itself), a number or True/False (any case). Comparisons join with
 // AND, OR, NOT and parentheses; AND binds tighter than OR. A value compares by the field's type, as keys
-// do (companion/dbfclaves.h): '2' against a numeric field is the number 2.
+// do (tables/dbfclaves.h): '2' against a numeric field is the number 2.
 
-#include "companion/dbfclaves.h"
+#include "tables/dbfclaves.h"
 
 #include <memory>
 

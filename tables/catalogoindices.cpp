@@ -1,4 +1,4 @@
-#include "companion/catalogoindices.h"
+#include "tables/catalogoindices.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
-#include "companion/dbfdatos.h"
+#include "tables/dbfdatos.h"
 
-#include "companion/dbfbloqueo.h"
 #include "companion/registro.h"
+#include "tables/dbfbloqueo.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,11 +1,11 @@
 #pragma once
 // Every change to a table file goes through here and through shapelib's DBF API: appending or rewriting
 // a record, marking one deleted, packing, creating an empty table. Each change holds the table's write
-// lock (companion/dbfbloqueo.h) from before shapelib reads the header until the header is written back,
+// lock (tables/dbfbloqueo.h) from before shapelib reads the header until the header is written back,
 // so the record count it appends after is the one on disk at that moment, whoever wrote last.
 
-#include "companion/dbfbloqueo.h"
-#include "companion/tablas.h"
+#include "tables/dbfbloqueo.h"
+#include "tables/tablas.h"
 
 #include <QByteArray>
 
