@@ -172,8 +172,8 @@ json Atiende(const json& peticion, const Rutinas& rutinas) {
     return respuesta;
 }
 
-json AtiendeLinea(const std::string& linea, long numeroLinea, const Rutinas& rutinas) {
-    json peticion = json::parse(linea, nullptr, false);
+json AtiendeLinea(std::string_view linea, long numeroLinea, const Rutinas& rutinas) {
+    json peticion = json::parse(std::string(linea), nullptr, false);
     if (peticion.is_discarded()) return error("line " + std::to_string(numeroLinea) + ": not valid JSON");
     return Atiende(peticion, rutinas);
 }

@@ -12,14 +12,20 @@
 
 #include <iosfwd>
 #include <string>
+#include <string_view>
 
 namespace nod::lote {
+
+/// The longest request line read, in bytes without the line end; a longer one is refused.
+inline constexpr std::size_t kLineaMaxima = 1 << 20;
+/// The deepest nesting of arrays and objects a request may have, the request object included.
+inline constexpr int kAnidamientoMaximo = 64;
 
 /// Runs one request; never throws.
 json Atiende(const json& peticion, const Rutinas& rutinas = TodasLasRutinas());
 
 /// Parses and runs one line; a line that is not JSON gives an error response naming the line number.
-json AtiendeLinea(const std::string& linea, long numeroLinea, const Rutinas& rutinas = TodasLasRutinas());
+json AtiendeLinea(std::string_view linea, long numeroLinea, const Rutinas& rutinas = TodasLasRutinas());
 
 /// Reads requests until the end of `entrada`, writing one response line per request.
 /// Blank lines are skipped. Output is flushed whenever no more input is waiting.
