@@ -238,14 +238,31 @@ const json* miembro(const json& objeto, const char* nombre) {
     return it == objeto.end() ? nullptr : &*it;
 }
 
-// Thrown by the parser's callback at a container nested deeper than the limit, before it is built.
-struct DemasiadoAnidada {};
-
-bool limitaAnidamiento(int profundidad, json::parse_event_t evento, json&) {
-    if ((evento == json::parse_event_t::object_start || evento == json::parse_event_t::array_start) &&
-        profundidad >= kAnidamientoMaximo)
-        throw DemasiadoAnidada{};
-    return true;
+// Whether a JSON text nests arrays and objects deeper than `limite`, counted before it is parsed so that
+// nothing deeper is ever built (copying or printing a value recurses). Brackets inside strings do not
+// count; up to the first error, which ends the parse, the count is the parser's own. The parser's callback
+// could stop it too, but the callback parser's handling of objects costs time proportional to the size of
+// their parent.
+bool anidaMasDe(std::string_view texto, int limite) {
+    int profundidad = 0;
+    bool enTexto = false, escapado = false;
+    for (const char c : texto) {
+        if (enTexto) {
+            if (escapado)
+                escapado = false;
+            else if (c == '\\')
+                escapado = true;
+            else if (c == '"')
+                enTexto = false;
+        } else if (c == '"') {
+            enTexto = true;
+        } else if (c == '[' || c == '{') {
+            if (++profundidad > limite) return true;
+        } else if (c == ']' || c == '}') {
+            --profundidad;
+        }
+    }
+    return false;
 }
 
 // The parser's reason without its "last read" echo of the input, which may be as long as the line.
@@ -334,14 +351,14 @@ json AtiendeLinea(std::string_view linea, long numeroLinea, const Rutinas& rutin
     // The parser takes a NUL byte for the end of the text; in JSON it is never valid, even in a string.
     if (const auto nul = linea.find('\0'); nul != std::string_view::npos)
         return error(donde() + "not valid JSON at byte offset " + std::to_string(nul) + " (a NUL byte)");
+    if (anidaMasDe(linea, kAnidamientoMaximo))
+        return error(donde() + "nested deeper than " + std::to_string(kAnidamientoMaximo) + " levels");
     json peticion;
     try {
-        peticion = json::parse(linea.begin(), linea.end(), limitaAnidamiento);
+        peticion = json::parse(linea.begin(), linea.end());
     } catch (const json::parse_error& e) {
         return error(donde() + "not valid JSON at byte offset " +
                      std::to_string(e.byte > 0 ? e.byte - 1 : 0) + " (" + motivo(e) + ")");
-    } catch (const DemasiadoAnidada&) {
-        return error(donde() + "nested deeper than " + std::to_string(kAnidamientoMaximo) + " levels");
     }
     return Atiende(peticion, rutinas);
 }
