@@ -3,6 +3,10 @@
 #include "companion/registro.h"
 #include "tests/support/oficina_prueba.h"
 
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -307,4 +311,27 @@ TEST(Lote, WarningsLoggedWhileARequestRunsAreReportedWithIt) {
     ASSERT_EQ(r.size(), 2u);
     EXPECT_EQ(r[0].value("warnings", json()), json::array({"La tabla X.DBF está dañada"}));
     EXPECT_FALSE(r[1].contains("warnings")) << "no warning, no list; information lines are not warnings";
+}
+
+TEST(Lote, DamagedTableIsToldApartFromNotFoundByTheWarnings) {
+    OficinaPrueba o;
+    const QDir muestra(prueba::OficinaMuestra());
+    for (QDirIterator it(muestra.path(), QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+        const QString destino = o.ruta(muestra.relativeFilePath(it.next()));
+        QDir().mkpath(QFileInfo(destino).absolutePath());
+        QFile::remove(destino);
+        ASSERT_TRUE(QFile::copy(it.filePath(), destino));
+    }
+    o.recarga();
+    const char* peticion = R"({"fn":"BusquedaMunicipio","args":["28","999"]})";
+    const json noEsta = AtiendeLinea(peticion, 1);
+    EXPECT_EQ(noEsta["result"], "");
+    EXPECT_FALSE(noEsta.contains("warnings")) << noEsta.dump();
+
+    QFile municipios(o.ruta(QStringLiteral("DATOS/MUNICIPI.DBF")));
+    ASSERT_TRUE(municipios.resize(5000));
+    const json danada = AtiendeLinea(peticion, 2);
+    EXPECT_EQ(danada["result"], "");
+    ASSERT_EQ(danada.value("warnings", json()).size(), 1u) << danada.dump();
+    EXPECT_NE(danada["warnings"][0].get<std::string>().find("MUNICIPI.DBF"), std::string::npos);
 }
