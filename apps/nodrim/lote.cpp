@@ -359,6 +359,9 @@ json AtiendeLinea(std::string_view linea, long numeroLinea, const Rutinas& rutin
     } catch (const json::parse_error& e) {
         return error(donde() + "not valid JSON at byte offset " +
                      std::to_string(e.byte > 0 ? e.byte - 1 : 0) + " (" + motivo(e) + ")");
+    } catch (const json::exception& e) { // a number beyond a double, such as 1e999
+        const std::string_view m = e.what();
+        return error(donde() + "not valid JSON (" + recorta(m.substr(m.find("] ") + 2), 120) + ")");
     }
     return Atiende(peticion, rutinas);
 }

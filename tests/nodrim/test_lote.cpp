@@ -292,6 +292,7 @@ TEST(Lote, LenientDetailsAreRefused) {
         {R"({"fn":"doble","args":["a"],"today":"2024-02-30"})", "YYYY-MM-DD"},
         {R"({"fn":"doble","args":["a"],"today":"2024-02-29"})", ""},
         {R"({"fn":"doble","args":["a"]} x)", "not valid JSON at byte offset 28"},
+        {R"({"fn":"mitad","args":[1e999]})", "line 1: not valid JSON (number overflow parsing '1e999')"},
         {R"({"fn":"doble","args":["a"])", "not valid JSON at byte offset 26"},
     };
     for (const auto& c : casos) {
