@@ -7,6 +7,7 @@
 #include "tables/tabla_p.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace nod {
@@ -180,7 +181,8 @@ std::unique_ptr<TTabla> CreaTabla(const QString& alias, const QString& fichero, 
     // The name as given first: one stat() when the table is warm; the folder is listed only when the file
     // has another case on disk, or is missing.
     const QString directa = rutaDirecta(carpeta, fichero);
-    if (auto datos = DatosDbf::CargaSiExiste(directa)) return TTabla::Abre(directa, std::move(datos), indice);
+    if (auto datos = DatosDbf::CargaSiExiste(directa, QFile::encodeName(directa)))
+        return TTabla::Abre(directa, std::move(datos), indice);
     const QString ruta = resuelveFichero(carpeta, fichero);
     return TTabla::Abre(ruta, DatosDbf::Carga(ruta), indice);
 }
