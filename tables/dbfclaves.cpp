@@ -25,10 +25,13 @@ ValorPreparado numeroDe(const QVariant& valor, char tipo) {
         v.numero = valor.toBool() ? 1 : 0;
         break;
     case QMetaType::QString: {
-        const QString t = valor.toString().trimmed().toUpper();
-        if (tipo == 'L' && (t == QLatin1String("T") || t == QLatin1String("TRUE")))
+        const QString t = valor.toString().trimmed();
+        const auto es = [&t](const char* palabra) {
+            return t.compare(QLatin1String(palabra), Qt::CaseInsensitive) == 0;
+        };
+        if (tipo == 'L' && (es("T") || es("TRUE")))
             v.numero = 1;
-        else if (tipo == 'L' && (t == QLatin1String("F") || t == QLatin1String("FALSE")))
+        else if (tipo == 'L' && (es("F") || es("FALSE")))
             v.numero = 0;
         else if (!LeeNumeroDbf(t.toLatin1(), v.numero))
             return v; // a text that is no number matches no row

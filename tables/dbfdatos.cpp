@@ -391,6 +391,9 @@ void DatosDbf::OlvidaTodo() {
 }
 
 int DatosDbf::indiceCampo(const QString& nombre) const {
+    // Routines write field names as the header has them (upper case): an exact match is tried first.
+    for (int i = 0; i < m_campos.size(); ++i)
+        if (m_campos[i].nombre == nombre) return i;
     for (int i = 0; i < m_campos.size(); ++i)
         if (m_campos[i].nombre.compare(nombre, Qt::CaseInsensitive) == 0) return i;
     return -1;

@@ -51,6 +51,7 @@ struct TTabla::Impl {
 
     ClavesPreparadas prepara(const TClaves& claves) const {
         ClavesPreparadas r;
+        r.reserve(size_t(claves.size()));
         for (const auto& [nombre, valor] : claves) {
             const int c = campo(nombre);
             r.emplace_back(c, PreparaValor(*datos, c, valor));
@@ -81,6 +82,7 @@ struct TTabla::Impl {
     ClavesPreparadas comoPrefijo(const ClavesPreparadas& claves) const {
         if (claves.empty() || claves.size() > orden->campos.size()) return {};
         ClavesPreparadas r;
+        r.reserve(claves.size());
         for (size_t i = 0; i < claves.size(); ++i) {
             const auto it = std::find_if(claves.begin(), claves.end(),
                                          [&](const auto& k) { return k.first == orden->campos[i]; });
