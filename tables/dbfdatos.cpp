@@ -35,12 +35,6 @@ bool esBlanco(char c) {
     return c == ' ' || c == '\0';
 }
 
-QByteArrayView sinBlancosFinales(const char* p, int n) {
-    while (n > 0 && esBlanco(p[n - 1]))
-        --n;
-    return QByteArrayView(p, n);
-}
-
 // dBase language driver ids (header byte 29) of the pages the office meets.
 CodePage paginaDeLdid(quint8 ldid) {
     switch (ldid) {
@@ -262,6 +256,7 @@ void DatosDbf::analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero, bool
                             .arg(campo.longitud));
         m_campos.append(campo);
         m_desplazamientos.push_back(desplazamiento);
+        m_longitudes.push_back(campo.longitud);
         desplazamiento += campo.longitud;
     }
     if (pos >= m_longitudCabecera)
@@ -405,10 +400,6 @@ void DatosDbf::falla(int fila, int campo, const QString& motivo) const {
                          .arg(fila + 1)
                          .arg(campo >= 0 && campo < m_campos.size() ? m_campos[campo].nombre : QString())
                          .arg(motivo));
-}
-
-QByteArrayView DatosDbf::crudo(int fila, int campo) const {
-    return sinBlancosFinales(registro(fila) + m_desplazamientos[size_t(campo)], m_campos[campo].longitud);
 }
 
 bool DatosDbf::blanco(int fila, int campo) const {

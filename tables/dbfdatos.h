@@ -86,8 +86,15 @@ public:
     bool logico(int fila, int campo) const;
     TDateTime fecha(int fila, int campo) const;
     bool blanco(int fila, int campo) const;
-    /// A field's raw bytes without trailing blanks.
-    QByteArrayView crudo(int fila, int campo) const;
+    /// A field's raw bytes without trailing blanks (blank or NUL). Inline: index searches call it for
+    /// every key they compare.
+    QByteArrayView crudo(int fila, int campo) const {
+        const char* p = registro(fila) + m_desplazamientos[size_t(campo)];
+        int n = m_longitudes[size_t(campo)];
+        while (n > 0 && (p[n - 1] == ' ' || p[n - 1] == '\0'))
+            --n;
+        return QByteArrayView(p, n);
+    }
 
     /// The order of a tag given by its key fields; built on first use and kept with the image.
     const OrdenIndice& orden(const std::vector<int>& campos) const;
@@ -116,6 +123,7 @@ private:
     CodePage m_cp = CodePage::Windows1252;
     QList<TCampoDbf> m_campos;
     std::vector<int> m_desplazamientos;
+    std::vector<int> m_longitudes; // the fields' widths, beside their offsets
     int m_longitudRegistro = 0;
     int m_longitudCabecera = 0;
     int m_numRegistros = 0;
