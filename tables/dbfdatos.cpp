@@ -133,7 +133,8 @@ QByteArray leeTabla(int fd, qint64 tamano, const QString& ruta) {
     if (aLeer == 32) {
         const qint64 cabecera = le16(h + 8);
         const qint64 declarado = cabecera + qint64(le32(h + 4)) * le16(h + 10);
-        aLeer = tamano == declarado || tamano == declarado + 1 ? tamano : qMin(tamano, cabecera);
+        aLeer = tamano == declarado || tamano == declarado + 1 ? tamano
+                                                               : qMin(tamano, qMax<qint64>(cabecera, 33));
     }
     QByteArray b(aLeer, Qt::Uninitialized);
     b.truncate(leeEn(fd, b.data(), aLeer, 0, ruta));
