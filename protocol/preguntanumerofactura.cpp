@@ -4,6 +4,7 @@
 #include "companion/fechas.h"
 #include "companion/foco.h"
 #include "companion/hoy.h"
+#include "companion/modal.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -221,7 +222,7 @@ bool PreguntaNumeroFacturaForm(QString& serie, int& ano, int& numero, QString& b
     FPreguntaNumeroFactura = &f;
     if (!titulo.isEmpty()) f.setWindowTitle(titulo);
     f.PonValores(serie, ano, numero, bis);
-    const bool aceptada = f.exec() == 1;
+    const bool aceptada = EjecutaModal(f) == 1;
     FPreguntaNumeroFactura = nullptr;
     if (!aceptada) return false;
     serie = f.Serie();
