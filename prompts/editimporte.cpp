@@ -26,13 +26,14 @@ bool separa(const QString& texto, int decimales, bool completa, QString& entera,
         grupos = t.left(coma);
         if (fraccion.contains(QLatin1Char('.')) || fraccion.size() > decimales) return false;
     } else if (t.count(QLatin1Char('.')) == 1) {
-        // A lone point with one or two digits after it ends the figure: the decimal mark.
-        const int punto = t.indexOf(QLatin1Char('.'));
+        // A lone point with one or two digits after it ends the figure: the decimal mark. While the
+        // clerk types, the point alone may be on its way there.
+        const int punto = int(t.indexOf(QLatin1Char('.')));
         const int detras = int(t.size()) - punto - 1;
-        if (decimales > 0 && detras >= 1 && detras <= std::min(decimales, 2)) {
+        if (decimales > 0 && detras <= std::min(decimales, 2) && (detras >= 1 || !completa)) {
             entera = t.left(punto);
             fraccion = t.mid(punto + 1);
-            return completa ? !entera.isEmpty() : true;
+            return entera.size() <= 15 && (completa ? !entera.isEmpty() : true);
         }
     }
     const QStringList partes = grupos.split(QLatin1Char('.'));

@@ -37,23 +37,10 @@ QWidget* TFPreguntaDatos::construyeBalanMensaEspecial() {
         NuevoPanel(this, "pnlBalanMensaEspecial", {}, QStringLiteral("BalanMensaEspecial"));
     QWidget* p = pnlBalanMensaEspecial;
     seAno3 = Ano(p, "seAno3", 2000);
-    eIVA2 = Edit(p, "eIVA2", 4);
+    // Two figures and two decimals, kept by the rate's own key rule (Configura), so "21,00" shows whole.
+    eIVA2 = Edit(p, "eIVA2", 0);
+    eIVA2->setFixedWidth(eIVA2->fontMetrics().horizontalAdvance(QStringLiteral("00,000")) + 12);
     eIVA2->setAlignment(Qt::AlignRight);
-    gbPorFecha = Grupo(p, "gbPorFecha", QStringLiteral(" Por fecha de: "));
-    rbDevengo = Radio(gbPorFecha, "rbDevengo", QStringLiteral("Devengo"), true);
-    rbCobro = Radio(gbPorFecha, "rbCobro", QStringLiteral("Cobro"));
-    Filas(gbPorFecha).juntos({rbDevengo, rbCobro});
-    cbSuplidos = Casilla(p, "cbSuplidos", QStringLiteral("Incluye suplidos"));
-
-    QGroupBox* series = Grupo(p, "gbSeriesBalance", {});
-    cbSerieA3 = Casilla(series, "cbSerieA3", QStringLiteral("Serie A, Escrituras"), true);
-    cbSerieB3 = Casilla(series, "cbSerieB3", QStringLiteral("Serie B, Protestos"), true);
-    cbSerieC3 = Casilla(series, "cbSerieC3", QStringLiteral("Serie C, Copias, Legitimaciones"), true);
-    cbSerieD3 = Casilla(series, "cbSerieD3", QStringLiteral("Serie D, Gestión (opcional)"));
-    cbSerieE3 = Casilla(series, "cbSerieE3", QStringLiteral("Serie E, Pólizas (sección A)"), true);
-    cbSerieF3 = Casilla(series, "cbSerieF3", QStringLiteral("Serie F, Pólizas (sección B)"), true);
-    EnColumna(series, {cbSerieA3, cbSerieB3, cbSerieC3, cbSerieD3, cbSerieE3, cbSerieF3});
-
     gbBalanMensualCobroMes = Grupo(p, "gbBalanMensualCobroMes", QStringLiteral("Balance de facturas de:"));
     cbMes16 = ListaMeses(gbBalanMensualCobroMes, "cbMes16");
     seAno16 = Ano(gbBalanMensualCobroMes, "seAno16", 2000);
@@ -76,6 +63,21 @@ QWidget* TFPreguntaDatos::construyeBalanMensaEspecial() {
         g->setEnabled(false);
     }
 
+    gbPorFecha = Grupo(p, "gbPorFecha", QStringLiteral(" Por fecha de: "));
+    rbDevengo = Radio(gbPorFecha, "rbDevengo", QStringLiteral("Devengo"), true);
+    rbCobro = Radio(gbPorFecha, "rbCobro", QStringLiteral("Cobro"));
+    Filas(gbPorFecha).juntos({rbDevengo, rbCobro});
+    cbSuplidos = Casilla(p, "cbSuplidos", QStringLiteral("Incluye suplidos"));
+
+    QGroupBox* series = Grupo(p, "gbSeriesBalance", {});
+    cbSerieA3 = Casilla(series, "cbSerieA3", QStringLiteral("Serie A, Escrituras"), true);
+    cbSerieB3 = Casilla(series, "cbSerieB3", QStringLiteral("Serie B, Protestos"), true);
+    cbSerieC3 = Casilla(series, "cbSerieC3", QStringLiteral("Serie C, Copias, Legitimaciones"), true);
+    cbSerieD3 = Casilla(series, "cbSerieD3", QStringLiteral("Serie D, Gestión (opcional)"));
+    cbSerieE3 = Casilla(series, "cbSerieE3", QStringLiteral("Serie E, Pólizas (sección A)"), true);
+    cbSerieF3 = Casilla(series, "cbSerieF3", QStringLiteral("Serie F, Pólizas (sección B)"), true);
+    EnColumna(series, {cbSerieA3, cbSerieB3, cbSerieC3, cbSerieD3, cbSerieE3, cbSerieF3});
+
     Filas filas(p);
     lblAno3 = filas.fila(QStringLiteral("Año:"), seAno3, {}, "lblAno3");
     lblIVA2 = Etiqueta(p, QStringLiteral("Tipo de IVA:"), eIVA2, "lblIVA2");
@@ -86,7 +88,6 @@ QWidget* TFPreguntaDatos::construyeBalanMensaEspecial() {
     filas.ocupa(gbPorFecha);
     filas.ocupa(cbSuplidos);
     filas.ocupa(series);
-    connect(cbMes16, &QComboBox::currentIndexChanged, this, &TFPreguntaDatos::gbBalanMensualCobroMesExit);
     return p;
 }
 

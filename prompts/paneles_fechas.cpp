@@ -219,8 +219,8 @@ QWidget* TFPreguntaDatos::construyeFechaDesdeHasta2() {
 QWidget* TFPreguntaDatos::construyeNumeroAno() {
     pnlNumeroAno = NuevoPanel(this, "pnlNumeroAno", QStringLiteral("Indique el número y el año."),
                               QStringLiteral("NumeroAño"));
-    seAno7 = Ano(pnlNumeroAno, "seAno7", 2000);
     seNumero2 = Numero(pnlNumeroAno, "seNumero2");
+    seAno7 = Ano(pnlNumeroAno, "seAno7", 2000);
     Filas filas(pnlNumeroAno);
     filas.fila(QStringLiteral("Número: "), seNumero2);
     filas.fila(kAno, seAno7);

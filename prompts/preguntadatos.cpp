@@ -23,6 +23,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
@@ -156,7 +157,10 @@ TFPreguntaDatos::TFPreguntaDatos(QWidget* owner, const QString& tipo)
     AjustaTamano();
 }
 
-TFPreguntaDatos::~TFPreguntaDatos() = default;
+TFPreguntaDatos::~TFPreguntaDatos() {
+    // Focus moves while the controls are destroyed; the form no longer answers it.
+    disconnect(m_salidaGrupo);
+}
 
 void TFPreguntaDatos::ActivaPanel() {
     const Panel* p = buscaPanel(m_tipo);
@@ -172,6 +176,13 @@ void TFPreguntaDatos::ActivaPanel() {
     if (m_tipo == u"FechaDesdeHastaCorretaje") gbCorretaje->show();
 
     vigila(m_panelActivo);
+    if (gbBalanMensualCobroMes)
+        m_salidaGrupo =
+            connect(qApp, &QApplication::focusChanged, this, [this](QWidget* antes, QWidget* ahora) {
+                if (gbBalanMensualCobroMes->isAncestorOf(antes) &&
+                    !gbBalanMensualCobroMes->isAncestorOf(ahora))
+                    gbBalanMensualCobroMesExit();
+            });
     m_panelActivo->show();
     setWindowTitle(m_panelActivo->property(pregunta::kHint).toString());
     AjustaTamano();
@@ -191,6 +202,10 @@ void TFPreguntaDatos::AjustaTamano() {
     p->setMinimumWidth(2 * anchoBoton + kMargen);
     p->adjustSize();
     p->move(kMargen, kMargen);
+    // Every group laid out now, not on the next turn of the event loop: the form is read and answered
+    // as soon as it is shown.
+    for (QLayout* capa : p->findChildren<QLayout*>())
+        capa->activate();
     const int alto = p->y() + 16 + p->height() + 7 + altoBoton + p->y() + 7;
     const int ancho = p->width() + 2 * p->x() + 7;
     setFixedSize(ancho, alto);
@@ -212,7 +227,7 @@ namespace {
 // A control the clerk moves to: not a label, not the inner edit of a spin edit or a list (their owner
 // takes the focus for them).
 bool esControl(const QWidget* w) {
-    return w->focusPolicy() != Qt::NoFocus && !w->focusProxy() &&
+    return !w->isWindow() && w->focusPolicy() != Qt::NoFocus && !w->focusProxy() &&
            !qobject_cast<const QAbstractSpinBox*>(w->parent()) &&
            !qobject_cast<const QComboBox*>(w->parent());
 }
@@ -223,7 +238,7 @@ void TFPreguntaDatos::vigila(QWidget* panel) {
     // The form sees every key and focus change of its controls first, as the suite's key preview did.
     QWidget* ultimo = nullptr;
     for (QWidget* w : panel->findChildren<QWidget*>()) {
-        if (!esControl(w)) continue;
+        if (!esControl(w) || w->window() != this) continue; // not the calendars and lists that pop up
         w->installEventFilter(this);
         ultimo = w;
     }
@@ -259,6 +274,13 @@ void TFPreguntaDatos::Configura() {
     const QDate mesAnterior = hoyMenos(1);
     if (t == u"BalanMensaEspecial") {
         lblIVA2->setText(QStringLiteral("Tipo de ") + NombreImpuestoIndirecto() + QLatin1Char(':'));
+        // eIVA2KeyPress: two figures and two decimals; eIVA2KeyUp: the keypad's point is the decimal comma.
+        eIVA2->setValidator(new QRegularExpressionValidator(
+            QRegularExpression(QStringLiteral("[0-9]{0,2}([.,][0-9]{0,2})?")), eIVA2));
+        connect(eIVA2, &QLineEdit::textEdited, this, [this](const QString& texto) {
+            if (texto.contains(QLatin1Char('.')))
+                eIVA2->setText(QString(texto).replace(QLatin1Char('.'), QLatin1Char(',')));
+        });
         eIVA2->setText(
             QString::number(Config.GetTipoIva(), 'f', 2).replace(QLatin1Char('.'), QLatin1Char(',')));
     } else if (t == u"BalanMensualCobro") {
@@ -544,6 +566,7 @@ bool TFPreguntaDatos::cbMesKeyPress(QComboBox* lista, QKeyEvent* tecla) {
             eligeItem(lista, d + 9);
         else if (d >= 1)
             eligeItem(lista, d - 1);
+        if (QLineEdit* e = lista->lineEdit()) e->selectAll(); // letters typed next start afresh
         return true;
     }
     const bool borra = tecla->key() == Qt::Key_Backspace;
@@ -714,9 +737,6 @@ bool TFPreguntaDatos::eventFilter(QObject* o, QEvent* e) {
             seAnoExit(w);
         else
             DejaFoco(w);
-        if ((w == cbMes16 || w == seAno16) &&
-            !gbBalanMensualCobroMes->isAncestorOf(QApplication::focusWidget()))
-            gbBalanMensualCobroMesExit();
         break;
     }
     default:
@@ -738,7 +758,7 @@ void TFPreguntaDatos::showEvent(QShowEvent* e) {
     move(arriba);
     QDialog::showEvent(e);
     // FormCreate: to the front and active. FormShow: the first field's text selected.
-    raise();
+    if (QGuiApplication::platformName() != u"offscreen") raise();
     activateWindow();
     if (m_panelActivo) {
         QWidget* primero = nextInFocusChain();

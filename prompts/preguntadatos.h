@@ -338,6 +338,7 @@ private:
     QWidget* m_panelActivo = nullptr;
     TColor m_colorArriba = 0, m_colorAbajo = 0;
     bool m_conColores = false;
+    QMetaObject::Connection m_salidaGrupo;
 };
 
 /// The form while a prompt routine shows it (null otherwise).
