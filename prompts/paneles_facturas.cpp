@@ -1,6 +1,6 @@
 // Panels of the data prompt for invoicing and listings: balances, invoice numbers and kinds, series,
 // currency, amounts and percentages.
-#include "prompts/editimporte.h"
+#include "companion/editimporte.h"
 #include "prompts/preguntadatos.h"
 #include "prompts/preguntadatos_p.h"
 

@@ -1,6 +1,6 @@
 // Panels of the data prompt that ask for periods: years, months, quarters, semesters and dates, alone
 // or with a number.
-#include "prompts/editimporte.h"
+#include "companion/editimporte.h"
 #include "prompts/preguntadatos.h"
 #include "prompts/preguntadatos_p.h"
 
@@ -275,7 +275,7 @@ QWidget* TFPreguntaDatos::construyeRenumerar() {
     filas.fila(QStringLiteral("Pólizas del año:"), seAno10);
     filas.ocupa(cambian);
     filas.ocupa(nuevos);
-    connect(FENuevo1, &QLineEdit::textEdited, this, &TFPreguntaDatos::FENuevo1Change);
+    connect(FENuevo1, &QLineEdit::textChanged, this, &TFPreguntaDatos::FENuevo1Change);
     return p;
 }
 

@@ -1,5 +1,6 @@
 // Panels of the data prompt that ask for a person, a choice or a text: notaries, officials, the tone of
 // a letter, repairs, references, a free text.
+#include "companion/filtroteclas.h"
 #include "ident/editrefcatastral.h"
 #include "prompts/preguntadatos.h"
 #include "prompts/preguntadatos_p.h"
@@ -59,6 +60,7 @@ QWidget* TFPreguntaDatos::construyeXDias() {
     EDias = Edit(pnlXDias, "EDias", 0); // two characters at most, kept by EDiasChange
     EDias->setFixedWidth(EDias->fontMetrics().horizontalAdvance(QStringLiteral("000")) + 12);
     EDias->setAlignment(Qt::AlignRight);
+    SoloDigitos(EDias);
     EDias->setText(QStringLiteral("30"));
     Filas(pnlXDias).juntos({Etiqueta(pnlXDias, QStringLiteral("Escrituras de cuantía firmadas hace"), EDias),
                             EDias, Etiqueta(pnlXDias, QStringLiteral("días"))});
@@ -136,6 +138,7 @@ QWidget* TFPreguntaDatos::construyeImpresionTestamentos() {
     EDesde = Edit(p, "EDesde", 5);
     EHasta = Edit(p, "EHasta", 5);
     for (QLineEdit* e : {EDesde, EHasta}) {
+        SoloDigitos(e); // EnteroPress: digits only, Backspace and the editing keys as always
         e->setText(QStringLiteral("0"));
         e->setAlignment(Qt::AlignRight);
     }

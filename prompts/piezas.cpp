@@ -1,5 +1,6 @@
 // The controls and the row layout the panels of the data prompt are built from.
-#include "prompts/editimporte.h"
+#include "companion/editimporte.h"
+#include "companion/textovisible.h"
 #include "prompts/preguntacomun_p.h"
 #include "prompts/preguntadatos_p.h"
 
@@ -211,13 +212,6 @@ QString cortado(QString texto, int largo) {
     return texto;
 }
 
-// "\r\n", "\r" and "\n" all break a line.
-QString lineas(QString texto) {
-    texto.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    texto.replace(u'\r', u'\n');
-    return texto;
-}
-
 } // namespace
 
 void LimitaAlAno(QDateTimeEdit* d, int ano) {
@@ -227,7 +221,7 @@ void LimitaAlAno(QDateTimeEdit* d, int ano) {
 }
 
 void PonTextoLlamador(QLabel* etiqueta, const QString& texto) {
-    const QString t = lineas(texto);
+    const QString t = TextoVisible(texto);
     etiqueta->setTextFormat(Qt::PlainText);
     etiqueta->setWordWrap(true);
     etiqueta->setText(cortado(t, kLargoEtiqueta));
@@ -238,7 +232,7 @@ void PonTextoLlamador(QLabel* etiqueta, const QString& texto) {
 
 void PonCaptionLlamador(QWidget* forma, const QString& texto) {
     if (texto.isEmpty()) return;
-    forma->setWindowTitle(cortado(lineas(texto).replace(u'\n', u' '), kLargoCaption));
+    forma->setWindowTitle(cortado(TextoVisible(texto).replace(u'\n', u' '), kLargoCaption));
 }
 
 QString LetrasMarcadas(std::initializer_list<std::pair<const QAbstractButton*, QChar>> casillas) {

@@ -1,6 +1,8 @@
 #include "prompts/preguntadatos.h"
 
 #include "companion/config.h"
+#include "companion/dialogo.h"
+#include "companion/editimporte.h"
 #include "companion/editmayusculas.h"
 #include "companion/fechas.h"
 #include "companion/foco.h"
@@ -10,7 +12,6 @@
 #include "frame/colores.h"
 #include "frame/notarios.h"
 #include "ident/editrefcatastral.h"
-#include "prompts/editimporte.h"
 #include "prompts/preguntadatos_p.h"
 #include "protocol/iva.h"
 #include "tables/tablas.h"
@@ -145,16 +146,16 @@ TFPreguntaDatos::TFPreguntaDatos(QWidget* owner, const QString& tipo)
     btnAceptar->setObjectName(QStringLiteral("btnAceptar"));
     btnCANCELAR = new QPushButton(QStringLiteral("Sa&lir"), this);
     btnCANCELAR->setObjectName(QStringLiteral("btnCANCELAR"));
-    for (QPushButton* b : {btnAceptar, btnCANCELAR}) {
+    for (QPushButton* b : {btnAceptar, btnCANCELAR})
         b->setAutoDefault(false); // Enter moves to the next control, also from a button
-        b->installEventFilter(this);
-    }
     connect(btnAceptar, &QPushButton::clicked, this, &TFPreguntaDatos::btnAceptarClick);
     connect(btnCANCELAR, &QPushButton::clicked, this, &TFPreguntaDatos::reject);
 
     ActivaPanel();
     Configura();
     AjustaTamano();
+    // Enter moves on (from the buttons too), Escape gives 2, labels plain, the focused field marked.
+    AplicaConvencionesDialogo(this, {.marcaFoco = MarcaFoco::Campos});
 }
 
 TFPreguntaDatos::~TFPreguntaDatos() {
@@ -274,7 +275,9 @@ void TFPreguntaDatos::Configura() {
     const QDate mesAnterior = hoyMenos(1);
     if (t == u"BalanMensaEspecial") {
         lblIVA2->setText(QStringLiteral("Tipo de ") + NombreImpuestoIndirecto() + QLatin1Char(':'));
-        // eIVA2KeyPress: two figures and two decimals; eIVA2KeyUp: the keypad's point is the decimal comma.
+        // eIVA2KeyPress: figures and one decimal mark, two figures and two decimals at most; eIVA2KeyUp:
+        // the keypad's point is the decimal comma.
+        InstalaFiltroCaracteres(eIVA2, {[](QChar c) { return EsUnNumero(c) || c == u',' || c == u'.'; }});
         eIVA2->setValidator(new QRegularExpressionValidator(
             QRegularExpression(QStringLiteral("[0-9]{0,2}([.,][0-9]{0,2})?")), eIVA2));
         connect(eIVA2, &QLineEdit::textEdited, this, [this](const QString& texto) {
@@ -364,9 +367,7 @@ void TFPreguntaDatos::Configura() {
         seAno7->setValue(anoActual);
     } else if (t == u"NumeroFactura") {
         EscribeEnMayusculas(ENOTARIOSERIE);
-        EscribeEnMayusculas(ENUMEROBIS);
-        ENUMEROBIS->setValidator(
-            new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[A-Za-z]?")), ENUMEROBIS));
+        InstalaFiltroCaracteres(ENUMEROBIS, {[](QChar c) { return c.isLetter(); }, true});
         // Year and number in figures, then the bis letter; or the ten characters of a full number.
         EANONUMEROBIS->setValidator(new QRegularExpressionValidator(
             QRegularExpression(QStringLiteral("[0-9]{0,10}|[0-9]{0,9}[A-Za-z]")), EANONUMEROBIS));
@@ -418,7 +419,7 @@ void TFPreguntaDatos::Configura() {
         lblCantidad->setText(QStringLiteral("Cuantía: "));
     } else if (t == u"NumCopiasPlusvalia") {
         lblCantidad->setText(QStringLiteral("Num. Copias"));
-        FECantidad->PonDecimales(0); // copies are counted whole
+        FECantidad->SetDecimales(0); // copies are counted whole
     }
     if (m_panelActivo) AjustaTamano();
 }
@@ -660,30 +661,6 @@ void TFPreguntaDatos::DejaFoco(QWidget* control) {
 
 namespace {
 
-// A key that Windows delivered to a control as a character: printable characters, Backspace and the
-// Ctrl+letter codes. Delete, arrows, Home, End, Insert, the page and function keys never were.
-bool esCaracter(const QKeyEvent* k) {
-    switch (k->key()) {
-    case Qt::Key_Backspace:
-        return true;
-    case Qt::Key_Delete:
-    case Qt::Key_Insert:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-        return false;
-    default:
-        return k->key() < Qt::Key_F1 || k->key() > Qt::Key_F35 ? !k->text().isEmpty() : false;
-    }
-}
-
 bool esLista(const QObject* o, const TFPreguntaDatos* f) {
     for (const QComboBox* l : {f->cbMes, f->cbMes2, f->cbMes11, f->cbMes14, f->cbMes16, f->cbTrimestre,
                                f->cbTrimestre2, f->CBTrimestreTP, f->cbSemestre, f->cbNotario, f->CBOficial})
@@ -697,32 +674,20 @@ bool TFPreguntaDatos::eventFilter(QObject* o, QEvent* e) {
     auto* w = qobject_cast<QWidget*>(o);
     switch (e->type()) {
     case QEvent::KeyPress: {
+        // Enter and Escape are the dialog conventions' (AplicaConvencionesDialogo); the lists see the
+        // keys Windows delivered to them as characters: Backspace and the keys that type something.
         auto* k = static_cast<QKeyEvent*>(e);
-        if (k->key() == Qt::Key_Escape) {
-            reject();
-            return true;
-        }
-        if (k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter) {
-            focusNextChild();
-            return true;
-        }
-        if (!esCaracter(k) || k->modifiers() & Qt::AltModifier) break;
-        if (esLista(o, this)) return cbMesKeyPress(static_cast<QComboBox*>(o), k);
-        if (o == EDesde || o == EHasta) {
-            // EnteroPress: digits and Backspace only.
-            const QChar c = k->text().isEmpty() ? QChar() : k->text().front();
-            if (k->key() != Qt::Key_Backspace && !(c >= QLatin1Char('0') && c <= QLatin1Char('9')))
-                return true;
-        }
+        const bool caracter =
+            k->key() == Qt::Key_Backspace || (!TeclaSiemprePasa(k->key()) && !k->text().isEmpty());
+        if (caracter && !(k->modifiers() & Qt::AltModifier) && esLista(o, this))
+            return cbMesKeyPress(static_cast<QComboBox*>(o), k);
         break;
     }
     case QEvent::FocusIn: {
-        if (w == btnAceptar || w == btnCANCELAR) break;
+        // The focus mark itself is the conventions' (MarcaFoco::Campos).
         const auto razon = static_cast<QFocusEvent*>(e)->reason();
         if (w == CBSexo && razon != Qt::PopupFocusReason && razon != Qt::ActiveWindowFocusReason)
             CBSexoEnter();
-        else
-            TomaFoco(w);
         break;
     }
     case QEvent::FocusOut: {
@@ -735,8 +700,6 @@ bool TFPreguntaDatos::eventFilter(QObject* o, QEvent* e) {
             seNumero9Exit();
         else if (w->property(pregunta::kCampoAno).toBool())
             seAnoExit(w);
-        else
-            DejaFoco(w);
         break;
     }
     default:
@@ -750,12 +713,9 @@ void TFPreguntaDatos::showEvent(QShowEvent* e) {
     // Centred on a visible owner, else on the screen; never outside the screen.
     QWidget* dueno = parentWidget();
     QScreen* pantalla = dueno ? dueno->screen() : QApplication::primaryScreen();
-    const QRect area = pantalla ? pantalla->availableGeometry() : QRect(0, 0, 1024, 768);
-    const QRect base = dueno ? dueno->frameGeometry() : area;
-    QPoint arriba = base.center() - QPoint(width() / 2, height() / 2);
-    arriba.setX(std::clamp(arriba.x(), area.left(), std::max(area.left(), area.right() - width())));
-    arriba.setY(std::clamp(arriba.y(), area.top(), std::max(area.top(), area.bottom() - height())));
-    move(arriba);
+    const QRect base = dueno ? dueno->frameGeometry() : pantalla ? pantalla->availableGeometry() : rect();
+    move(base.center() - QPoint(width() / 2, height() / 2));
+    AjustaALaPantalla(this);
     QDialog::showEvent(e);
     // FormCreate: to the front and active. FormShow: the first field's text selected.
     if (QGuiApplication::platformName() != u"offscreen") raise();

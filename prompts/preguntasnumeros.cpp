@@ -1,7 +1,7 @@
 #include "prompts/preguntasnumeros.h"
 
+#include "companion/editimporte.h"
 #include "companion/rnumcad.h"
-#include "prompts/editimporte.h"
 #include "prompts/preguntacomun_p.h"
 
 #include <QComboBox>
@@ -67,7 +67,7 @@ namespace {
 
 // Euros take two decimals; any other currency whole units.
 void ponMoneda(TEditImporte* e, const QString& moneda, double valor) {
-    e->PonDecimales(moneda == u"E" ? 2 : 0);
+    e->SetDecimales(moneda == u"E" ? 2 : 0);
     e->PonValor(valor);
 }
 

@@ -1,10 +1,10 @@
 // The data prompt form driven as a clerk drives it: real key codes into the controls, the handlers
 // they reach, the panels' geometry and initial values.
 #include "companion/config.h"
+#include "companion/editimporte.h"
 #include "companion/foco.h"
 #include "companion/hoy.h"
 #include "companion/mensajes.h"
-#include "prompts/editimporte.h"
 #include "prompts/preguntadatos.h"
 #include "tables/tablas.h"
 #include "tests/support/oficina_prueba.h"

@@ -1,10 +1,10 @@
 // The prompt routines: what they put into the form, and what they copy out, only on acceptance.
 // Forms are answered in place through the modal seam, as a clerk would answer them.
 #include "companion/config.h"
+#include "companion/editimporte.h"
 #include "companion/hoy.h"
 #include "companion/modal.h"
 #include "companion/pideclave.h"
-#include "prompts/editimporte.h"
 #include "prompts/preguntadatos.h"
 #include "prompts/preguntas.h"
 #include "tests/support/modal.h"
@@ -155,18 +155,20 @@ TEST(Preguntas, AmountsByCurrency) {
     struct Caso {
         const char* moneda;
         double entrada;
-        const char* mostrado;
+        double mostrado;
+        int decimales;
         const char* tecleado;
         double salida;
     } casos[] = {
-        {"E", 1234.567, "1.234,57", "1500.50", 1500.5},
-        {"P", 1234.567, "1.235", "1.500", 1500},
-        {"E", 0, "0,00", "150000.5", 150000.5},
+        {"E", 1234.567, 1234.57, 2, "1500.50", 1500.5},
+        {"P", 1234.567, 1235, 0, "1.500", 1500},
+        {"E", 0, 0, 2, "150000.5", 150000.5},
     };
     for (const Caso& c : casos) {
         double cantidad = c.entrada;
         Responde r([&](TFPreguntaDatos& f) {
-            EXPECT_EQ(f.FECantidad->text(), QString::fromUtf8(c.mostrado));
+            EXPECT_EQ(f.FECantidad->Valor(), c.mostrado);
+            EXPECT_EQ(f.FECantidad->Decimales(), c.decimales);
             EXPECT_EQ(f.lblCantidad->text(), QStringLiteral("Importe:"));
             f.FECantidad->setFocus();
             f.FECantidad->selectAll();
