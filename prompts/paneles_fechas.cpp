@@ -92,7 +92,8 @@ QWidget* TFPreguntaDatos::construyeTrimestralSinNif() {
     filas.fila(kAno, seAno12);
     filas.juntos({rbModelo197, rbModeloApaisado});
     filas.ocupa(CBExclusion);
-    filas.fila(QStringLiteral("Se incluirán los NIFs que empiecen por:"), ELetraNIF);
+    filas.juntos(
+        {Etiqueta(p, QStringLiteral("Se incluirán los NIFs que empiecen por:"), ELetraNIF), ELetraNIF});
     connect(CBExclusion, &QCheckBox::clicked, this, &TFPreguntaDatos::CBExclusionClick);
     return p;
 }

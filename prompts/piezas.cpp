@@ -226,8 +226,14 @@ void PonTextoLlamador(QLabel* etiqueta, const QString& texto) {
     etiqueta->setWordWrap(true);
     etiqueta->setText(cortado(t, kLargoEtiqueta));
     etiqueta->setToolTip(t.size() > kLargoEtiqueta ? t : QString());
-    // Wide enough to read a sentence on one line, no wider: longer texts wrap.
-    etiqueta->setMaximumWidth(etiqueta->fontMetrics().averageCharWidth() * 70);
+    // A sentence on one line, no wider: longer texts wrap. A short one keeps its width.
+    const QFontMetrics medidas = etiqueta->fontMetrics();
+    const int maximo = medidas.averageCharWidth() * 70;
+    int ancho = 0;
+    for (const QString& linea : etiqueta->text().split(u'\n'))
+        ancho = std::max(ancho, medidas.horizontalAdvance(linea));
+    etiqueta->setMaximumWidth(maximo);
+    etiqueta->setMinimumWidth(std::min(ancho + 2, maximo));
 }
 
 void PonCaptionLlamador(QWidget* forma, const QString& texto) {

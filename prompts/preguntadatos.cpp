@@ -725,6 +725,11 @@ void TFPreguntaDatos::showEvent(QShowEvent* e) {
         while (primero != this && !(m_panelActivo->isAncestorOf(primero) && esControl(primero) &&
                                     primero->isVisibleTo(this) && primero->isEnabled()))
             primero = primero->nextInFocusChain();
+        // In a group of radio buttons the focus goes to the checked one, as Tab takes it there.
+        if (auto* radio = qobject_cast<QRadioButton*>(primero); radio && !radio->isChecked())
+            for (QRadioButton* otro :
+                 radio->parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
+                if (otro->isChecked() && otro->isVisibleTo(this)) primero = otro;
         if (primero != this) {
             primero->setFocus(Qt::OtherFocusReason);
             if (auto* s = qobject_cast<QAbstractSpinBox*>(primero)) s->selectAll();

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 
 namespace nod {
 
@@ -21,7 +22,16 @@ QString carpetaReal(const QString& carpeta) {
 } // namespace
 
 bool PreguntaFichero(const QString& titulo, QString& fichero, const QString& carpeta) {
-    QFileDialog d(nullptr, titulo, carpetaReal(carpeta.isEmpty() ? QStringLiteral("C:\\MODELOS") : carpeta));
+    // A folder that does not exist opens its nearest existing parent (never its name as a file name).
+    QString inicial = QFileInfo(carpetaReal(carpeta.isEmpty() ? QStringLiteral("C:\\MODELOS") : carpeta))
+                          .absoluteFilePath();
+    while (!QFileInfo(inicial).isDir()) {
+        const QString padre = QFileInfo(inicial).absolutePath();
+        if (padre == inicial) break;
+        inicial = padre;
+    }
+    QFileDialog d(nullptr, titulo);
+    d.setDirectory(inicial);
     d.setObjectName(QStringLiteral("ODFichero"));
     // The suite's own dialog on every platform, so that scripts and tests answer it like the others.
     d.setOption(QFileDialog::DontUseNativeDialog);
@@ -31,6 +41,11 @@ bool PreguntaFichero(const QString& titulo, QString& fichero, const QString& car
                       QStringLiteral("Documentos de Word (*.doc) "),
                       QStringLiteral("Todos los archivos (*.*)")});
     d.setDefaultSuffix(QStringLiteral("doc"));
+    d.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
+    d.setLabelText(QFileDialog::FileName, QStringLiteral("&Nombre:"));
+    d.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));
+    d.setLabelText(QFileDialog::Accept, QStringLiteral("&Abrir"));
+    d.setLabelText(QFileDialog::Reject, QStringLiteral("&Cancelar"));
     if (!fichero.isEmpty()) d.selectFile(fichero);
     if (EjecutaModal(d) != QDialog::Accepted) return false;
     const QStringList elegidos = d.selectedFiles();
