@@ -12,6 +12,7 @@
 #include "frame/colores.h"
 #include "frame/notarios.h"
 #include "ident/editrefcatastral.h"
+#include "prompts/preguntacomun_p.h"
 #include "prompts/preguntadatos_p.h"
 #include "protocol/iva.h"
 #include "tables/tablas.h"
@@ -153,7 +154,6 @@ TFPreguntaDatos::TFPreguntaDatos(QWidget* owner, const QString& tipo)
 
     ActivaPanel();
     Configura();
-    AjustaTamano();
     // Enter moves on (from the buttons too), Escape gives 2, labels plain, the focused field marked.
     AplicaConvencionesDialogo(this, {.marcaFoco = MarcaFoco::Campos});
 }
@@ -253,10 +253,6 @@ void TFPreguntaDatos::vigila(QWidget* panel) {
 
 namespace {
 
-void ponFecha(QDateTimeEdit* d, TDateTime t) {
-    d->setDateTime(TDateTimeToQDateTime(t));
-}
-
 // The month and year of today shifted back by `meses`.
 QDate hoyMenos(int meses) {
     return TDateTimeToQDate(Date()).addMonths(-meses);
@@ -298,24 +294,24 @@ void TFPreguntaDatos::Configura() {
         }
         ponMesAno(cbMes16, seAno16, mesAnterior);
         cbTodas16->setChecked(true);
-        ponFecha(dtpDesde16, Date());
-        ponFecha(dtpHasta16, Date());
+        pregunta::PonFecha(dtpDesde16, Date());
+        pregunta::PonFecha(dtpHasta16, Date());
     } else if (t == u"CantidadMaxMin") {
         lblCantidadMaxima->show();
         FECantidadMaxima->show();
     } else if (t == u"CorredorEstadistica") {
         ponMesAno(cbMes11, seAno11, mesAnterior);
     } else if (t == u"DesdeDia") {
-        ponFecha(dtpDesdeFecha, Date());
+        pregunta::PonFecha(dtpDesdeFecha, Date());
     } else if (t == u"FechaDesdeHasta") {
-        ponFecha(dtpDesde, Now());
-        ponFecha(dtpHasta, Now());
+        pregunta::PonFecha(dtpDesde, Now());
+        pregunta::PonFecha(dtpHasta, Now());
     } else if (t == u"FechaDesdeHastaCuando") {
         for (QDateTimeEdit* d : {dtpDesde2, dtpHasta2, dtpCuando})
-            ponFecha(d, Date());
+            pregunta::PonFecha(d, Date());
     } else if (t == u"FechaDesdeHastaFactura" || t == u"FechaDesdeHastaCorretaje") {
-        ponFecha(dtpDesde3, Date());
-        ponFecha(dtpHasta3, Date());
+        pregunta::PonFecha(dtpDesde3, Date());
+        pregunta::PonFecha(dtpHasta3, Date());
     } else if (t == u"ImpresionTestamentos" || t == u"RangoNumeros") {
         seAno15->setValue(anoActual);
         if (t == u"RangoNumeros")
@@ -372,7 +368,7 @@ void TFPreguntaDatos::Configura() {
         EANONUMEROBIS->setValidator(new QRegularExpressionValidator(
             QRegularExpression(QStringLiteral("[0-9]{0,10}|[0-9]{0,9}[A-Za-z]")), EANONUMEROBIS));
     } else if (t == u"NumeroFecha") {
-        ponFecha(tdpFecha, Date());
+        pregunta::PonFecha(tdpFecha, Date());
     } else if (t == u"NumeroMinuta" || t == u"NumeroMinuta2") {
         if (t == u"NumeroMinuta2") {
             seNumero9->setMinimum(-1);
