@@ -20,6 +20,7 @@ using namespace pregunta;
 namespace {
 const QString kMes = QStringLiteral("Mes:");
 const QString kAno = QStringLiteral("Año:");
+const QString kTrimestre = QStringLiteral("Trimestre:");
 } // namespace
 
 QWidget* TFPreguntaDatos::construyeAno() {
@@ -29,9 +30,9 @@ QWidget* TFPreguntaDatos::construyeAno() {
     return pnlAno;
 }
 
-// Month and year side by side: the shape of several panels.
-static void mesYAno(Filas& filas, QComboBox* mes, QSpinBox* ano) {
-    filas.fila(kMes, mes);
+// A period (month, quarter, semester) and its year, one under the other: the shape of several panels.
+static void periodoYAno(Filas& filas, const QString& periodo, QComboBox* lista, QSpinBox* ano) {
+    filas.fila(periodo, lista);
     filas.fila(kAno, ano);
 }
 
@@ -41,7 +42,7 @@ QWidget* TFPreguntaDatos::construyeMesAno() {
     cbMes = ListaMeses(pnlMesAno, "cbMes");
     seAno4 = Ano(pnlMesAno, "seAno4", 1992);
     Filas filas(pnlMesAno);
-    mesYAno(filas, cbMes, seAno4);
+    periodoYAno(filas, kMes, cbMes, seAno4);
     return pnlMesAno;
 }
 
@@ -60,7 +61,7 @@ QWidget* TFPreguntaDatos::construyeMesAnoSerie() {
     cbSerieR14 = Casilla(series, "cbSerieR14", QStringLiteral("Serie R, Gastos"), true);
     EnColumna(series, {cbSerieA14, cbSerieB14, cbSerieC14, cbSerieD14, cbSerieE14, cbSerieR14});
     Filas filas(pnlMesAnoSerie);
-    mesYAno(filas, cbMes14, seAno14);
+    periodoYAno(filas, kMes, cbMes14, seAno14);
     filas.ocupa(series);
     return pnlMesAnoSerie;
 }
@@ -71,8 +72,7 @@ QWidget* TFPreguntaDatos::construyeTrimestreAno() {
     cbTrimestre = ListaTrimestres(pnlTrimestreAno, "cbTrimestre");
     seAno5 = Ano(pnlTrimestreAno, "seAno5", 2000);
     Filas filas(pnlTrimestreAno);
-    filas.fila(QStringLiteral("Trimestre:"), cbTrimestre);
-    filas.fila(kAno, seAno5);
+    periodoYAno(filas, kTrimestre, cbTrimestre, seAno5);
     return pnlTrimestreAno;
 }
 
@@ -88,8 +88,7 @@ QWidget* TFPreguntaDatos::construyeTrimestralSinNif() {
     CBExclusion = Casilla(p, "CBExclusion", QStringLiteral("Excluir todos los NIFs que empiecen por letra."));
     ELetraNIF = Edit(p, "ELetraNIF", 1);
     Filas filas(p);
-    filas.fila(QStringLiteral("Trimestre:"), cbTrimestre2);
-    filas.fila(kAno, seAno12);
+    periodoYAno(filas, kTrimestre, cbTrimestre2, seAno12);
     filas.juntos({rbModelo197, rbModeloApaisado});
     filas.ocupa(CBExclusion);
     filas.juntos(
@@ -104,8 +103,7 @@ QWidget* TFPreguntaDatos::construyeSemestreAno() {
     cbSemestre = ListaSemestres(pnlSemestreAno, "cbSemestre");
     seAno6 = Ano(pnlSemestreAno, "seAno6", 2000);
     Filas filas(pnlSemestreAno);
-    filas.fila(QStringLiteral("Semestre:"), cbSemestre);
-    filas.fila(kAno, seAno6);
+    periodoYAno(filas, QStringLiteral("Semestre:"), cbSemestre, seAno6);
     return pnlSemestreAno;
 }
 
@@ -123,7 +121,7 @@ QWidget* TFPreguntaDatos::construyeCorredorEstadistica() {
     rbBaleares = Radio(estadistica, "rbBaleares", QStringLiteral("3.- Colegio Notarial de Baleares"));
     EnColumna(estadistica, {rbGranada, rbValladolid, rbBaleares});
     Filas filas(p);
-    mesYAno(filas, cbMes11, seAno11);
+    periodoYAno(filas, kMes, cbMes11, seAno11);
     filas.ocupa(estadistica);
     return p;
 }
@@ -140,7 +138,7 @@ QWidget* TFPreguntaDatos::construyeModeloIndicSociedades() {
     rbConCuantias = Radio(antiguo, "rbConCuantias", QStringLiteral("Con cuantías"));
     EnColumna(antiguo, {rbSinCuantias, rbConCuantias});
     Filas filas(p);
-    mesYAno(filas, cbMes2, seAno8);
+    periodoYAno(filas, kMes, cbMes2, seAno8);
     filas.ocupa(antiguo);
     return p;
 }
@@ -304,8 +302,7 @@ QWidget* TFPreguntaDatos::construyeTurnoPolizas() {
     FEAportacionTP = Importe(p, "FEAportacionTP", 2);
     FECuantiaTP = Importe(p, "FECuantiaTP", 2);
     Filas filas(p);
-    filas.fila(QStringLiteral("Trimestre:"), CBTrimestreTP);
-    filas.fila(kAno, seAnoTP);
+    periodoYAno(filas, kTrimestre, CBTrimestreTP, seAnoTP);
     filas.fila(QStringLiteral("Aportación:"), FEAportacionTP, QStringLiteral("%"));
     filas.fila(QStringLiteral("Cuantia mínima:"), FECuantiaTP);
     return p;

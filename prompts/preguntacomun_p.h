@@ -47,6 +47,12 @@ void PonTextoLlamador(QLabel* etiqueta, const QString& texto);
 /// A caller's text for the form's caption (one line, cut the same way).
 void PonCaptionLlamador(QWidget* forma, const QString& texto);
 
+/// The caller's caption (see `PonCaptionLlamador`) and the form's background colours.
+inline void PonCaptionYColores(TFPreguntaDatos& f, const QString& titulo, TColor arriba, TColor abajo) {
+    PonCaptionLlamador(&f, titulo);
+    f.PonColores(arriba, abajo);
+}
+
 /// The letters of the ticked boxes, in the order of the boxes: "ACE" for A, C and E ticked.
 QString LetrasMarcadas(std::initializer_list<std::pair<const QAbstractButton*, QChar>> casillas);
 /// Ticks the boxes whose letter is in `letras`, clears the others.

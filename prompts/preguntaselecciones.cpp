@@ -73,10 +73,7 @@ bool PreguntaProfesionJuridica(QWidget* owner, int& codigo) {
 bool PreguntaSexoClientes(QString& sexo, const QString& titulo, TColor colorArriba, TColor colorAbajo) {
     return Pregunta(
         QStringLiteral("SexoClientes"), nullptr,
-        [&](TFPreguntaDatos& f) {
-            PonCaptionLlamador(&f, titulo);
-            f.PonColores(colorArriba, colorAbajo);
-        },
+        [&](TFPreguntaDatos& f) { PonCaptionYColores(f, titulo, colorArriba, colorAbajo); },
         [&](TFPreguntaDatos& f) {
             const int i = f.CBSexo->currentIndex();
             if (i >= 0 && i < 3) sexo = QStringLiteral("HMS").mid(i, 1);

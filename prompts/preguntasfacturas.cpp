@@ -100,8 +100,7 @@ bool PreguntaMoneda(QString& moneda, TColor colorArriba, TColor colorAbajo, cons
     return Pregunta(
         QStringLiteral("Moneda"), nullptr,
         [&](TFPreguntaDatos& f) {
-            PonCaptionLlamador(&f, titulo);
-            f.PonColores(colorArriba, colorAbajo);
+            PonCaptionYColores(f, titulo, colorArriba, colorAbajo);
             f.CBMoneda->setCurrentIndex(Config.GetMonedaListados() == u"P" ? 0 : 1);
         },
         [&](TFPreguntaDatos& f) {

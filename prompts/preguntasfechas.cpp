@@ -92,8 +92,7 @@ bool PreguntaDesdeHastaCuando(TDateTime& desde, TDateTime& hasta, TDateTime& cua
     return Pregunta(
         QStringLiteral("FechaDesdeHastaCuando"), nullptr,
         [&](TFPreguntaDatos& f) {
-            PonCaptionLlamador(&f, titulo);
-            f.PonColores(colorArriba, colorAbajo);
+            PonCaptionYColores(f, titulo, colorArriba, colorAbajo);
             for (QDateTimeEdit* d : {f.dtpDesde2, f.dtpHasta2, f.dtpCuando})
                 LimitaAlAno(d, ano);
         },
@@ -188,10 +187,7 @@ bool PreguntaMesAnoSerie(int& mes, int& ano, QString& series, const QString& tit
 bool PreguntaTrimAno(int& trimestre, int& ano, const QString& titulo, TColor colorArriba, TColor colorAbajo) {
     return Pregunta(
         QStringLiteral("TrimestreAño"), nullptr,
-        [&](TFPreguntaDatos& f) {
-            PonCaptionLlamador(&f, titulo);
-            f.PonColores(colorArriba, colorAbajo);
-        },
+        [&](TFPreguntaDatos& f) { PonCaptionYColores(f, titulo, colorArriba, colorAbajo); },
         [&](TFPreguntaDatos& f) {
             trimestre = TFPreguntaDatos::ItemIndex(f.cbTrimestre) + 1;
             ano = f.seAno5->value();
@@ -202,10 +198,7 @@ bool PreguntaSemestreAno(int& semestre, int& ano, const QString& titulo, TColor 
                          TColor colorAbajo) {
     return Pregunta(
         QStringLiteral("SemestreAño"), nullptr,
-        [&](TFPreguntaDatos& f) {
-            PonCaptionLlamador(&f, titulo);
-            f.PonColores(colorArriba, colorAbajo);
-        },
+        [&](TFPreguntaDatos& f) { PonCaptionYColores(f, titulo, colorArriba, colorAbajo); },
         [&](TFPreguntaDatos& f) {
             semestre = TFPreguntaDatos::ItemIndex(f.cbSemestre) + 1;
             ano = f.seAno6->value();

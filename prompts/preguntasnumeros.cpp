@@ -148,10 +148,7 @@ bool PreguntaTurnoPolizas(int& ano, int& trimestre, double& aportacion, double& 
                           const QString& titulo, TColor colorArriba, TColor colorAbajo) {
     return Pregunta(
         QStringLiteral("TurnoPolizas"), nullptr,
-        [&](TFPreguntaDatos& f) {
-            PonCaptionLlamador(&f, titulo);
-            f.PonColores(colorArriba, colorAbajo);
-        },
+        [&](TFPreguntaDatos& f) { PonCaptionYColores(f, titulo, colorArriba, colorAbajo); },
         [&](TFPreguntaDatos& f) {
             const double a = f.FEAportacionTP->Valor(), c = f.FECuantiaTP->Valor();
             ano = f.seAnoTP->value();
