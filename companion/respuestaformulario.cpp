@@ -274,10 +274,11 @@ QString RespondeFormulario(QDialog& d, const RespuestaFormulario& r) {
             return QStringLiteral("the form %1 has no button %2")
                 .arg(comillas(d.windowTitle()), comillas(r.pulsa));
     }
-    if (!boton->isVisibleTo(&d))
-        return QStringLiteral("button %1 is not shown").arg(comillas(boton->objectName()));
-    if (!boton->isEnabled())
-        return QStringLiteral("button %1 is disabled").arg(comillas(boton->objectName()));
+    // A button without a name (a file dialog's) is named by its caption.
+    const QString nombre =
+        comillas(boton->objectName().isEmpty() ? QString(boton->text()).remove(u'&') : boton->objectName());
+    if (!boton->isVisibleTo(&d)) return QStringLiteral("button %1 is not shown").arg(nombre);
+    if (!boton->isEnabled()) return QStringLiteral("button %1 is disabled").arg(nombre);
     // As a click: the field being left sees its exit first.
     boton->setFocus(Qt::MouseFocusReason);
     if (d.isVisible()) boton->click();

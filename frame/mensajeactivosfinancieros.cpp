@@ -1,5 +1,7 @@
 #include "frame/mensajeactivosfinancieros.h"
 
+#include "companion/modal.h"
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -122,7 +124,7 @@ void TFMensajeActivosFinancieros::keyPressEvent(QKeyEvent* e) {
 int MuestraActivosFinancieros(int tipo, QWidget* owner) {
     TFMensajeActivosFinancieros forma(owner);
     forma.CambiaTipoMensaje(tipo);
-    return forma.exec();
+    return EjecutaModal(forma);
 }
 
 } // namespace nod

@@ -1,5 +1,6 @@
 #include "frame/qtmensajes.h"
 
+#include "companion/modal.h"
 #include "frame/mensajeactivosfinancieros.h"
 #include "frame/mensajenod.h"
 
@@ -21,7 +22,7 @@ QWidget* propietario() {
 int caja(QMessageBox::Icon icono, const QString& texto, const QString& titulo) {
     QMessageBox m(icono, titulo, texto, QMessageBox::NoButton, propietario());
     m.addButton(QStringLiteral("&Aceptar"), QMessageBox::AcceptRole);
-    return m.exec();
+    return EjecutaModal(m);
 }
 
 } // namespace
@@ -47,7 +48,7 @@ int ServicioMensajesQt::pregunta(const QString& /*kind*/, const QString& texto, 
     no->setObjectName(QStringLiteral("BNo"));
     m.setDefaultButton(focoEnSi ? si : no);
     m.setEscapeButton(no);
-    m.exec();
+    EjecutaModal(m);
     return m.clickedButton() == si ? 1 : 2;
 }
 

@@ -3,6 +3,7 @@
 #include "companion/documentos.h"
 #include "companion/editmayusculas.h"
 #include "companion/foco.h"
+#include "companion/modal.h"
 #include "ident/nif.h"
 
 #include <QGroupBox>
@@ -209,7 +210,7 @@ bool TFCalculaLetraNIF::eventFilter(QObject* o, QEvent* e) {
 
 void ICalculaLetraNif(QWidget* owner) {
     TFCalculaLetraNIF f(owner);
-    f.exec();
+    EjecutaModal(f);
 }
 
 } // namespace nod

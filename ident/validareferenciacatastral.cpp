@@ -3,6 +3,7 @@
 #include "companion/config.h"
 #include "companion/foco.h"
 #include "companion/mensajes.h"
+#include "companion/modal.h"
 #include "frame/shell.h"
 #include "ident/catastro.h"
 #include "ident/editrefcatastral.h"
@@ -232,7 +233,7 @@ void TFValidaReferenciaCatastral::Catastro() {
 
 void IValidaReferenciaCatastral(QWidget* owner) {
     TFValidaReferenciaCatastral f(owner);
-    f.exec();
+    EjecutaModal(f);
 }
 
 } // namespace nod
