@@ -1,9 +1,9 @@
 #include "frame/mensajeactivosfinancieros.h"
 
+#include "companion/dialogo.h"
 #include "companion/modal.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTextEdit>
@@ -57,8 +57,8 @@ TFMensajeActivosFinancieros::TFMensajeActivosFinancieros(QWidget* owner)
     texto->setObjectName(QStringLiteral("RETexto"));
     texto->setReadOnly(true);
     texto->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    texto->setHtml(TextoAyuda());
-    texto->setFocusPolicy(Qt::ClickFocus);
+    texto->setHtml(TextoAyuda()); // the box's own fixed text: the one place where markup is meant
+    titulo->setBuddy(texto);      // the title names the text for screen readers
 
     auto* barra = new QWidget(this);
     barra->setObjectName(QStringLiteral("PBotones"));
@@ -81,6 +81,12 @@ TFMensajeActivosFinancieros::TFMensajeActivosFinancieros(QWidget* owner)
     l->addWidget(titulo);
     l->addWidget(texto, 1);
     l->addWidget(barra);
+    // The help text takes the focus first and scrolls with the arrows and Page keys; Tab goes on to the
+    // buttons. Escape answers Yes.
+    texto->setFocus();
+    OpcionesDialogo o;
+    o.resultadoEscape = 6;
+    AplicaConvencionesDialogo(this, o);
 }
 
 void TFMensajeActivosFinancieros::CambiaTipoMensaje(int tipo) {
@@ -111,14 +117,6 @@ void TFMensajeActivosFinancieros::BBAceptarClick() {
 void TFMensajeActivosFinancieros::reject() {
     setResult(7);
     BBSiClick();
-}
-
-void TFMensajeActivosFinancieros::keyPressEvent(QKeyEvent* e) {
-    if ((e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && e->modifiers() == Qt::NoModifier) {
-        focusNextChild();
-        return;
-    }
-    QDialog::keyPressEvent(e);
 }
 
 int MuestraActivosFinancieros(int tipo, QWidget* owner) {
