@@ -1,5 +1,6 @@
 #include "companion/pideclave.h"
 
+#include "companion/dialogo.h"
 #include "companion/foco.h"
 #include "companion/modal.h"
 
@@ -50,6 +51,7 @@ TFPideClave::TFPideClave(QWidget* owner)
         w->installEventFilter(this);
     connect(BBAceptar, &QPushButton::clicked, this, [this] { done(1); });
     connect(BBCancelar, &QPushButton::clicked, this, &TFPideClave::reject);
+    AplicaConvencionesDialogo(this);
     EClave->setFocus();
 }
 
