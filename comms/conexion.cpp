@@ -64,7 +64,7 @@ bool TieneConexionAInternet() {
     QObject::connect(respuesta.get(), &QNetworkReply::metaDataChanged, respuesta.get(), [&] {
         if (EstadoHttp(*respuesta) == 0) return;
         abierta = true;
-        respuesta->abort();
+        QMetaObject::invokeMethod(respuesta.get(), &QNetworkReply::abort, Qt::QueuedConnection);
     });
     EsperaFin(*respuesta);
     abierta = abierta || EstadoHttp(*respuesta) != 0;

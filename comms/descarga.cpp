@@ -51,9 +51,11 @@ bool DescargarFichero(const QString& direccion, const QString& ruta, const Progr
     QString fallo;
     qint64 recibidos = 0;
     bool comprobado = false;
-    QObject::connect(respuesta.get(), &QNetworkReply::readyRead, respuesta.get(), [&] {
-        if (!fallo.isEmpty()) return;
+    // Writes what has arrived; the first bytes decide whether it is the file at all.
+    const auto consume = [&] {
+        if (!fallo.isEmpty() || !respuesta->isOpen()) return;
         const QByteArray trozo = respuesta->readAll();
+        if (trozo.isEmpty()) return;
         if (!comprobado) {
             comprobado = true;
             const int estado = EstadoHttp(*respuesta);
@@ -64,17 +66,23 @@ bool DescargarFichero(const QString& direccion, const QString& ruta, const Progr
         }
         if (fallo.isEmpty() && destino.write(trozo) != trozo.size()) fallo = destino.errorString();
         recibidos += trozo.size();
-        if (!fallo.isEmpty()) respuesta->abort();
+    };
+    QObject::connect(respuesta.get(), &QNetworkReply::readyRead, respuesta.get(), [&] {
+        consume();
+        // Abandoned once control is back in the event loop: Qt does not take an abort inside its own signal.
+        if (!fallo.isEmpty())
+            QMetaObject::invokeMethod(respuesta.get(), &QNetworkReply::abort, Qt::QueuedConnection);
     });
     if (progreso)
         QObject::connect(respuesta.get(), &QNetworkReply::downloadProgress, respuesta.get(),
                          [&](qint64 r, qint64 t) { progreso(r, t); });
     EsperaFin(*respuesta);
+    consume();
 
     const int estado = EstadoHttp(*respuesta);
     const qint64 anunciado = respuesta->header(QNetworkRequest::ContentLengthHeader).toLongLong();
     if (fallo.isEmpty()) {
-        if (respuesta->error() != QNetworkReply::NoError && estado == 0)
+        if (estado == 0)
             fallo = respuesta->errorString();
         else if (estado < 200 || estado >= 300)
             fallo = QStringLiteral("HTTP %1").arg(estado);

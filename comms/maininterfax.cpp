@@ -113,12 +113,12 @@ QString envia(QNetworkAccessManager& red, const QUrl& url, const QByteArray& aut
     cuerpo->setParent(respuesta.get());
     EsperaFin(*respuesta);
     const int estado = EstadoHttp(*respuesta);
-    const QByteArray leido = respuesta->readAll();
+    const QByteArray leido = respuesta->isOpen() ? respuesta->readAll() : QByteArray();
     if (estado >= 200 && estado < 300) {
         const QString ubicacion = QString::fromUtf8(respuesta->rawHeader("Location"));
         return ubicacion.mid(ubicacion.lastIndexOf(u'/') + 1);
     }
-    fallo = estado ? motivoServicio(estado, leido) : respuesta->errorString();
+    fallo = estado ? motivoServicio(estado, leido) : MotivoSinRespuesta(*respuesta, Config.GetEsperaFAXMs());
     return {};
 }
 

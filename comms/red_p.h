@@ -20,4 +20,21 @@ inline int EstadoHttp(const QNetworkReply& respuesta) {
     return respuesta.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
+/// Why no answer came, in Spanish for the clerk; `esperaMs` is the wait that was given.
+inline QString MotivoSinRespuesta(const QNetworkReply& respuesta, int esperaMs) {
+    switch (respuesta.error()) {
+    case QNetworkReply::ConnectionRefusedError:
+        return QStringLiteral("conexión rechazada");
+    case QNetworkReply::RemoteHostClosedError:
+        return QStringLiteral("el servidor ha cerrado la conexión sin responder");
+    case QNetworkReply::HostNotFoundError:
+        return QStringLiteral("no se encuentra el servidor");
+    case QNetworkReply::TimeoutError:
+    case QNetworkReply::OperationCanceledError:
+        return QStringLiteral("sin respuesta en %1 segundos").arg((esperaMs + 999) / 1000);
+    default:
+        return respuesta.errorString();
+    }
+}
+
 } // namespace nod

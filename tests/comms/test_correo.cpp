@@ -5,6 +5,7 @@
 #include "comms/sendmail.h"
 #include "companion/errores.h"
 #include "companion/mensajes.h"
+#include "tests/comms/imprime_qt.h"
 #include "tests/comms/servidor_correo.h"
 #include "tests/ident/servidor_http.h"
 #include "tests/support/oficina_prueba.h"

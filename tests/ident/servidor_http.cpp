@@ -46,7 +46,7 @@ void ServidorHttp::atiende(QTcpSocket* s, const PeticionHttp& p) {
     if (!m_cola.empty()) {
         r = m_cola.front();
         m_cola.pop_front();
-    } else if (auto it = m_porRuta.constFind(p.ruta.left(p.ruta.indexOf('?'))); it != m_porRuta.cend()) {
+    } else if (auto it = m_porRuta.constFind(p.ruta.split('?').front()); it != m_porRuta.cend()) {
         r = *it;
     }
     QByteArray cabecera = "HTTP/1.1 " + QByteArray::number(r.estado) + (r.estado < 300 ? " OK" : " Error") +
