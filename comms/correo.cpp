@@ -27,7 +27,8 @@ QStringList PartesDestinatarios(const QString& lista, const QString& prefijo) {
 }
 
 bool EnviarEmail(QObject* propietario, const QString& para, const QString& asunto, const QString& cuerpo,
-                 const QStringList& adjuntos, const QString& cc, const QString& bcc, bool acuseRecibo) {
+                 const QStringList& adjuntos, const QString& cc, const QString& bcc, bool acuseRecibo,
+                 const std::function<bool()>& cancelada) {
     if (para.isEmpty()) {
         Mensaje_Info(QStringLiteral("Debe indicar un destinatario en el cuadro Para"), kFaltanDatos);
         return false;
@@ -47,6 +48,7 @@ bool EnviarEmail(QObject* propietario, const QString& para, const QString& asunt
                          PartesDestinatarios(bcc, QStringLiteral("BCC:"));
     correo->Attachments = adjuntos;
     correo->AcuseRecibo = acuseRecibo;
+    correo->Cancelada = cancelada;
     correo->Send();
     return true;
 }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <QUrl>
+#include <functional>
 
 class QObject;
 
@@ -30,9 +31,11 @@ QStringList PartesDestinatarios(const QString& lista, const QString& prefijo);
 ///
 /// Returns true when the server accepted the message. Throws ErrorEnvio (companion/errores.h) when it was
 /// not sent: a wrong address or attachment, missing settings, or the server refusing, stalling or being out
-/// of reach; the message says what happened, for the clerk.
+/// of reach; the message says what happened, for the clerk. `cancelada`, when given, is polled while the
+/// message goes out; true abandons it (ErrorEnvio "Envío cancelado.").
 bool EnviarEmail(QObject* propietario, const QString& para, const QString& asunto, const QString& cuerpo,
-                 const QStringList& adjuntos, const QString& cc, const QString& bcc, bool acuseRecibo);
+                 const QStringList& adjuntos, const QString& cc, const QString& bcc, bool acuseRecibo,
+                 const std::function<bool()>& cancelada = {});
 
 /// The link `EnviarMail` hands to the shell: a new message to the maker's support desk (`CorreoFabricante`)
 /// with subject "Notario rectificación".

@@ -4,6 +4,7 @@
 #include "companion/errores.h"
 #include "companion/registro.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
@@ -254,6 +255,11 @@ ErrorEnvio errorCurl(CURLcode codigo, const char* detalle, const Rastro& rastro,
                           .arg(servidor)
                           .arg((s.esperaMs + 999) / 1000);
         break;
+    case CURLE_ABORTED_BY_CALLBACK:
+        texto = rastro.orden == "DATA"
+                    ? QStringLiteral("Envío cancelado: no consta que el correo se haya enviado.")
+                    : QStringLiteral("Envío cancelado.");
+        break;
     case CURLE_LOGIN_DENIED:
         texto = QStringLiteral("El servidor de correo %1 no acepta el usuario o la contraseña configurados.")
                     .arg(servidor);
@@ -284,11 +290,50 @@ ErrorEnvio errorCurl(CURLcode codigo, const char* detalle, const Rastro& rastro,
             texto = QStringLiteral("No se ha podido enviar el correo por el servidor %1 (%2).")
                         .arg(servidor, curl);
     }
-    if (codigo != CURLE_OPERATION_TIMEDOUT || rastro.orden != "DATA")
-        texto += QStringLiteral(" El correo no se ha enviado.");
+    if (!texto.contains(QStringLiteral("no consta"))) texto += QStringLiteral(" El correo no se ha enviado.");
     qCWarning(lcComms).noquote() << "SMTP sending failed:" << curl << "| last command" << rastro.orden
                                  << "| last reply" << rastro.respuesta;
     return ErrorEnvio(texto);
+}
+
+struct BorraMulti {
+    void operator()(CURLM* m) const { curl_multi_cleanup(m); }
+};
+
+// Processes the program's events and asks whether the sending was cancelled. libcurl calls it from the
+// waits it makes inside one call (the server's greeting, once a second), where `envia` is not reached.
+int progresa(void* datos, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
+    if (QCoreApplication::instance()) QCoreApplication::processEvents();
+    const auto& cancelada = *static_cast<const std::function<bool()>*>(datos);
+    return cancelada && cancelada() ? 1 : 0;
+}
+
+// Runs the transfer while the program's events are processed every 50 ms (the screen keeps painting) and
+// `cancelada` is polled; true abandons the transfer.
+CURLcode envia(CURL* c, const std::function<bool()>& cancelada) {
+    std::unique_ptr<CURLM, BorraMulti> multi(curl_multi_init());
+    if (!multi || curl_multi_add_handle(multi.get(), c) != CURLM_OK) return CURLE_OUT_OF_MEMORY;
+    CURLcode resultado = CURLE_OK;
+    for (int activas = 1; activas > 0;) {
+        if (curl_multi_perform(multi.get(), &activas) != CURLM_OK) {
+            resultado = CURLE_SEND_ERROR;
+            break;
+        }
+        if (activas == 0) {
+            int quedan = 0;
+            while (CURLMsg* m = curl_multi_info_read(multi.get(), &quedan))
+                if (m->msg == CURLMSG_DONE) resultado = m->data.result;
+            break;
+        }
+        curl_multi_poll(multi.get(), nullptr, 0, 50, nullptr);
+        if (QCoreApplication::instance()) QCoreApplication::processEvents();
+        if (cancelada && cancelada()) {
+            resultado = CURLE_ABORTED_BY_CALLBACK;
+            break;
+        }
+    }
+    curl_multi_remove_handle(multi.get(), c);
+    return resultado;
 }
 
 template <typename T> void fija(CURL* c, CURLoption opcion, T valor) {
@@ -447,7 +492,10 @@ void TMAPIMail::Send(const ServidorSmtp& s) const {
 
     qCInfo(lcComms).noquote() << "sending mail through" << QString::fromLatin1(url) << "to"
                               << destinatarios.size() << "recipients," << Attachments.size() << "attachments";
-    const CURLcode resultado = curl_easy_perform(c);
+    fija(c, CURLOPT_NOPROGRESS, 0L);
+    fija(c, CURLOPT_XFERINFOFUNCTION, &progresa);
+    fija(c, CURLOPT_XFERINFODATA, &Cancelada);
+    const CURLcode resultado = envia(c, Cancelada);
     if (resultado != CURLE_OK) throw errorCurl(resultado, detalle, rastro, s);
 }
 

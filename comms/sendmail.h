@@ -25,6 +25,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 namespace nod {
 
@@ -59,6 +60,11 @@ public:
     QStringList Attachments;
     /// Asks the recipients' mail programs for a read receipt (Disposition-Notification-To the sender).
     bool AcuseRecibo = false;
+    /// Polled while the message goes out (the program's events are processed meanwhile, so the screen
+    /// keeps painting, at least once a second); true abandons the sending. libcurl waits for the server's
+    /// answer to the finished message in a loop of its own: that last wait (at most `esperaMs`) neither
+    /// paints nor hears a cancel.
+    std::function<bool()> Cancelada;
 
     /// Sends the message with the office's settings.
     void Send() const;

@@ -17,6 +17,7 @@
 #include <QJsonDocument>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace nod {
@@ -375,6 +376,27 @@ TEST_F(CorreoTest, TransportFailuresAreClearAndBounded) {
         EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << c.nombre << ": " << error.toStdString();
         EXPECT_TRUE(servidor.mensajes().isEmpty()) << c.nombre;
     }
+}
+
+// The program's events go on while a message goes out: a timer fires, and the clerk's cancel is heard
+// long before the server's wait would end.
+TEST_F(CorreoTest, SendingKeepsTheEventLoopAliveAndCanBeCancelled) {
+    ServidorCorreo servidor({QStringLiteral("--modo"), QStringLiteral("calla-saludo")});
+    apunta(servidor);
+    Config.SetEsperaCorreoMs(20000);
+    bool cancelar = false;
+    QTimer::singleShot(200, [&] { cancelar = true; });
+    QElapsedTimer reloj;
+    reloj.start();
+    QString error;
+    try {
+        EnviarEmail(nullptr, QStringLiteral("ana@example.es"), QStringLiteral("a"), QStringLiteral("b"), {},
+                    {}, {}, false, [&] { return cancelar; });
+    } catch (const ErrorEnvio& e) {
+        error = e.mensaje();
+    }
+    EXPECT_LT(reloj.elapsed(), 10000);
+    EXPECT_EQ(error, QStringLiteral("Envío cancelado. El correo no se ha enviado."));
 }
 
 TEST_F(CorreoTest, AuthenticatesWithoutEverLoggingThePassword) {
