@@ -145,6 +145,7 @@ bool TFEditorMail::Envia() {
 void MuestraEmail(const QString& direccion) {
     TFEditorMail editor(VentanaPrincipal());
     editor.EPara->setText(direccion);
+    if (!direccion.isEmpty()) editor.EAsunto->setFocus(); // what is left to write
     editor.exec();
 }
 
