@@ -31,7 +31,7 @@ inline QString MotivoSinRespuesta(const QNetworkReply& respuesta, int esperaMs) 
         return QStringLiteral("no se encuentra el servidor");
     case QNetworkReply::TimeoutError:
     case QNetworkReply::OperationCanceledError:
-        return QStringLiteral("sin respuesta en %1 segundos").arg((esperaMs + 999) / 1000);
+        return QStringLiteral("sin respuesta en %1 s").arg((esperaMs + 999) / 1000);
     default:
         return respuesta.errorString();
     }

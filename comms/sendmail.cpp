@@ -26,8 +26,7 @@ enum class Clase { Para, Copia, Oculta };
 
 struct Destinatario {
     Clase clase;
-    QString direccion; // as written, trimmed
-    QByteArray ascii;  // for the envelope and the headers
+    QByteArray ascii; // for the envelope and the headers
 };
 
 // The ASCII form of an address, or empty when it cannot be one: a single "@" with something on both sides,
@@ -79,7 +78,7 @@ std::vector<Destinatario> leeDestinatarios(const QStringList& entradas) {
             throw ErrorEnvio(
                 QStringLiteral("La dirección de correo «%1» no es válida. El correo no se ha enviado.")
                     .arg(resto));
-        r.push_back({clase, resto, ascii});
+        r.push_back({clase, ascii});
     }
     return r;
 }
@@ -127,13 +126,8 @@ QByteArray citado(const QString& texto) {
 QByteArray nombreYDireccion(const QString& nombre, const QByteArray& direccion) {
     const QString n = nombre.trimmed();
     if (n.isEmpty()) return direccion;
-    QByteArray frase;
-    if (esAsciiImprimible(n) && !n.contains(QStringLiteral("=?"))) {
-        frase = citado(n);
-    } else {
-        frase = textoCabecera(n);
-    }
-    return frase + " <" + direccion + '>';
+    const bool llano = esAsciiImprimible(n) && !n.contains(QStringLiteral("=?"));
+    return (llano ? citado(n) : textoCabecera(n)) + " <" + direccion + '>';
 }
 
 QByteArray listaCabecera(const std::vector<Destinatario>& ds, Clase clase) {
@@ -239,6 +233,10 @@ ErrorEnvio errorCurl(CURLcode codigo, const char* detalle, const Rastro& rastro,
     const QString servidor = QStringLiteral("%1:%2").arg(s.servidor).arg(s.puerto);
     const QString curl = QString::fromUtf8(*detalle ? detalle : curl_easy_strerror(codigo));
     const bool rechazo = rastro.respuesta.startsWith('4') || rastro.respuesta.startsWith('5');
+    const int espera = (qMax(1, s.esperaMs) + 999) / 1000;
+    // Given up after the whole message went out: the server may have taken it.
+    const bool quizas = rastro.orden == "DATA" && !rechazo &&
+                        (codigo == CURLE_OPERATION_TIMEDOUT || codigo == CURLE_ABORTED_BY_CALLBACK);
     QString texto;
     switch (codigo) {
     case CURLE_COULDNT_RESOLVE_HOST:
@@ -246,19 +244,15 @@ ErrorEnvio errorCurl(CURLcode codigo, const char* detalle, const Rastro& rastro,
         texto = QStringLiteral("No se puede conectar con el servidor de correo %1 (%2).").arg(servidor, curl);
         break;
     case CURLE_OPERATION_TIMEDOUT:
-        texto = rastro.orden == "DATA"
-                    ? QStringLiteral("El servidor de correo %1 no ha confirmado el envío en %2 segundos: no "
-                                     "consta que el correo se haya enviado.")
-                          .arg(servidor)
-                          .arg((s.esperaMs + 999) / 1000)
-                    : QStringLiteral("El servidor de correo %1 no responde (%2 segundos de espera).")
-                          .arg(servidor)
-                          .arg((s.esperaMs + 999) / 1000);
+        texto = quizas ? QStringLiteral("El servidor de correo %1 no ha confirmado el envío en %2 s.")
+                             .arg(servidor)
+                             .arg(espera)
+                       : QStringLiteral("El servidor de correo %1 no responde (%2 s de espera).")
+                             .arg(servidor)
+                             .arg(espera);
         break;
     case CURLE_ABORTED_BY_CALLBACK:
-        texto = rastro.orden == "DATA"
-                    ? QStringLiteral("Envío cancelado: no consta que el correo se haya enviado.")
-                    : QStringLiteral("Envío cancelado.");
+        texto = QStringLiteral("Envío cancelado.");
         break;
     case CURLE_LOGIN_DENIED:
         texto = QStringLiteral("El servidor de correo %1 no acepta el usuario o la contraseña configurados.")
@@ -290,7 +284,8 @@ ErrorEnvio errorCurl(CURLcode codigo, const char* detalle, const Rastro& rastro,
             texto = QStringLiteral("No se ha podido enviar el correo por el servidor %1 (%2).")
                         .arg(servidor, curl);
     }
-    if (!texto.contains(QStringLiteral("no consta"))) texto += QStringLiteral(" El correo no se ha enviado.");
+    texto += quizas ? QStringLiteral(" No consta que el correo se haya enviado.")
+                    : QStringLiteral(" El correo no se ha enviado.");
     qCWarning(lcComms).noquote() << "SMTP sending failed:" << curl << "| last command" << rastro.orden
                                  << "| last reply" << rastro.respuesta;
     return ErrorEnvio(texto);

@@ -350,7 +350,7 @@ TEST_F(CorreoTest, TransportFailuresAreClearAndBounded) {
          {QStringLiteral("--modo"), QStringLiteral("calla-datos")},
          false,
          "NINGUNA",
-         "no ha confirmado el envío en 1 segundos: no consta que el correo se haya enviado"},
+         "no ha confirmado el envío en 1 s. No consta que el correo se haya enviado."},
         {"STARTTLS required, not offered", {}, false, "STARTTLS", "no ofrece una conexión segura (STARTTLS)"},
         {"implicit TLS against plain text", {}, false, "TLS", "conexión segura"},
         {"authentication required, none configured",

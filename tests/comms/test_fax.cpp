@@ -239,7 +239,7 @@ TEST_F(FaxTest, FailuresSayWhatWasSentAndWhatWasNot) {
          "enviado a: 922222222, 933333333.",
          2},
         {"silence", [](prueba::ServidorHttp& s) { s.calla(); },
-         "No se ha podido enviar el fax al 911111111 (sin respuesta en 1 segundos)", 1},
+         "No se ha podido enviar el fax al 911111111 (sin respuesta en 1 s)", 1},
         {"nobody listening",
          [](prueba::ServidorHttp&) {
              Config.SetServidorFAX(
