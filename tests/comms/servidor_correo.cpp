@@ -1,5 +1,7 @@
 #include "tests/comms/servidor_correo.h"
 
+#include "companion/config.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
@@ -26,6 +28,14 @@ ServidorCorreo::ServidorCorreo(const QStringList& opciones) {
 ServidorCorreo::~ServidorCorreo() {
     m_proceso.kill();
     m_proceso.waitForFinished(5000);
+}
+
+void ServidorCorreo::apunta() const {
+    Config.SetServidorCorreo(QStringLiteral("127.0.0.1"));
+    Config.SetPuertoCorreo(m_puerto);
+    Config.SetSeguridadCorreo(QStringLiteral("NINGUNA"));
+    Config.SetRemitenteCorreo(QStringLiteral("notaria@example.es"));
+    Config.SetEsperaCorreoMs(1000);
 }
 
 QList<QJsonObject> ServidorCorreo::mensajes() const {

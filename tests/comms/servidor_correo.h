@@ -25,6 +25,10 @@ public:
     /// The messages accepted so far, in order.
     QList<QJsonObject> mensajes() const;
 
+    /// Points the office's mail settings at this server: plain SMTP, sender "notaria@example.es", one
+    /// second of wait.
+    void apunta() const;
+
 private:
     QTemporaryDir m_carpeta;
     QProcess m_proceso;

@@ -4,7 +4,7 @@
 #include "comms/preguntadatosmovilcorreo.h"
 #include "companion/mensajes.h"
 #include "frame/shell.h"
-#include "tests/comms/imprime_qt.h"
+#include "tests/comms/apoyo.h"
 #include "tests/comms/servidor_correo.h"
 #include "tests/support/modal.h"
 #include "tests/support/oficina_prueba.h"
@@ -118,10 +118,7 @@ class EditorMailTest : public ::testing::Test {
 protected:
     void apunta(const prueba::ServidorCorreo& s) {
         ASSERT_NE(s.puerto(), 0) << s.error().toStdString();
-        Config.SetServidorCorreo(QStringLiteral("127.0.0.1"));
-        Config.SetPuertoCorreo(s.puerto());
-        Config.SetSeguridadCorreo(QStringLiteral("NINGUNA"));
-        Config.SetRemitenteCorreo(QStringLiteral("notaria@example.es"));
+        s.apunta();
         Config.SetEsperaCorreoMs(3000);
     }
     void rellena(TFEditorMail& e) {
@@ -139,11 +136,8 @@ TEST_F(EditorMailTest, EnviarSendsWhatTheEditorHoldsAndCloses) {
     prueba::ServidorCorreo servidor;
     apunta(servidor);
     QTemporaryDir carpeta;
-    const QString adjunto = QDir(carpeta.path()).filePath(QStringLiteral("copia.pdf"));
-    QFile f(adjunto);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("%PDF copia");
-    f.close();
+    const QString adjunto =
+        prueba::EscribeFichero(QDir(carpeta.path()).filePath(QStringLiteral("copia.pdf")), "%PDF copia");
 
     TFEditorMail e(nullptr);
     rellena(e);

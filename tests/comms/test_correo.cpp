@@ -5,7 +5,7 @@
 #include "comms/sendmail.h"
 #include "companion/errores.h"
 #include "companion/mensajes.h"
-#include "tests/comms/imprime_qt.h"
+#include "tests/comms/apoyo.h"
 #include "tests/comms/servidor_correo.h"
 #include "tests/ident/servidor_http.h"
 #include "tests/support/oficina_prueba.h"
@@ -36,19 +36,11 @@ class CorreoTest : public ::testing::Test {
 protected:
     void apunta(const ServidorCorreo& s) {
         ASSERT_NE(s.puerto(), 0) << s.error().toStdString();
-        Config.SetServidorCorreo(QStringLiteral("127.0.0.1"));
-        Config.SetPuertoCorreo(s.puerto());
-        Config.SetSeguridadCorreo(QStringLiteral("NINGUNA"));
-        Config.SetRemitenteCorreo(QStringLiteral("notaria@example.es"));
+        s.apunta();
         Config.SetNombreRemitenteCorreo(QStringLiteral("Notaría de Pruebas"));
-        Config.SetEsperaCorreoMs(1000);
     }
     QString fichero(const QString& nombre, const QByteArray& contenido) {
-        const QString ruta = QDir(adjuntos.path()).filePath(nombre);
-        QFile f(ruta);
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(contenido);
-        return ruta;
+        return prueba::EscribeFichero(QDir(adjuntos.path()).filePath(nombre), contenido);
     }
     // Sends through TMAPIMail and gives the error's message, empty when it was sent.
     static QString envia(const TMAPIMail& m) {

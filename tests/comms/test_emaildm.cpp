@@ -1,6 +1,6 @@
 // The e-mail data module's client name of each interested party, over real dBase tables.
 #include "comms/emaildm.h"
-#include "tests/comms/imprime_qt.h"
+#include "tests/comms/apoyo.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QDir>

@@ -4,7 +4,7 @@
 #include "comms/correo.h"
 #include "comms/maininterfax.h"
 #include "companion/errores.h"
-#include "tests/comms/imprime_qt.h"
+#include "tests/comms/apoyo.h"
 #include "tests/ident/servidor_http.h"
 #include "tests/support/oficina_prueba.h"
 
@@ -44,11 +44,7 @@ protected:
         servidor.respondeCon(aceptado("1"));
     }
     QString documento(const QString& nombre, const QByteArray& contenido) {
-        const QString ruta = QDir(carpeta.path()).filePath(nombre);
-        QFile f(ruta);
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(contenido);
-        return ruta;
+        return prueba::EscribeFichero(QDir(carpeta.path()).filePath(nombre), contenido);
     }
     QString fax(const QStringList& docs, const QStringList& numeros, const QString& usuario = {},
                 const QString& password = {}, const QString& ini = {}, QStringList* ids = nullptr) {

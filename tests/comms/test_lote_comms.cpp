@@ -2,6 +2,7 @@
 // servers on 127.0.0.1 by the request's "config", questions answered by its "answers".
 #include "apps/nodrim/lote.h"
 #include "comms/pasarela.h"
+#include "tests/comms/apoyo.h"
 #include "tests/comms/servidor_correo.h"
 #include "tests/ident/servidor_http.h"
 #include "tests/support/oficina_prueba.h"
@@ -34,11 +35,8 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     prueba::ServidorCorreo servidor;
     ASSERT_NE(servidor.puerto(), 0) << servidor.error().toStdString();
     QTemporaryDir carpeta;
-    const QString adjunto = QDir(carpeta.path()).filePath(QStringLiteral("factura.pdf"));
-    QFile f(adjunto);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("%PDF-1.4 factura");
-    f.close();
+    const QString adjunto = prueba::EscribeFichero(
+        QDir(carpeta.path()).filePath(QStringLiteral("factura.pdf")), "%PDF-1.4 factura");
 
     const json r = pide(
         {{"fn", "EnviarEmail"},
@@ -80,11 +78,8 @@ TEST(LoteComms, AScriptSendsAFaxAndChecksTheGateway) {
     servidor.respondeCon(aceptado);
     QTemporaryDir programa;
     FijaCarpetaPrograma(programa.path());
-    const QString doc = QDir(programa.path()).filePath(QStringLiteral("a.pdf"));
-    QFile f(doc);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("%PDF");
-    f.close();
+    const QString doc =
+        prueba::EscribeFichero(QDir(programa.path()).filePath(QStringLiteral("a.pdf")), "%PDF");
 
     const json fax =
         pide({{"fn", "EnviarFAXInterFax"},

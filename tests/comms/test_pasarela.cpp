@@ -7,7 +7,7 @@
 #include "comms/pasarela.h"
 #include "companion/equipo.h"
 #include "companion/mensajes.h"
-#include "tests/comms/imprime_qt.h"
+#include "tests/comms/apoyo.h"
 #include "tests/ident/servidor_http.h"
 #include "tests/support/oficina_prueba.h"
 
@@ -38,10 +38,7 @@ QByteArray lee(const QString& ruta) {
 }
 
 void escribe(const QString& ruta, const QByteArray& contenido) {
-    QDir().mkpath(QFileInfo(ruta).absolutePath());
-    QFile f(ruta);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(contenido);
+    prueba::EscribeFichero(ruta, contenido);
 }
 
 // Dialogs as "kind|title|text".
