@@ -39,7 +39,7 @@ bool EnviarEmail(QObject* propietario, const QString& para, const QString& asunt
 
 /// The link `EnviarMail` hands to the shell: a new message to the maker's support desk (`CorreoFabricante`)
 /// with subject "Notario rectificación".
-///     "mailto:soporte@zebsoft.es?subject=Notario%20rectificaci%C3%B3n" with the default setting
+///     "mailto:soporte@example.com?subject=Notario%20rectificaci%C3%B3n" with Correo=soporte@example.com
 QUrl EnlaceEnviarMail();
 
 /// Sends `documentos` to every fax number of `destinatarios` through the fax service (`FAX`), with the

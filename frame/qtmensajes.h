@@ -18,13 +18,17 @@ class ServicioMensajesQt : public ServicioMensajes {
 public:
     ~ServicioMensajesQt() override;
 
-    /// A box with the stop icon and one "&Aceptar" button.
+    /// A TCajaMensaje with the stop icon and one "&Aceptar" button.
     void error(const QString& texto, const QString& titulo) override;
-    /// A box with the information icon and one "&Aceptar" button.
+    /// A TCajaMensaje with the information icon and one "&Aceptar" button.
     void info(const QString& texto, const QString& titulo) override;
-    /// "&Si" / "&No", the focus on "&Si" when `focoEnSi`; Escape answers No. 1 yes, 2 no.
+    /// A TCajaMensaje with "&Si" / "&No", the focus on "&Si" when `focoEnSi`; Escape answers No. 1 yes,
+    /// 2 no.
     int pregunta(const QString& kind, const QString& texto, const QString& titulo, bool focoEnSi) override;
-    /// A small window without buttons, shown at once and kept above the program until closed.
+    /// A small window without buttons (`FEspera`, its text in `LEspera`), shown at once and kept above the
+    /// program until closed, just below the active window (above it when there is no room below) so that
+    /// the window's controls stay in sight. Its text is plain and wraps within half the screen's width;
+    /// Escape and the close button do not close it.
     void muestraEspera(const QString& texto) override;
     void cambiaEspera(const QString& texto) override;
     void cierraEspera() override;
@@ -37,6 +41,9 @@ public:
     QDialog* ventanaEspera() const { return m_espera; }
 
 private:
+    void ponTextoEspera(const QString& texto);
+    void colocaEspera();
+
     QPointer<QDialog> m_espera;
     QPointer<QLabel> m_textoEspera;
 };

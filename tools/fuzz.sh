@@ -1,9 +1,9 @@
 #!/bin/sh
 # Builds every fuzz target of fuzz/ with clang (libFuzzer, AddressSanitizer, UBSan) in its own build
 # folder and runs each in turn for a bounded time on its own corpus (build/fuzz/corpus/TARGET, which the
-# target seeds itself, plus fuzz/semillas/NAME when there is one), with the dictionary fuzz/TARGET.dict when there is one. Exits non-zero when a
-# target finds a crash, a sanitizer report, an input slower than 10 s or one that needs more than 2 GB;
-# the failing input is left as build/fuzz/TARGET-crash-...
+# target may seed itself, plus the seeds of fuzz/semillas/NAME when there are some), with the dictionary
+# fuzz/TARGET.dict when there is one. Exits non-zero when a target finds a crash, a sanitizer report,
+# an input slower than 10 s or one that needs more than 2 GB; the failing input is left as build/fuzz/TARGET-crash-...
 #   tools/fuzz.sh [seconds per target]      (default 60)
 set -eu
 cd "$(dirname "$0")/.."

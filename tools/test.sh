@@ -7,6 +7,15 @@ cd "$(dirname "$0")/.."
 tools/setup-debian.sh
 JOBS=$(nproc)
 
+# The dialogs' geometry is designed for Arial: it must be served by an Arial-metric font.
+case "$(fc-match Arial)" in
+*"Liberation Sans"*) ;;
+*)
+    echo "fc-match Arial gives \"$(fc-match Arial)\", not Liberation Sans: install fonts-liberation" >&2
+    exit 1
+    ;;
+esac
+
 cmake -S . -B build/asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DNOD_SANITIZE=ON -DNOD_BUILD_BENCH=OFF >/dev/null
 cmake --build build/asan -j "$JOBS"
 ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 \

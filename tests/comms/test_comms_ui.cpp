@@ -212,12 +212,13 @@ TEST_F(EditorMailTest, EnviarMailOpensTheSupportLinkOrSaysWhyNot) {
         abiertos.append(u);
         return abre;
     });
+    Config.SetCorreoFabricante(QStringLiteral("soporte@example.com"));
     EnviarMail(0);
     abre = false;
     EnviarMail(0);
     FijaAbridorShell(anterior);
     ASSERT_EQ(abiertos.size(), 2);
-    EXPECT_EQ(abiertos[0].toEncoded(), "mailto:soporte@zebsoft.es?subject=Notario%20rectificaci%C3%B3n");
+    EXPECT_EQ(abiertos[0].toEncoded(), "mailto:soporte@example.com?subject=Notario%20rectificaci%C3%B3n");
     ASSERT_EQ(guion.mostrados().size(), 1);
     EXPECT_EQ(guion.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
 }

@@ -112,8 +112,10 @@ TEST(LoteComms, PlainRoutinesAnswerWithTheirJsonTypes) {
           {"config", {{"UsuarioParaActualizar", "todos"}}}},
          false},
         {{{"fn", "PuedeActualizarEsteEquipo"}, {"args", json::array()}}, true},
-        {{{"fn", "EnviarMail"}, {"args", json::array()}},
-         "mailto:soporte@zebsoft.es?subject=Notario%20rectificaci%C3%B3n"},
+        {{{"fn", "EnviarMail"},
+          {"args", json::array()},
+          {"config", {{"CorreoFabricante", "soporte@example.com"}}}},
+         "mailto:soporte@example.com?subject=Notario%20rectificaci%C3%B3n"},
         {{{"fn", "tbInteresadosCalcFields"}, {"args", {0}}}, ""},
     };
     for (const auto& [peticion, resultado] : casos) {

@@ -1,6 +1,7 @@
 #include "tests/ident/servidor_http.h"
 
 #include <QTcpSocket>
+#include <QTimer>
 
 namespace nod::prueba {
 
@@ -55,13 +56,16 @@ void ServidorHttp::atiende(QTcpSocket* s, const PeticionHttp& p) {
                           "\r\n";
     for (const auto& [nombre, valor] : r.cabeceras)
         cabecera += nombre + ": " + valor + "\r\n";
-    s->write(cabecera + "\r\n" + (r.corta ? r.cuerpo.left(r.cuerpo.size() / 2) : r.cuerpo));
-    if (r.corta) {
-        s->flush();
-        s->abort();
-    } else {
-        s->disconnectFromHost();
-    }
+    cabecera += "\r\n" + (r.corta ? r.cuerpo.left(r.cuerpo.size() / 2) : r.cuerpo);
+    QTimer::singleShot(r.retrasoMs, s, [s, bytes = std::move(cabecera), corta = r.corta] {
+        s->write(bytes);
+        if (corta) {
+            s->flush();
+            s->abort();
+        } else {
+            s->disconnectFromHost();
+        }
+    });
 }
 
 void ServidorHttp::respondeCon(const RespuestaHttp& r) {

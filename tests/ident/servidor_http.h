@@ -18,9 +18,11 @@ struct PeticionHttp {
 };
 
 /// One answer: status, type and body, with any further headers. `corta` sends the headers and half of the
-/// body (the full length announced) and then closes the connection.
+/// body (the full length announced) and then closes the connection. `retrasoMs` delays the answer after
+/// its request has arrived (a slow peer).
 struct RespuestaHttp {
     int estado = 200;
+    int retrasoMs = 0;
     QByteArray cuerpo;
     QByteArray tipo = "text/xml; charset=utf-8";
     QList<QPair<QByteArray, QByteArray>> cabeceras;
@@ -35,11 +37,13 @@ public:
     quint16 puerto() const { return m_servidor.serverPort(); }
     QString base() const { return QStringLiteral("http://127.0.0.1:%1").arg(puerto()); }
 
-    /// The next answers: a status line and headers are added around `cuerpo`.
-    void respondeCon(const QByteArray& cuerpo, int estado = 200) {
+    /// The next answers: a status line and headers are added around `cuerpo`; each is sent `retrasoMs`
+    /// after its request has arrived, or at once.
+    void respondeCon(const QByteArray& cuerpo, int estado = 200, int retrasoMs = 0) {
         RespuestaHttp r;
         r.estado = estado;
         r.cuerpo = cuerpo;
+        r.retrasoMs = retrasoMs;
         respondeCon(r);
     }
     /// The answer to every request that has none of its own (`respondeEn`, `encola`).
