@@ -76,6 +76,8 @@ TFEditorMail::TFEditorMail(QWidget* owner)
     texto->setBuddy(MCuerpo);
     auto* adjuntos = new QLabel(QStringLiteral("Ad&juntos:"), this);
     adjuntos->setBuddy(LBAdjuntos);
+    // A list's accessible name does not come from its label's buddy as an edit's does.
+    LBAdjuntos->setAccessibleName(QStringLiteral("Adjuntos"));
     auto* botonesAdjuntos = new QVBoxLayout;
     botonesAdjuntos->addWidget(BBAnadir);
     botonesAdjuntos->addWidget(BBQuitar);
