@@ -313,8 +313,8 @@ TEST_F(PasarelaTest, GatewayIniIsWrittenOnceAndNeverOverwritten) {
     EXPECT_TRUE(guion.mostrados().isEmpty());
 }
 
-// A drive-root folder that cannot take the file: read-only (not for root, who writes anyway), or a file
-// standing where the folder should be (for everyone).
+// A drive-root folder that cannot take the file: read-only (not for root, who writes anyway), a file
+// standing where the folder should be, or a folder of the kernel's that refuses even root.
 TEST_F(PasarelaTest, GatewayIniThatCannotBeWrittenIsReported) {
     struct Caso {
         const char* nombre;
@@ -337,6 +337,11 @@ TEST_F(PasarelaTest, GatewayIniThatCannotBeWrittenIsReported) {
              QFile f(raiz);
              return f.open(QIODevice::WriteOnly) && f.write("x") == 1;
          }},
+        {"a folder not even root may write (the kernel's /sys)",
+         [](const QString&) {
+             Config.SetUnidadC(QStringLiteral("/sys"));
+             return QFileInfo(QStringLiteral("/sys")).isDir();
+         }},
     };
     for (const Caso& c : casos) {
         prueba::OficinaPrueba propia;
@@ -346,14 +351,15 @@ TEST_F(PasarelaTest, GatewayIniThatCannotBeWrittenIsReported) {
             std::cout << "[ skipped  ] " << c.nombre << ": running as root\n";
             continue;
         }
-        EXPECT_EQ(CompruebaPasarelaWebIni(), propia.ruta(QStringLiteral("C/PasarelaWeb.ini"))) << c.nombre;
+        const QString ini = Config.RutaUnidadC(QStringLiteral("C:\\PasarelaWeb.ini"));
+        EXPECT_EQ(CompruebaPasarelaWebIni(), ini) << c.nombre;
         QFile::setPermissions(raiz, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         ASSERT_EQ(guion.mostrados().size(), 1) << c.nombre;
         EXPECT_EQ(guion.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
         EXPECT_TRUE(guion.mostrados()[0].text.startsWith(
             QStringLiteral("No se ha podido crear el fichero de configuración de la Pasarela Web")))
             << c.nombre;
-        EXPECT_FALSE(QFileInfo(propia.ruta(QStringLiteral("C/PasarelaWeb.ini"))).isFile()) << c.nombre;
+        EXPECT_FALSE(QFileInfo(ini).isFile()) << c.nombre;
     }
 }
 
