@@ -5,6 +5,7 @@
 #include "companion/errores.h"
 #include "companion/esperadialogo.h"
 #include "companion/mensajes.h"
+#include "companion/modal.h"
 #include "frame/shell.h"
 #include "frame/ventanas.h"
 
@@ -148,7 +149,7 @@ void MuestraEmail(const QString& direccion) {
     TFEditorMail editor(VentanaPrincipal());
     editor.EPara->setText(direccion);
     if (!direccion.isEmpty()) editor.EAsunto->setFocus(); // what is left to write
-    editor.exec();
+    EjecutaModal(editor);
 }
 
 void EnviarMail(unsigned) {

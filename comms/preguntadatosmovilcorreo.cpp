@@ -2,6 +2,7 @@
 
 #include "companion/dialogo.h"
 #include "companion/filtroteclas.h"
+#include "companion/modal.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -73,7 +74,7 @@ void TFPreguntaDatosMovilCorreo::showEvent(QShowEvent* e) {
 
 bool PreguntaDatosMovilCorreo(QWidget* owner, const QString& nombre, QString& movil, QString& correo) {
     TFPreguntaDatosMovilCorreo forma(owner, nombre, movil, correo);
-    if (forma.exec() != 1) return false;
+    if (EjecutaModal(forma) != 1) return false;
     movil = forma.Movil();
     correo = forma.Correo();
     return true;

@@ -2,7 +2,7 @@
 // TFPreguntaDatosMovilCorreo: a client's mobile number and e-mail address, asked together.
 //
 //     TFPreguntaDatosMovilCorreo f(owner, "GARCÍA LÓPEZ, MARÍA", movil, correo);
-//     if (f.exec() == 1) { movil = f.Movil(); correo = f.Correo(); }
+//     if (EjecutaModal(f) == 1) { movil = f.Movil(); correo = f.Correo(); }
 //
 // Caption "Datos del Cliente, Movil y Correo"; the client's name on top; "Número de teléfono móvil:" with
 // `MEMovil`, which takes digits and "." only (typed or pasted; Backspace, Delete and the cursor keys always
