@@ -243,6 +243,7 @@ TEST_F(FaxTest, FailuresSayWhatWasSentAndWhatWasNot) {
          },
          "No se ha podido enviar el fax al 911111111 (conexión rechazada)", 0},
     };
+    prueba::RegistroCapturado registro;
     for (const Caso& c : casos) {
         prueba::ServidorHttp propio;
         Config.SetServidorFAX(propio.base());
@@ -250,8 +251,14 @@ TEST_F(FaxTest, FailuresSayWhatWasSentAndWhatWasNot) {
         c.prepara(propio);
         const QString error = fax({doc}, tres);
         EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << c.nombre << ": " << error.toStdString();
+        EXPECT_FALSE(error.contains(QStringLiteral("clave_cfg"))) << c.nombre;
         EXPECT_EQ(propio.peticiones().size(), c.peticiones) << c.nombre;
     }
+    // Neither the account's password nor its encoded form reaches the log.
+    const QString todo = registro.texto();
+    EXPECT_TRUE(todo.contains(QStringLiteral("922222222")));
+    EXPECT_FALSE(todo.contains(QStringLiteral("clave_cfg")));
+    EXPECT_FALSE(todo.contains(QString::fromLatin1(QByteArray("notaria_cfg:clave_cfg").toBase64())));
 }
 
 } // namespace
