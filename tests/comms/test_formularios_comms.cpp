@@ -106,17 +106,21 @@ TEST(FormulariosComms, MailEditorSendsFromAScript) {
                  {"press", "BBEnviar"}}}),
         // Closed without sending.
         editor({{{"set", {{"EAsunto", "Borrador"}}}, {"press", "BBCerrar"}}}),
-        // Without a subject the question comes from inside the form: a script cannot answer it there.
+        // Without a subject the editor asks, and the script's next answer (6, yes) sends it anyway.
         editor({{{"set", {{"MCuerpo", "Sin asunto"}}}, {"press", "BBEnviar"}}, 6}),
     });
     ASSERT_EQ(r.size(), 3u);
     EXPECT_FALSE(r[0].contains("error")) << r[0].dump();
     EXPECT_EQ(r[0]["dialogs"][0]["values"]["EPara"], "ana@example.es");
     EXPECT_FALSE(r[1].contains("error")) << r[1].dump();
-    EXPECT_TRUE(r[2].contains("error")) << r[2].dump();
+    ASSERT_FALSE(r[2].contains("error")) << r[2].dump();
+    EXPECT_EQ(r[2]["dialogs"][1]["kind"], "Mensaje_SiNo");
+    EXPECT_EQ(r[2]["dialogs"][1]["text"], "Mensaje sin asunto\n¿Desea enviarlo de todas formas?");
+    EXPECT_EQ(r[2]["dialogs"][1]["answer"], 1); // Mensaje_SiNo answers 1 for yes
 
     const QList<QJsonObject> m = servidor.mensajes();
-    ASSERT_EQ(m.size(), 1);
+    ASSERT_EQ(m.size(), 2);
+    EXPECT_EQ(m[1][u"subject"].toString(), QString());
     EXPECT_EQ(m[0][u"subject"].toString(), QStringLiteral("Copia simple nº 7"));
     EXPECT_EQ(m[0][u"to"].toArray(), QJsonArray{QStringLiteral("ana@example.es")});
     EXPECT_EQ(m[0][u"cc"].toArray(), QJsonArray{QStringLiteral("luis@example.es")});
