@@ -8,6 +8,7 @@ CatalogoDemo RegistraTodos() {
     RegistraDialogosIdent(c);
     RegistraDialogosProtocolo(c);
     RegistraDialogosPreguntas(c);
+    RegistraDialogosComms(c);
     return c;
 }
 

@@ -11,6 +11,7 @@ const Rutinas& TodasLasRutinas() {
         RegistraRutinasGeo(r);
         RegistraRutinasProtocolo(r);
         RegistraRutinasPreguntas(r);
+        RegistraRutinasComms(r);
         return r;
     }();
     return rutinas;
