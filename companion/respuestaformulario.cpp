@@ -10,12 +10,14 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QGroupBox>
+#include <QHash>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTextEdit>
+#include <algorithm>
 
 namespace nod {
 
@@ -247,13 +249,32 @@ QAbstractButton* BotonAceptar(const QDialog& d) {
     return nullptr;
 }
 
+namespace {
+
+// The values in the order a clerk would fill them in: the form's Tab order, so that a field another one
+// enables (a radio button, then the list it unlocks) is entered after it, whatever order the request
+// gave them in. Names the form lacks keep their place at the end, for the error that names them.
+QList<ValorControl> enOrdenDeTabulacion(QDialog& d, QList<ValorControl> valores) {
+    QHash<QString, int> posicion;
+    int i = 0;
+    for (QWidget* w = d.nextInFocusChain(); w && w != &d; w = w->nextInFocusChain())
+        if (!w->objectName().isEmpty() && !posicion.contains(w->objectName()))
+            posicion.insert(w->objectName(), i++);
+    std::stable_sort(valores.begin(), valores.end(), [&](const ValorControl& a, const ValorControl& b) {
+        return posicion.value(a.control, i) < posicion.value(b.control, i);
+    });
+    return valores;
+}
+
+} // namespace
+
 QString RespondeFormulario(QDialog& d, const RespuestaFormulario& r) {
     const auto busca = [&](const QString& nombre) -> QWidget* {
         for (QWidget* w : d.findChildren<QWidget*>(nombre))
             if (esDelFormulario(w, d)) return w;
         return nullptr;
     };
-    for (const ValorControl& v : r.fija) {
+    for (const ValorControl& v : enOrdenDeTabulacion(d, r.fija)) {
         QWidget* w = busca(v.control);
         if (!w)
             return QStringLiteral("the form %1 has no control %2")

@@ -23,7 +23,8 @@ struct ValorControl {
     QVariant valor;
 };
 
-/// A script's answer to a form: values entered in order, then one button pressed.
+/// A script's answer to a form: values, entered in the form's Tab order whatever their order here, then
+/// one button pressed.
 struct RespuestaFormulario {
     QList<ValorControl> fija;
     /// `objectName` of the button to press; empty presses the form's accept button (`BotonAceptar`).

@@ -8,8 +8,11 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QSpinBox>
 #include <QTest>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 using namespace nod;
@@ -63,6 +66,32 @@ TEST(RespuestaFormulario, ValuesGoInThroughTheHandlers) {
     EXPECT_EQ(f.cbTrimestre2->currentText(), QStringLiteral("SEGUNDO"));
     EXPECT_EQ(f.seAno12->value(), 2005);                 // completed on leaving the field
     EXPECT_EQ(f.ELetraNIF->text(), QStringLiteral("x")); // one character: the second key is refused
+}
+
+TEST(RespuestaFormulario, ValuesGoInInTabOrderSoAFieldIsEnabledBeforeItIsFilled) {
+    QDialog d;
+    auto* todas = new QRadioButton(QStringLiteral("Todas"), &d);
+    auto* una = new QRadioButton(QStringLiteral("Una"), &d);
+    auto* tablas = new QComboBox(&d);
+    auto* aceptar = new QPushButton(QStringLiteral("&Aceptar"), &d);
+    todas->setObjectName(QStringLiteral("RBTodas"));
+    una->setObjectName(QStringLiteral("RBUna"));
+    tablas->setObjectName(QStringLiteral("CBTablas"));
+    tablas->addItems({QStringLiteral("ACTIVOS"), QStringLiteral("CLIENTES")});
+    todas->setChecked(true);
+    tablas->setEnabled(false);
+    QObject::connect(una, &QRadioButton::toggled, tablas, &QComboBox::setEnabled);
+    QObject::connect(aceptar, &QPushButton::clicked, &d, [&] { d.done(1); });
+    auto* capa = new QVBoxLayout(&d);
+    for (QWidget* w : std::initializer_list<QWidget*>{todas, una, tablas, aceptar})
+        capa->addWidget(w);
+    muestra(d);
+    // The list first, as a JSON object's sorted keys would give it: it is still entered after the radio.
+    const QString e = RespondeFormulario(
+        d, {{{QStringLiteral("CBTablas"), QStringLiteral("CLIENTES")}, {QStringLiteral("RBUna"), true}}, {}});
+    EXPECT_TRUE(e.isEmpty()) << e.toStdString();
+    EXPECT_EQ(d.result(), 1);
+    EXPECT_EQ(tablas->currentText(), QStringLiteral("CLIENTES"));
 }
 
 TEST(RespuestaFormulario, AnswersThatDoNotFitAreRefusedNamingTheControl) {
