@@ -90,9 +90,9 @@ constexpr Revision kRevisiones[] = {
     {"POLIZAS", "POLIZAS", "CODCLIENTE", "CODCLIENTE", Describe::Protocolo, "CODNUMERO", "La póliza", M3},
     {"TESTIGOS", "TESTIGOS", "CODCLIENTE", "CODCLIENTE", Describe::Protocolo, "CODNUMERO",
      "El testigo del protocolo", M1 | M2 | M3},
-    {"TIT_CLI", "TIT_CLI", "CODCLIENTE", "CODCLIENTE", Describe::Palabras, "", "El titular", 0},
+    {"TIT_CLI", "TIT_CLI", "CODCLIENTE", "CODCLIENTE", Describe::Palabras, "", "El titular real", 0},
     {"TIT_REL", "TIT_REL", "CODCLIENTE", "CODCLIENTE", Describe::Protocolo, "CODNUMERO",
-     "El titular relacionado del protocolo", M1 | M3},
+     "El titular real del protocolo", M1 | M3},
     {"VALORES", "VALORES", "", "CODCLIENTE", Describe::Protocolo4, "CODNUMERO", "El valor", M3},
 };
 

@@ -101,7 +101,7 @@ public:
     NOD_REVISIONES_CON_MODO(NOD_X)
 #undef NOD_X
     // clang-format on
-    /// The client-holders table, in the common database.
+    /// The beneficial owners of the client companies (TIT_CLI), in the common database.
     void MuestraCodClienteIncorrectoEnTIT_CLI() {
         Revisa(QStringLiteral("TIT_CLI"), 0);
     }
