@@ -3,8 +3,8 @@
 // client (the checks of unit Seleccionmodorevisioncodcliente, without their form).
 //
 // Every table that stores a client code is read in each database where it lives; each code that is not
-// zero is searched in the clients table ("Clientes.dbf" of alias `GetAliasNodrim`, tag "CODIGO"), and
-// every miss becomes one line of the result set, e.g.
+// zero is searched among the codes of the clients table ("Clientes.dbf" of alias `GetAliasNodrim`, field
+// "CODIGO"), and every miss becomes one line of the result set, e.g.
 //     TABLA "En la Tabla APODERAD de COMUN"
 //     MENSAJE "El apoderado del poder 15/2.008 referencia al cliente 1.234"
 //     CODCLIENTE 1234
@@ -27,7 +27,9 @@
 // of a table with a record that cannot be read (the lines found before it stay). Both go to the log.
 //
 // Long runs keep the event loop turning between tables and every 65,536 records, so the progress window
-// repaints; memory grows with the lines found, not with the records read.
+// repaints. Memory grows with the lines found, not with the records read: each table's loaded image is
+// let go once its check is done (the table layer would otherwise keep it for the next opening), so a run
+// holds the clients' codes and one table at a time.
 
 #include <QList>
 #include <QString>
@@ -36,7 +38,7 @@
 
 namespace nod {
 
-class TTabla;
+class ConjuntoCodigos;
 
 /// One line of the result set (`cdsMensajes`).
 struct TMensajeRevision {
@@ -67,10 +69,11 @@ QList<int> ModosRevision(const QString& tabla);
 #define NOD_REVISIONES_CON_MODO(X)                                                                           \
     X(ACTIVOS)                                                                                               \
     X(APODERADOS)                                                                                            \
-    X(APUNTES) X(BANCOS) X(CLAVES) X(CLAVES_C) X(CLAVES_E) X(CLAVES_I) X(CLAVES_L) X(CLAVES_P) X(CLAVES_S)   \
-        X(CLIENTES) X(DEPOSITO) X(DEUDAS) X(ENTRADAS) X(FACTURAA) X(FACTURAB) X(FACTURAC) X(FACTURAD)        \
-            X(FACTURAX) X(FACTURAE) X(FACTURAF) X(FACTURAG) X(PLUSVAL) X(PODERES) X(POLIZAS) X(TESTIGOS)     \
-                X(TIT_REL) X(VALORES)
+    X(APUNTES)                                                                                               \
+    X(BANCOS) X(CLAVES) X(CLAVES_C) X(CLAVES_E) X(CLAVES_I) X(CLAVES_L) X(CLAVES_P) X(CLAVES_S) X(CLIENTES)  \
+        X(DEPOSITO) X(DEUDAS) X(ENTRADAS) X(FACTURAA) X(FACTURAB) X(FACTURAC) X(FACTURAD) X(FACTURAX)        \
+            X(FACTURAE) X(FACTURAF) X(FACTURAG) X(PLUSVAL) X(PODERES) X(POLIZAS) X(TESTIGOS) X(TIT_REL)      \
+                X(VALORES)
 
 class TRevisionCodCliente {
 public:
@@ -79,9 +82,9 @@ public:
     TRevisionCodCliente(const TRevisionCodCliente&) = delete;
     TRevisionCodCliente& operator=(const TRevisionCodCliente&) = delete;
 
-    /// Opens the clients table on its tag "CODIGO" and empties the result set. When the clients table
-    /// cannot be opened the clerk is told ("No se puede abrir la tabla de clientes: ...") and false comes
-    /// back; the checks then find nothing.
+    /// Reads the codes of the clients table (its field "CODIGO") and empties the result set. When the
+    /// clients table cannot be read the clerk is told ("No se puede abrir la tabla de clientes: ...") and
+    /// false comes back; the checks then find nothing.
     bool Prepara();
 
     /// The all-tables run: `Prepara`, then every check in the run's order and modes, the progress window
@@ -118,7 +121,7 @@ public:
 private:
     bool corre(const QStringList& tablas);
 
-    std::unique_ptr<TTabla> m_clientes;
+    std::unique_ptr<ConjuntoCodigos> m_clientes; // the codes of the clients table
     TMensajesRevision m_mensajes;
     qint64 m_leidos = 0;
 };

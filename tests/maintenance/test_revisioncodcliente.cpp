@@ -7,6 +7,7 @@
 #include "tests/maintenance/oficina_revision.h"
 #include "tests/support/oficina_prueba.h"
 
+#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 
@@ -246,6 +247,47 @@ TEST_F(Revision, WithoutAClientsTableTheClerkIsToldAndNothingIsListed) {
     EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
     EXPECT_TRUE(
         mensajes.mostrados()[0].text.startsWith(QStringLiteral("No se puede abrir la tabla de clientes")));
+}
+
+// Codes are searched exactly whatever their shape: whole codes up to 9 digits, beyond them, fractions,
+// negatives.
+TEST(RevisionCodigos, EveryShapeOfCodeIsSearchedExactly) {
+    OficinaPrueba o(ConfigOficinaRevision());
+    ServicioMensajesGuionado mensajes;
+    ServicioMensajesInstalado instalado(mensajes);
+    const QList<TCampoDbf> campos = {{QStringLiteral("CODIGO"), 'N', 12, 1},
+                                     {QStringLiteral("APELLIDOS"), 'C', 10, 0},
+                                     {QStringLiteral("NOMBRE"), 'C', 10, 0},
+                                     {QStringLiteral("CONYUGE"), 'N', 12, 1}};
+    const double clientes[] = {1, 64, 2.5, -7, 200000000, 99999999};
+    const double referidos[] = {1, 64, 63, 65, 2.5, 2.4, -7, -8, 200000000, 300000000, 99999999, 99999998};
+    QDir().mkpath(o.ruta(QStringLiteral("COMUN")));
+    CreaFicheroDbf(o.ruta(QStringLiteral("COMUN/CLIENTES.DBF")), campos);
+    {
+        auto tb = TTabla::AbreRuta(o.ruta(QStringLiteral("COMUN/CLIENTES.DBF")));
+        for (double c : clientes) {
+            tb->Append();
+            tb->SetFloat(QStringLiteral("CODIGO"), c);
+            tb->Post();
+        }
+    }
+    CreaFicheroDbf(o.ruta(QStringLiteral("COMUN/TIT_CLI.DBF")), {{QStringLiteral("CODCLIENTE"), 'N', 12, 1}});
+    {
+        auto tb = TTabla::AbreRuta(o.ruta(QStringLiteral("COMUN/TIT_CLI.DBF")));
+        for (double c : referidos) {
+            tb->Append();
+            tb->SetFloat(QStringLiteral("CODCLIENTE"), c);
+            tb->Post();
+        }
+    }
+    TRevisionCodCliente revision;
+    ASSERT_TRUE(revision.Prepara());
+    revision.MuestraCodClienteIncorrectoEnTIT_CLI();
+    QList<qint64> faltan;
+    for (const auto& m : revision.Mensajes())
+        faltan << m.CODCLIENTE;
+    // In the order of the tag CODCLIENTE; 2.4 is listed rounded, as the suite prints codes.
+    EXPECT_EQ(faltan, (QList<qint64>{-8, 2, 63, 65, 99999998, 300000000}));
 }
 
 TEST(MensajeTabla, SuffixOfEachDatabase) {
