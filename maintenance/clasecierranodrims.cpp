@@ -5,12 +5,12 @@
 #include "companion/hoy.h"
 #include "companion/mensajes.h"
 #include "companion/registro.h"
+#include "maintenance/conexiontcp.h"
 #include "maintenance/direccionpropia.h"
 #include "tables/tablas.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QTcpSocket>
 #include <QTime>
 #include <QTimer>
 
@@ -92,13 +92,11 @@ void borraFila(TTabla& tb) {
 TClaseCierraNodrims::TClaseCierraNodrims(QObject* owner, int modo)
     : m_owner(owner)
     , m_modo(modo)
-    , m_socket(std::make_unique<QTcpSocket>())
+    , m_socket(std::make_unique<TConexionTcp>())
     , m_pregunta(modo == 1 ? QStringLiteral("¿Desea abortar la actualización?")
                            : QStringLiteral("¿Desea abortar la operación?")) {}
 
-TClaseCierraNodrims::~TClaseCierraNodrims() {
-    m_socket->abort();
-}
+TClaseCierraNodrims::~TClaseCierraNodrims() = default; // the socket closes with it
 
 bool TClaseCierraNodrims::CierraNodrims() {
     // The result stays true whatever happens below, the operator's abort included: the callers carry on
@@ -159,7 +157,7 @@ void TClaseCierraNodrims::EnviaMensajes(TTabla& tb) {
             CambiaMensaje(noResponde);
             pausa();
         }
-        m_socket->abort();
+        m_socket->Cierra();
     }
 }
 
@@ -184,26 +182,11 @@ void TClaseCierraNodrims::TiempoDeEspera() {
 
 // Opens a connection to the workstation's update port: the connection is the message. Nothing needs
 // silencing here (on Windows the system's critical-error boxes are turned off around this call). The
-// wait for the connection keeps the event loop running and ends at `GetEsperaConexionActualizMs`.
+// event loop keeps running while the connection is made, for at most `GetEsperaConexionActualizMs`.
 bool TClaseCierraNodrims::contacta(const QString& equipo) {
     const int puerto = Config.GetPuertoActualiz();
-    if (puerto >= 1 && puerto <= 65535 && !equipo.isEmpty()) {
-        QEventLoop bucle;
-        QTimer limite;
-        limite.setSingleShot(true);
-        QObject::connect(m_socket.get(), &QTcpSocket::connected, &bucle, &QEventLoop::quit);
-        QObject::connect(m_socket.get(), &QTcpSocket::errorOccurred, &bucle, &QEventLoop::quit);
-        QObject::connect(&limite, &QTimer::timeout, &bucle, &QEventLoop::quit);
-        m_socket->connectToHost(equipo, quint16(puerto));
-        if (m_socket->state() != QAbstractSocket::ConnectedState &&
-            m_socket->state() != QAbstractSocket::UnconnectedState) {
-            limite.start(std::max(0, Config.GetEsperaConexionActualizMs()));
-            bucle.exec();
-        }
-        QObject::disconnect(m_socket.get(), nullptr, &bucle, nullptr);
-    }
-    // Told once connected: the program there may close the connection at once, as it leaves.
-    const bool conectado = m_socket->state() == QAbstractSocket::ConnectedState;
+    const bool conectado = puerto >= 1 && puerto <= 65535 &&
+                           m_socket->Conecta(equipo, quint16(puerto), Config.GetEsperaConexionActualizMs());
     CambiaMensaje(kInformando + equipo);
     pausa();
     return conectado;

@@ -26,10 +26,10 @@
 #include <memory>
 
 class QObject;
-class QTcpSocket;
 
 namespace nod {
 
+class TConexionTcp;
 class TTabla;
 
 class TClaseCierraNodrims {
@@ -74,7 +74,7 @@ private:
 
     QObject* m_owner;
     int m_modo;
-    std::unique_ptr<QTcpSocket> m_socket;
+    std::unique_ptr<TConexionTcp> m_socket;
     int m_fallos = 0;
     QString m_pregunta;
 };

@@ -5,6 +5,7 @@
 #include "companion/hoy.h"
 #include "companion/mensajes.h"
 #include "maintenance/clasecierranodrims.h"
+#include "maintenance/conexiontcp.h"
 #include "maintenance/direccionpropia.h"
 #include "maintenance/escuchacierre.h"
 #include "tables/tablas.h"
@@ -14,7 +15,6 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QTcpSocket>
 #include <arpa/inet.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -94,7 +94,7 @@ protected:
     // A program of the suite on `direccion`, listening on the shared update port (the first one chooses it).
     TEscuchaCierre& programa(const char* direccion) {
         auto* e = new TEscuchaCierre(&dueno);
-        EXPECT_TRUE(e->Escucha(puerto, QHostAddress(QLatin1String(direccion)))) << e->Error().toStdString();
+        EXPECT_TRUE(e->Escucha(puerto, QLatin1String(direccion))) << e->Error().toStdString();
         puerto = e->Puerto();
         Config.SetPuertoActualiz(puerto);
         const QString equipo = QLatin1String(direccion);
@@ -297,21 +297,23 @@ TEST_F(CierraNodrims, AnUnreadableConnectionTableIsReportedAndTheCallerCarriesOn
 
 TEST(EscuchaCierre, AConnectionAsksToCloseAndATakenPortIsRefused) {
     TEscuchaCierre a, b;
-    ASSERT_TRUE(a.Escucha(0, QHostAddress::LocalHost));
+    ASSERT_TRUE(a.Escucha(0, QStringLiteral("127.0.0.1")));
     QStringList avisos;
     QObject::connect(&a, &TEscuchaCierre::CierrePedido, [&](const QString& d) { avisos << d; });
-    QTcpSocket s;
-    s.connectToHost(QHostAddress::LocalHost, a.Puerto());
-    ASSERT_TRUE(s.waitForConnected(2000));
+    TConexionTcp c;
+    ASSERT_TRUE(c.Conecta(QStringLiteral("localhost"), a.Puerto(), 2000)); // a name, looked up
     QElapsedTimer t;
     t.start();
     while (avisos.isEmpty() && t.elapsed() < 2000)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
     EXPECT_EQ(avisos, QStringList{QStringLiteral("127.0.0.1")});
 
-    EXPECT_FALSE(b.Escucha(a.Puerto(), QHostAddress::LocalHost));
+    EXPECT_FALSE(b.Escucha(a.Puerto(), QStringLiteral("127.0.0.1")));
     EXPECT_FALSE(b.Error().isEmpty());
     EXPECT_EQ(b.Puerto(), 0);
+    EXPECT_FALSE(b.Escucha(0, QStringLiteral("no es una dirección")));
+    a.Deja();
+    EXPECT_FALSE(c.Conecta(QStringLiteral("127.0.0.1"), a.Puerto(), 2000));
 }
 
 } // namespace
