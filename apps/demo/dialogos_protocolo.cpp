@@ -1,12 +1,13 @@
 // The protocol family in the demo: the invoice-number form and the fee calculator page.
 #include "apps/demo/catalogo.h"
+#include "companion/dialogo.h"
+#include "companion/editimporte.h"
 #include "protocol/calculadorahonorarios.h"
 #include "protocol/preguntanumerofactura.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -33,11 +34,12 @@ QString calculadoraHonorarios(QWidget* owner) {
     pagina->ECuantia->setText(QStringLiteral("150.000,00"));
     pagina->ECuantiaPoliza->setText(QStringLiteral("2.000.000"));
     auto* botones = new QDialogButtonBox(&d);
-    botones->addButton(QStringLiteral("&Cerrar"), QDialogButtonBox::RejectRole);
+    botones->addButton(QStringLiteral("Ce&rrar"), QDialogButtonBox::RejectRole);
     QObject::connect(botones, &QDialogButtonBox::rejected, &d, &QDialog::reject);
     auto* capa = new QVBoxLayout(&d);
     capa->addWidget(pagina);
     capa->addWidget(botones);
+    AplicaConvencionesDialogo(&d);
     d.exec();
     return QStringLiteral("escritura %1, póliza %2, total con IVA %3")
         .arg(pagina->LHonorarioEscritura->text(), pagina->LHonorarioPoliza->text(), pagina->LTotal->text());

@@ -13,7 +13,6 @@
 
 #include <QDateEdit>
 #include <QLabel>
-#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableWidget>
@@ -332,7 +331,7 @@ TEST(ServicioQt, ErrorBoxHasOneAcceptButton) {
     prueba::AlAbrirseModal([&](QWidget* w) {
         for (auto* b : w->findChildren<QPushButton*>())
             botones << b->text();
-        texto = static_cast<QMessageBox*>(w)->text();
+        texto = w->findChild<QLabel*>(QStringLiteral("LTexto"))->text();
         QTest::keyClick(w, Qt::Key_Escape);
     });
     Mensaje_Error(QStringLiteral("No existe la carpeta"), QStringLiteral("Error"));
