@@ -372,15 +372,16 @@ def fecha_de(azar, anno):
 
 def filas_con_clientes(carpeta, tabla, n, fila):
     """n rows made by fila(azar, i) (a dict without client code), each given the code of an existing
-    client or, one row in nine, zero; then the dangling codes of COLGADOS at fixed places among them."""
+    client or, one row in nine, zero; then the dangling codes of COLGADOS at places drawn among them."""
     azar = random.Random(f"{carpeta}/{tabla}")
     filas = []
     for i in range(n):
         f = fila(azar, i)
         f["_CLIENTE"] = 0 if i % 9 == 4 else azar.randrange(1, CLIENTES_EXISTENTES + 1)
         filas.append(f)
-    for k, codigo in enumerate(COLGADOS.get((carpeta, tabla), [])):
-        filas[(7 + 11 * k) % n]["_CLIENTE"] = codigo
+    colgados = COLGADOS.get((carpeta, tabla), [])
+    for sitio, codigo in zip(sorted(azar.sample(range(n), len(colgados))), colgados):
+        filas[sitio]["_CLIENTE"] = codigo
     return filas
 
 

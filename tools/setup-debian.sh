@@ -5,7 +5,7 @@ set -eu
 
 PAQUETES="cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev libbenchmark-dev
 nlohmann-json3-dev libshp-dev libcurl4-openssl-dev libicu-dev clang libclang-rt-14-dev xvfb xauth
-locales python3 python3-dbfread python3-stdnum python3-aiosmtpd iso-codes"
+locales python3 python3-dbfread python3-stdnum python3-aiosmtpd iso-codes poppler-utils"
 
 # Tests also run under a Spanish locale, whose decimal comma must never leak into machine formats.
 generar_locale() {
