@@ -72,9 +72,10 @@ QList<int> ModosRevision(const QString& tabla);
     X(APUNTES)                                                                                               \
     X(BANCOS)                                                                                                \
     X(CLAVES)                                                                                                \
-    X(CLAVES_C) X(CLAVES_E) X(CLAVES_I) X(CLAVES_L) X(CLAVES_P) X(CLAVES_S) X(CLIENTES) X(DEPOSITO)          \
-        X(DEUDAS) X(ENTRADAS) X(FACTURAA) X(FACTURAB) X(FACTURAC) X(FACTURAD) X(FACTURAX) X(FACTURAE)        \
-            X(FACTURAF) X(FACTURAG) X(PLUSVAL) X(PODERES) X(POLIZAS) X(TESTIGOS) X(TIT_REL) X(VALORES)
+    X(CLAVES_C)                                                                                              \
+    X(CLAVES_E) X(CLAVES_I) X(CLAVES_L) X(CLAVES_P) X(CLAVES_S) X(CLIENTES) X(DEPOSITO) X(DEUDAS)            \
+        X(ENTRADAS) X(FACTURAA) X(FACTURAB) X(FACTURAC) X(FACTURAD) X(FACTURAX) X(FACTURAE) X(FACTURAF)      \
+            X(FACTURAG) X(PLUSVAL) X(PODERES) X(POLIZAS) X(TESTIGOS) X(TIT_REL) X(VALORES)
 
 class TRevisionCodCliente {
 public:
