@@ -2,9 +2,11 @@
 #include "companion/dialogo.h"
 #include "maintenance/listarevisioncodclienteqr.h"
 
+#include <QGuiApplication>
 #include <QPageLayout>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QScreen>
 
 namespace nod {
 
@@ -22,6 +24,12 @@ void TQRListaRevisionCodCliente::Preview(QWidget* owner) const {
     QPrintPreviewDialog vista(&impresora, owner);
     vista.setObjectName(QStringLiteral("QRListaRevisionCodCliente"));
     vista.setWindowTitle(Caption());
+    // Large enough to read a page: most of the screen's height, a page's proportion in width.
+    if (const QScreen* pantalla = owner ? owner->screen() : QGuiApplication::primaryScreen()) {
+        const QRect zona = pantalla->availableGeometry();
+        const int alto = zona.height() * 9 / 10;
+        vista.resize(std::min(zona.width() * 9 / 10, alto * 4 / 5), alto);
+    }
     QObject::connect(&vista, &QPrintPreviewDialog::paintRequested, &vista,
                      [this](QPrinter* p) { Dibuja(*p); });
     AplicaConvencionesDialogo(&vista);
