@@ -282,7 +282,10 @@ std::vector<Fallo> recorre(TTabla& tb, const Revision& r, int modo, const Conjun
     const QString fichero = L(r.fichero);
     const int campo = tb.IndiceCampo(L(r.campo));
     const auto camposClave = *r.indice ? CamposDeIndice(fichero, L(r.indice), tb.Campos()) : QStringList();
-    if (campo < 0 || !camposClave) {
+    const bool tieneClave =
+        camposClave && std::all_of(camposClave->begin(), camposClave->end(),
+                                   [&](const QString& c) { return tb.IndiceCampo(c) >= 0; });
+    if (campo < 0 || !tieneClave) {
         qCWarning(lcTablas).noquote() << tb.Ruta() << "lacks the field" << r.campo << "or the tag" << r.indice
                                       << "of the client-code revision";
         return {};

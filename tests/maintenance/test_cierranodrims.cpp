@@ -9,7 +9,7 @@
 #include "maintenance/direccionpropia.h"
 #include "maintenance/escuchacierre.h"
 #include "tables/tablas.h"
-#include "tests/maintenance/impresion.h"
+#include "tests/maintenance/ayudas.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QCoreApplication>
@@ -129,13 +129,7 @@ protected:
     }
 
     // The texts of the message window, in order.
-    QStringList textos() const {
-        QStringList l;
-        for (const DialogoMostrado& d : mensajes.mostrados())
-            if (d.kind == QLatin1String("MuestraMensaje") || d.kind == QLatin1String("CambiaMensaje"))
-                l << d.text;
-        return l;
-    }
+    QStringList textos() const { return prueba::TextosEspera(mensajes); }
     qsizetype preguntas() const {
         return std::count_if(
             mensajes.mostrados().begin(), mensajes.mostrados().end(),

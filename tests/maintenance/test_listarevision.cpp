@@ -2,7 +2,7 @@
 // page, every line in order, the page count at the foot, the empty list, a file that cannot be written.
 #include "companion/rnumcad.h"
 #include "maintenance/listarevisioncodclienteqr.h"
-#include "tests/maintenance/impresion.h"
+#include "tests/maintenance/ayudas.h"
 
 #include <QProcess>
 #include <QRegularExpression>

@@ -3,7 +3,7 @@
 // or with an unreadable record, and no clients table at all.
 #include "companion/mensajes.h"
 #include "maintenance/revisioncodcliente.h"
-#include "tests/maintenance/impresion.h"
+#include "tests/maintenance/ayudas.h"
 #include "tests/maintenance/oficina_revision.h"
 #include "tests/support/oficina_prueba.h"
 
@@ -88,18 +88,7 @@ protected:
     QString ruta(const TablaRevisionPrueba& t, int modo) const {
         return oficina.ruta(CarpetaDeModo(modo) + QLatin1Char('/') + t.fichero + QStringLiteral(".DBF"));
     }
-    QList<Linea> sinTabla(const QString& fichero, int modo) const {
-        QList<Linea> l = esperadas;
-        l.removeIf([&](const Linea& x) { return x.tabla == mensajeTabla(fichero, modo); });
-        return l;
-    }
-    QStringList textosEspera() const {
-        QStringList l;
-        for (const auto& d : mensajes.mostrados())
-            if (d.kind == QLatin1String("MuestraMensaje") || d.kind == QLatin1String("CambiaMensaje"))
-                l << d.text;
-        return l;
-    }
+    QStringList textosEspera() const { return TextosEspera(mensajes); }
 
     OficinaPrueba oficina;
     ServicioMensajesGuionado mensajes;
@@ -221,6 +210,22 @@ TEST_F(Revision, AMissingDamagedOrLockedTableIsSkippedAndTheRunGoesOn) {
                l.tabla == mensajeTabla(QStringLiteral("CLAVES_S"), 3);
     });
     EXPECT_EQ(lineas(revision.Mensajes()), quedan);
+}
+
+// A table whose layout lacks the searched field or a field of the check's tag cannot be walked as the
+// check walks it: it is skipped like a table that cannot be opened.
+TEST_F(Revision, ATableWithoutTheFieldsOfTheCheckIsSkipped) {
+    TablaRevisionPrueba sinSerie = TablaRevisionPorNombre(QStringLiteral("APUNTES"));
+    sinSerie.campos.removeIf([](const TCampoDbf& c) { return c.nombre == QLatin1String("SERIE"); });
+    EscribeTablaRevision(ruta(sinSerie, 0), sinSerie, 5, [](qint64) { return 990000; });
+    TablaRevisionPrueba sinCliente = TablaRevisionPorNombre(QStringLiteral("BANCOS"));
+    sinCliente.campoCliente = QStringLiteral("OTRO");
+    sinCliente.campos.last().nombre = QStringLiteral("OTRO");
+    EscribeTablaRevision(ruta(sinCliente, 0), sinCliente, 5, [](qint64) { return 990000; });
+    ASSERT_TRUE(revision.Prepara());
+    revision.MuestraCodClienteIncorrectoEnAPUNTES(0);
+    revision.MuestraCodClienteIncorrectoEnBANCOS(0);
+    EXPECT_TRUE(revision.Mensajes().isEmpty());
 }
 
 // A record whose client code is no number ends the reading of its table; what was found before stays.

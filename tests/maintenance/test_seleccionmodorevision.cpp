@@ -3,7 +3,7 @@
 #include "companion/mensajes.h"
 #include "maintenance/listarevisioncodclienteqr.h"
 #include "maintenance/seleccionmodorevisioncodcliente.h"
-#include "tests/maintenance/impresion.h"
+#include "tests/maintenance/ayudas.h"
 #include "tests/support/modal.h"
 #include "tests/support/oficina_prueba.h"
 
