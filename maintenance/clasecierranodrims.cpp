@@ -165,9 +165,11 @@ bool TClaseCierraNodrims::TablaConexionCorrecta(const TTabla& tb) const {
     switch (m_modo) {
     case 1:
         return tb.RecordCount() == 0;
-    case 2:
+    case 2: {
         // With one row in view the cursor stands on it (also past it, at the end).
-        return tb.RecordCount() == 1 && tb.AsString(tb.IndiceCampo(QStringLiteral("EQUIPO"))) == DameIP();
+        const int equipo = tb.IndiceCampo(QStringLiteral("EQUIPO"));
+        return tb.RecordCount() == 1 && equipo >= 0 && tb.AsString(equipo) == DameIP();
+    }
     default:
         return true;
     }

@@ -72,7 +72,7 @@ private:
     bool contacta(const QString& equipo);
     void pausa() const;
 
-    QObject* m_owner;
+    [[maybe_unused]] QObject* m_owner; // the caller's form; the windows shown here belong to the program
     int m_modo;
     std::unique_ptr<TConexionTcp> m_socket;
     int m_fallos = 0;
