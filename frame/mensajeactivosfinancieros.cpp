@@ -57,6 +57,7 @@ TFMensajeActivosFinancieros::TFMensajeActivosFinancieros(QWidget* owner)
     texto->setReadOnly(true);
     texto->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     texto->setHtml(TextoAyuda()); // the box's own fixed text: the one place where markup is meant
+    titulo->setBuddy(texto);      // the title names the text for screen readers
 
     auto* barra = new QWidget(this);
     barra->setObjectName(QStringLiteral("PBotones"));

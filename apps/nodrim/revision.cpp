@@ -129,6 +129,12 @@ int MainRevisionSiToca(int argc, char** argv) {
     const std::unique_ptr<QCoreApplication> app(crea ? crea(&argc, argv) : new QCoreApplication(argc, argv));
     std::setlocale(LC_NUMERIC, "C"); // machine formats never follow the user's decimal comma
 
+    // A folder named by --office or $NODRIM_DIR must exist; only the bundled sample office has defaults.
+    const QString nombrada = o->office.isEmpty() ? qEnvironmentVariable("NODRIM_DIR") : o->office;
+    if (!nombrada.isEmpty() && !QFileInfo(nombrada).isDir()) {
+        std::cerr << "nodrim: the office folder " << nombrada.toStdString() << " is not a folder\n";
+        return 1;
+    }
     Config.Carga(CarpetaOficinaPorDefecto(o->office)); // its warnings go to the log (standard error)
     ServicioConsola consola;
     ServicioMensajesInstalado instalado(consola);
