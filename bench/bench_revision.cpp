@@ -1,6 +1,8 @@
-// The client-code revision over 1,000,000 referring records and 100,000 clients: the whole all-tables run
-// (thirty tables in four databases, the report excluded), with the table images already loaded and read
-// from the files each time, beside a minimal loop over the same files for comparison.
+// The client-code revision, the whole all-tables run (thirty tables in four databases, the report
+// excluded): on the sample office, and on generated offices of 250,000 and 1,000,000 referring records
+// and 100,000 clients, with the table images already loaded and read from the files each time, beside a
+// minimal loop over the same files. Memory is the peak resident size reached during the runs above what
+// was resident before them: it must not grow with the records read.
 #include "companion/config.h"
 #include "maintenance/revisioncodcliente.h"
 #include "tables/tablas.h"
@@ -14,9 +16,11 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <cstring>
 #include <fcntl.h>
+#include <map>
+#include <memory>
 #include <random>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace nod;
@@ -25,14 +29,21 @@ using namespace nod::prueba;
 namespace {
 
 constexpr qint64 kClientes = 100000;
-constexpr qint64 kReferentes = 1000000;
 
-// Resident memory of the process, in MB.
-double residenteMB() {
-    QFile f(QStringLiteral("/proc/self/statm"));
+// A line of /proc/self/status ("VmRSS", "VmHWM"), in MB.
+double estadoMB(const char* clave) {
+    QFile f(QStringLiteral("/proc/self/status"));
     if (!f.open(QIODevice::ReadOnly)) return 0;
-    const QList<QByteArray> campos = f.readAll().split(' ');
-    return campos.size() > 1 ? campos[1].toDouble() * double(sysconf(_SC_PAGESIZE)) / (1024.0 * 1024.0) : 0;
+    for (const QByteArray& l : f.readAll().split('\n'))
+        if (l.startsWith(clave))
+            return l.mid(qsizetype(std::strlen(clave)) + 1).trimmed().split(' ')[0].toDouble() / 1024.0;
+    return 0;
+}
+
+// Starts a new peak of resident memory (Linux: "5" to clear_refs resets VmHWM to the present size).
+void reiniciaPico() {
+    QFile f(QStringLiteral("/proc/self/clear_refs"));
+    if (f.open(QIODevice::WriteOnly)) f.write("5");
 }
 
 // The office, written once: the referring records shared evenly among the tables of every database
@@ -41,7 +52,7 @@ struct OficinaGrande {
     QTemporaryDir dir;
     qint64 colgados = 0;
     qint64 bytes = 0; // size of all the tables
-    OficinaGrande() {
+    explicit OficinaGrande(qint64 referentes) {
         QDir(dir.path()).mkpath(QStringLiteral("CONFIG"));
         QFile ini(dir.filePath(QStringLiteral("CONFIG/CONFIG.INI")));
         ini.open(QIODevice::WriteOnly);
@@ -53,7 +64,7 @@ struct OficinaGrande {
         int tablas = 0;
         for (const auto& t : TablasRevisionPrueba())
             if (t.nombre != QLatin1String("CLIENTES")) tablas += std::max(1, std::popcount(t.modos));
-        const qint64 porTabla = kReferentes / tablas;
+        const qint64 porTabla = referentes / tablas;
         for (const auto& t : TablasRevisionPrueba()) {
             if (t.nombre == QLatin1String("CLIENTES")) continue;
             for (int modo = 0; modo < 4; ++modo) {
@@ -74,16 +85,20 @@ struct OficinaGrande {
     }
 };
 
-const OficinaGrande& oficina() {
-    static const OficinaGrande o;
-    return o;
+// One office of each size, written when first asked for (the larger takes some seconds).
+const OficinaGrande& oficina(qint64 referentes) {
+    static std::map<qint64, std::unique_ptr<OficinaGrande>> oficinas;
+    auto& o = oficinas[referentes];
+    if (!o) o = std::make_unique<OficinaGrande>(referentes);
+    return *o;
 }
 
-void revisa(benchmark::State& st, bool enFrio) {
-    const OficinaGrande& o = oficina();
-    Config.Carga(o.dir.path());
+void revisa(benchmark::State& st, const QString& carpeta, bool enFrio) {
+    Config.Carga(carpeta);
+    OlvidaTablasCargadas();
     qint64 leidos = 0, lineas = 0;
-    const double antes = residenteMB();
+    const double antes = estadoMB("VmRSS:");
+    reiniciaPico();
     for (auto _ : st) {
         if (enFrio) OlvidaTablasCargadas();
         TRevisionCodCliente r;
@@ -92,32 +107,44 @@ void revisa(benchmark::State& st, bool enFrio) {
         lineas = r.Mensajes().size();
     }
     st.counters["registros/s"] = benchmark::Counter(double(leidos), benchmark::Counter::kIsRate);
+    st.counters["registros"] = double(leidos) / double(st.iterations());
     st.counters["lineas"] = double(lineas);
-    st.counters["colgados"] = double(o.colgados);
-    // Memory: what a run leaves resident, and the process's peak beside the size of the tables read.
-    st.counters["MB_residentes_mas"] = residenteMB() - antes;
-    rusage uso{};
-    getrusage(RUSAGE_SELF, &uso);
-    st.counters["MB_pico_proceso"] = double(uso.ru_maxrss) / 1024.0;
-    st.counters["MB_tablas"] = double(o.bytes) / (1024.0 * 1024.0);
+    // Memory: the peak during the runs above what was resident before, and what the runs leave behind.
+    st.counters["MB_pico_mas"] = estadoMB("VmHWM:") - antes;
+    st.counters["MB_quedan_mas"] = estadoMB("VmRSS:") - antes;
 }
 
-// Every run after the first finds the tables' images loaded (the files did not change).
+// Generated offices. Every run after the first finds the tables' images loaded (the files did not change).
 void BM_RevisionTodasTablas(benchmark::State& st) {
-    revisa(st, false);
+    const OficinaGrande& o = oficina(st.range(0));
+    revisa(st, o.dir.path(), false);
+    st.counters["colgados"] = double(o.colgados);
+    st.counters["MB_tablas"] = double(o.bytes) / (1024.0 * 1024.0);
 }
-BENCHMARK(BM_RevisionTodasTablas)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_RevisionTodasTablas)->Arg(250000)->Arg(1000000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 // Every run reads every file again.
 void BM_RevisionTodasTablasEnFrio(benchmark::State& st) {
-    revisa(st, true);
+    const OficinaGrande& o = oficina(st.range(0));
+    revisa(st, o.dir.path(), true);
+    st.counters["MB_tablas"] = double(o.bytes) / (1024.0 * 1024.0);
 }
-BENCHMARK(BM_RevisionTodasTablasEnFrio)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(BM_RevisionTodasTablasEnFrio)
+    ->Arg(250000)
+    ->Arg(1000000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+
+// The sample office as the demo program revises it, read from the files each time.
+void BM_RevisionOficinaMuestra(benchmark::State& st) {
+    revisa(st, QStringLiteral(NOD_SOURCE_DIR "/sample-office"), true);
+}
+BENCHMARK(BM_RevisionOficinaMuestra)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 // For comparison: a minimal loop over the same files, each read whole, the client code parsed at its
 // offset and searched in a sorted array of the clients' codes.
 void BM_BucleMinimo(benchmark::State& st) {
-    const OficinaGrande& o = oficina();
+    const OficinaGrande& o = oficina(1000000);
     std::vector<qint64> clientes;
     for (qint64 i = 1; i <= kClientes; ++i)
         clientes.push_back(i);
