@@ -1,9 +1,11 @@
 // The printed list of the revision as PDF, read back with poppler's pdftotext and pdfinfo: heads on every
-// page, every line in order, the page count at the foot, the empty list, a file that cannot be written.
+// page, every line in order, the page count at the foot, the empty list, a file that cannot be written;
+// and a page rendered by pdftoppm, to see where the ink lies.
 #include "companion/rnumcad.h"
 #include "maintenance/listarevisioncodclienteqr.h"
 #include "tests/maintenance/ayudas.h"
 
+#include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -100,6 +102,82 @@ TEST_F(ListaRevision, AnEmptyListSaysSoOnOnePage) {
     ASSERT_EQ(p.size(), 1);
     EXPECT_TRUE(p[0].contains(QStringLiteral("No se han encontrado códigos de clientes erróneos.")));
     EXPECT_TRUE(p[0].contains(QStringLiteral("Página 1 de 1")));
+}
+
+// Ink of a page (pixels darker than mid grey). Rows inked across most of the page are the list's rules,
+// not text: they are left out of the blocks of text.
+struct Tinta {
+    explicit Tinta(const QImage& pagina)
+        : imagen(pagina.convertToFormat(QImage::Format_Grayscale8)) {}
+    bool oscuro(int x, int y) const { return qGray(imagen.pixel(x, y)) < 128; }
+    int enFila(int y) const {
+        int n = 0;
+        for (int x = 0; x < imagen.width(); ++x)
+            n += oscuro(x, y);
+        return n;
+    }
+    bool esRaya(int y) const { return enFila(y) > imagen.width() / 2; }
+    int enFilas(int desde, int hasta) const {
+        int n = 0;
+        for (int y = desde; y < hasta; ++y)
+            n += enFila(y);
+        return n;
+    }
+    // The runs of columns with text between two rows, separated by at least `hueco` blank columns.
+    QList<std::pair<int, int>> bloques(int desde, int hasta, int hueco) const {
+        QList<std::pair<int, int>> b;
+        int blancas = hueco;
+        for (int x = 0; x < imagen.width(); ++x) {
+            bool tinta = false;
+            for (int y = desde; y < hasta && !tinta; ++y)
+                tinta = oscuro(x, y) && !esRaya(y);
+            if (!tinta) {
+                ++blancas;
+                continue;
+            }
+            if (blancas >= hueco) b.append({x, x});
+            b.last().second = x;
+            blancas = 0;
+        }
+        return b;
+    }
+    QImage imagen;
+};
+
+// The first page at 50 dots per inch: a centred title on top, three columns of text in the body, the
+// foot at the bottom under its rule, and white paper between the last line and the foot.
+TEST_F(ListaRevision, TheRenderedPageShowsTitleColumnsAndFoot) {
+    ASSERT_TRUE(TQRListaRevisionCodCliente(lineas(20)).GuardaPdf(dir.filePath(QStringLiteral("lista.pdf"))));
+    QProcess p;
+    p.start(QStringLiteral("pdftoppm"),
+            {QStringLiteral("-r"), QStringLiteral("50"), QStringLiteral("-f"), QStringLiteral("1"),
+             QStringLiteral("-l"), QStringLiteral("1"), QStringLiteral("-png"), QStringLiteral("-singlefile"),
+             dir.filePath(QStringLiteral("lista.pdf")), dir.filePath(QStringLiteral("p"))});
+    ASSERT_TRUE(p.waitForFinished(30000) && p.exitCode() == 0) << p.readAllStandardError().toStdString();
+    const Tinta t(QImage(dir.filePath(QStringLiteral("p.png"))));
+    const int an = t.imagen.width(), al = t.imagen.height();
+    ASSERT_NEAR(an, 414, 1); // A4, 8.27 by 11.69 inches
+    ASSERT_NEAR(al, 585, 1);
+
+    // The title: ink in the top tenth, centred on the page.
+    const auto titulo = t.bloques(0, al / 10, an);
+    ASSERT_EQ(titulo.size(), 1);
+    EXPECT_NEAR((titulo[0].first + titulo[0].second) / 2.0, an / 2.0, an * 0.03);
+    // The heads and the body: three columns, the table's at the left margin, the code's at the right one.
+    const auto columnas = t.bloques(al / 10, al * 3 / 4, 8);
+    ASSERT_EQ(columnas.size(), 3) << "Tabla, Mensaje and Código";
+    EXPECT_LT(columnas[0].first, an / 10);
+    EXPECT_GT(columnas[2].second, an * 9 / 10);
+    EXPECT_LT(columnas[2].second - columnas[2].first, an / 10);
+    // Twenty lines fill a third of the page: the lower body is blank paper.
+    EXPECT_EQ(t.enFilas(al * 3 / 4, al * 9 / 10), 0);
+    // The foot: its rule, then the date at the left and the page count at the right.
+    int raya = al * 9 / 10;
+    while (raya < al && !t.esRaya(raya))
+        ++raya;
+    EXPECT_LT(raya, al) << "no rule above the foot";
+    EXPECT_EQ(t.bloques(al * 9 / 10, al, an / 4).size(), 2);
+    EXPECT_LT(t.enFilas(0, al), an * al / 10);
 }
 
 TEST_F(ListaRevision, AFileThatCannotBeWrittenGivesFalse) {
