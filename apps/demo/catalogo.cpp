@@ -7,6 +7,7 @@ CatalogoDemo RegistraTodos() {
     RegistraDialogosFrame(c);
     RegistraDialogosIdent(c);
     RegistraDialogosProtocolo(c);
+    RegistraDialogosPreguntas(c);
     RegistraDialogosMantenimiento(c);
     return c;
 }
