@@ -1,5 +1,6 @@
 // The screen and printer side of TQRListaRevisionCodCliente (Qt Widgets and Qt Print Support).
 #include "companion/dialogo.h"
+#include "companion/modal.h"
 #include "maintenance/listarevisioncodclienteqr.h"
 
 #include <QGuiApplication>
@@ -33,7 +34,7 @@ void TQRListaRevisionCodCliente::Preview(QWidget* owner) const {
     QObject::connect(&vista, &QPrintPreviewDialog::paintRequested, &vista,
                      [this](QPrinter* p) { Dibuja(*p); });
     AplicaConvencionesDialogo(&vista);
-    vista.exec();
+    EjecutaModal(vista);
 }
 
 bool TQRListaRevisionCodCliente::Print(QPrinter& impresora) const {

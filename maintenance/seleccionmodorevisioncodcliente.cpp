@@ -1,6 +1,7 @@
 #include "maintenance/seleccionmodorevisioncodcliente.h"
 
 #include "companion/dialogo.h"
+#include "companion/modal.h"
 #include "maintenance/listarevisioncodclienteqr.h"
 
 #include <QApplication>
@@ -106,7 +107,7 @@ bool TFSeleccionModoRevisionCodCliente::corre(const std::function<bool()>& revis
 bool SeleccionModoRevisionCodCliente(QWidget* owner) {
     TFSeleccionModoRevisionCodCliente forma(owner);
     FSeleccionModoRevisionCodCliente = &forma;
-    const int r = forma.exec();
+    const int r = EjecutaModal(forma);
     FSeleccionModoRevisionCodCliente = nullptr;
     return r == 1;
 }

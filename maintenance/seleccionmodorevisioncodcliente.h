@@ -56,7 +56,8 @@ private:
 /// The form while it is open through `SeleccionModoRevisionCodCliente` (null otherwise).
 extern QPointer<TFSeleccionModoRevisionCodCliente> FSeleccionModoRevisionCodCliente;
 
-/// Shows the form modally over `owner`; true when the clerk accepted and the revision ran.
+/// Shows the form modally over `owner` (through the modal seam, as the list's preview is shown); true
+/// when the clerk accepted and the revision ran.
 bool SeleccionModoRevisionCodCliente(QWidget* owner = nullptr);
 
 } // namespace nod

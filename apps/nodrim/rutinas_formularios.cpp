@@ -5,9 +5,12 @@
 #include "companion/modal.h"
 #include "ident/calculaletranif.h"
 #include "ident/validareferenciacatastral.h"
+#include "maintenance/seleccionmodorevisioncodcliente.h"
 #include "prompts/preguntadatos.h"
 #include "prompts/preguntas.h"
 #include "protocol/preguntanumerofactura.h"
+
+#include <QDialog>
 
 namespace nod::lote {
 
@@ -93,6 +96,34 @@ void RegistraRutinasFormularios(Rutinas& r) {
             Config.SetRefCatastralActual(referencia);
             IValidaReferenciaCatastral(nullptr);
             referencia = Config.GetRefCatastralActual();
+        });
+
+    // The client-code revision's form. The list's preview asks nothing: it takes no answer, and is reported
+    // among the dialogs with the lines it shows.
+    r.agrega(
+        "SeleccionModoRevisionCodCliente", +[] {
+            EjecutorModal anterior;
+            anterior = FijaEjecutorModal([&anterior](QDialog& d) {
+                if (d.objectName() != QLatin1String("QRListaRevisionCodCliente") ||
+                    !FSeleccionModoRevisionCodCliente)
+                    return anterior ? anterior(d) : d.exec();
+                json lineas = json::array();
+                for (const TMensajeRevision& l : FSeleccionModoRevisionCodCliente->Revision().Mensajes())
+                    lineas.push_back({{"TABLA", l.TABLA.toStdString()},
+                                      {"MENSAJE", l.MENSAJE.toStdString()},
+                                      {"CODCLIENTE", l.CODCLIENTE}});
+                if (PeticionEnCurso* p = PeticionEnCurso::Actual())
+                    p->anotaFormulario({{"kind", "preview"},
+                                        {"title", d.windowTitle().toStdString()},
+                                        {"lines", std::move(lineas)},
+                                        {"answer", nullptr},
+                                        {"defaulted", false},
+                                        {"result", 1}});
+                return 1;
+            });
+            const bool aceptado = SeleccionModoRevisionCodCliente(nullptr);
+            FijaEjecutorModal(std::move(anterior));
+            return aceptado;
         });
 }
 
