@@ -1,6 +1,7 @@
 // The routines that show forms, offered to scripts by the form layer (nodrim-formularios). An owner
 // argument is left out (a script has no window to own the form); colours are integers.
 #include "apps/nodrim/formularios.h"
+#include "apps/nodrim/lote.h"
 #include "companion/config.h"
 #include "companion/modal.h"
 #include "ident/calculaletranif.h"
