@@ -33,6 +33,8 @@ constexpr Etiqueta kEtiquetas[] = {
     {"PODERES", "NUMERO", "CODPODER"},
     {"APODERAD", "PODER", "CODPODER"},
     {"CLAVES_E", "ENTRADA", "CODENTRADA"},
+    // Accounting entries, by series and invoice
+    {"APUNTES", "FACTURA", "SERIE+FACTURA"},
 };
 
 QString baseDe(const QString& fichero) {

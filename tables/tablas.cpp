@@ -252,4 +252,8 @@ void OlvidaTablasCargadas() {
     DatosDbf::OlvidaTodo();
 }
 
+void OlvidaTablaCargada(const QString& ruta) {
+    DatosDbf::Olvida(QFileInfo(ruta).absoluteFilePath());
+}
+
 } // namespace nod

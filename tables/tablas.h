@@ -231,4 +231,8 @@ void CreaFicheroDbf(const QString& ruta, const QList<TCampoDbf>& campos);
 /// file changes).
 void OlvidaTablasCargadas();
 
+/// Forgets the loaded image of one table (its `Ruta()`), for a routine that reads a large table once and
+/// should not leave its bytes in memory; open handles keep theirs until they are dropped.
+void OlvidaTablaCargada(const QString& ruta);
+
 } // namespace nod

@@ -201,6 +201,11 @@ CAMPOS_CLIENTES = [
 ]
 
 
+# A client whose spouse's record was deleted: a dangling code that the client-code revision lists.
+CLIENTE_VIUDO = 295
+CONYUGE_BORRADO = 318
+
+
 def tabla_clientes():
     azar = random.Random(3)
     poblaciones = [("28079", "MADRID", "28"), ("08019", "BARCELONA", "08"), ("46250", "VALENCIA", "46"),
@@ -211,9 +216,12 @@ def tabla_clientes():
     filas = []
     for codigo in range(1, 301):
         dni = azar.randrange(10000000, 60000000)
+        conyuge = codigo + 1 if codigo % 10 == 1 else (codigo - 1 if codigo % 10 == 2 else 0)
+        if codigo == CLIENTE_VIUDO:
+            conyuge = CONYUGE_BORRADO
         fila = {"CODIGO": codigo, "APELLIDOS": f"{azar.choice(APELLIDOS)} {azar.choice(APELLIDOS)}",
                 "NOMBRE": azar.choice(NOMBRES), "NIF": f"{dni:08d}{letra_nif(dni)}",
-                "CONYUGE": codigo + 1 if codigo % 10 == 1 else (codigo - 1 if codigo % 10 == 2 else 0),
+                "CONYUGE": conyuge,
                 "EMAIL": f"cliente{codigo}@correo-ejemplo.es" if codigo % 3 else "",
                 "MOVIL": f"6{azar.randrange(10000000, 99999999)}" if codigo % 4 else ""}
         if codigo % 25 == 0:
@@ -327,6 +335,256 @@ def tabla_cab_fact_notario2():
     return CAMPOS_CAB_FACT, filas
 
 
+# ---------------------------------------------------------------------------------------------------
+# Tables that refer to clients, in every database where they live, for the client-code revision. Each
+# holds codes of existing clients (1..300), a few zero codes (no client) and the dangling codes listed in
+# COLGADOS: codes of clients whose records were deleted (301 and up), which the revision must find.
+
+CLIENTES_EXISTENTES = 300
+ACTUACIONES = ["COMPRADOR", "VENDEDOR", "PRESTATARIO", "PRESTAMISTA", "DONANTE", "DONATARIO", "HEREDERO",
+               "CAUSANTE", "HIPOTECANTE", "AVALISTA"]
+ACTUACIONES_POLIZA = ["TITULAR", "AVALISTA", "FIADOR", "CONYUGE", "APODERADO"]
+ENTIDADES = ["BANCO DEL NORTE, S.A.", "CAJA RURAL DEL SUR, S.C.C.", "BANCO MEDITERRÁNEO, S.A.",
+             "CAIXA D'ESTALVIS DEL PENEDÈS", "BANCO DE CASTILLA, S.A."]
+ACTIVOS_FINANCIEROS = ["ACCIONES", "PARTICIPACIONES", "OBLIGACIONES", "BONOS DEL ESTADO", "FONDOS DE INVERSIÓN"]
+ASUNTOS = ["COMPRAVENTA DE VIVIENDA", "PRÉSTAMO HIPOTECARIO", "TESTAMENTO", "PODER GENERAL",
+           "ACEPTACIÓN DE HERENCIA", "CONSTITUCIÓN DE SOCIEDAD", "DONACIÓN", "ACTA DE MANIFESTACIONES"]
+RELACIONES = ["TITULAR REAL", "ADMINISTRADOR", "SOCIO MAYORITARIO"]
+MUNICIPIOS_PLUSVALIA = ["28079", "28005", "28065", "28092", "28148"]
+
+# (database folder, table) -> dangling client codes in it. sample-office/README.md lists them too.
+COLGADOS = {
+    ("DATOS", "ACTIVOS"): [341], ("DATOS", "APODERAD"): [350], ("DATOS", "APUNTES"): [362, 362],
+    ("DATOS", "BANCOS"): [303], ("DATOS", "CLAVES_E"): [377], ("DATOS", "DEPOSITO"): [389],
+    ("DATOS", "ENTRADAS"): [305], ("DATOS", "PODERES"): [394], ("DATOS", "TIT_CLI"): [311],
+    ("BORRADOR", "CLAVES"): [402], ("BORRADOR", "DEUDAS"): [415], ("BORRADOR", "TESTIGOS"): [402],
+    ("BORRADOR", "FACTURAA"): [433],
+    ("ARCHIVO", "CLAVES"): [501], ("ARCHIVO", "PLUSVAL"): [517],
+    ("NOTARIO1", "CLAVES"): [318, 604], ("NOTARIO1", "CLAVES_L"): [611], ("NOTARIO1", "FACTURAC"): [620],
+    ("NOTARIO1", "POLIZAS"): [633], ("NOTARIO1", "VALORES"): [648], ("NOTARIO1", "TIT_REL"): [655],
+    ("NOTARIO2", "CLAVES_P"): [707], ("NOTARIO2", "FACTURAX"): [714],
+}
+
+
+def fecha_de(azar, anno):
+    return f"{anno}{azar.randrange(1, 13):02d}{azar.randrange(1, 29):02d}"
+
+
+def filas_con_clientes(carpeta, tabla, n, fila):
+    """n rows made by fila(azar, i) (a dict without client code), each given the code of an existing
+    client or, one row in nine, zero; then the dangling codes of COLGADOS at places drawn among them."""
+    azar = random.Random(f"{carpeta}/{tabla}")
+    filas = []
+    for i in range(n):
+        f = fila(azar, i)
+        f["_CLIENTE"] = 0 if i % 9 == 4 else azar.randrange(1, CLIENTES_EXISTENTES + 1)
+        filas.append(f)
+    colgados = COLGADOS.get((carpeta, tabla), [])
+    for sitio, codigo in zip(sorted(azar.sample(range(n), len(colgados))), colgados):
+        filas[sitio]["_CLIENTE"] = codigo
+    return filas
+
+
+def con_campo(filas, nombre):
+    for f in filas:
+        f[nombre] = f.pop("_CLIENTE")
+    return filas
+
+
+def protocolo(azar, i):
+    """The code of a deed: year x 100 000 + number."""
+    anno = 2019 + i % 6
+    return anno * 100000 + 1 + (i * 37) % 1400, anno
+
+
+def tabla_de_protocolo(campos_extra, extra):
+    """A table of deeds' parties or data: CODNUMERO (the deed), CODCLIENTE, and its own fields."""
+    def generador(carpeta, tabla):
+        def fila(azar, i):
+            codigo, anno = protocolo(azar, i)
+            return dict(extra(azar, i, anno), CODNUMERO=codigo)
+        campos = [campo("CODNUMERO", "N", 12), campo("CODCLIENTE", "N", 8)] + campos_extra
+        return campos, con_campo(filas_con_clientes(carpeta, tabla, 36, fila), "CODCLIENTE")
+    return generador
+
+
+def importe(azar, hasta=300000):
+    return round(azar.uniform(100, hasta), 2)
+
+
+GENERADORES_REFERENTES = {
+    "ACTIVOS": tabla_de_protocolo(
+        [campo("TIPO", "C", 30), campo("IMPORTE", "N", 14, 2)],
+        lambda azar, i, anno: {"TIPO": azar.choice(ACTIVOS_FINANCIEROS), "IMPORTE": importe(azar)}),
+    "CLAVES": tabla_de_protocolo(
+        [campo("ACTUACION", "C", 12), campo("INTERVIENE", "N", 4)],
+        lambda azar, i, anno: {"ACTUACION": azar.choice(ACTUACIONES), "INTERVIENE": azar.randrange(1, 13)}),
+    "CLAVES_C": tabla_de_protocolo(
+        [campo("ACTUACION", "C", 12)], lambda azar, i, anno: {"ACTUACION": azar.choice(ACTUACIONES)}),
+    "CLAVES_I": tabla_de_protocolo(
+        [campo("INTERVIENE", "N", 4), campo("REPRESENTA", "N", 8)],
+        lambda azar, i, anno: {"INTERVIENE": azar.randrange(1, 13),
+                               "REPRESENTA": azar.randrange(1, CLIENTES_EXISTENTES + 1) if i % 3 == 0 else 0}),
+    "CLAVES_L": tabla_de_protocolo(
+        [campo("ACTUACION", "C", 12)], lambda azar, i, anno: {"ACTUACION": azar.choice(ACTUACIONES)}),
+    "CLAVES_P": tabla_de_protocolo(
+        [campo("ACTUACION", "C", 14)], lambda azar, i, anno: {"ACTUACION": azar.choice(ACTUACIONES_POLIZA)}),
+    "CLAVES_S": tabla_de_protocolo(
+        [campo("SUJETO", "C", 1), campo("PORCENTAJE", "N", 6, 2)],
+        lambda azar, i, anno: {"SUJETO": "AP"[i % 2], "PORCENTAJE": [100, 50, 25][i % 3]}),
+    "DEUDAS": tabla_de_protocolo(
+        [campo("IMPORTE", "N", 12, 2), campo("FECHA", "D"), campo("PAGADA", "L")],
+        lambda azar, i, anno: {"IMPORTE": importe(azar, 3000), "FECHA": fecha_de(azar, anno), "PAGADA": i % 4 == 0}),
+    "ENTRADAS": tabla_de_protocolo(
+        [campo("FECHA_ENT", "D"), campo("ASUNTO", "C", 60)],
+        lambda azar, i, anno: {"FECHA_ENT": fecha_de(azar, anno), "ASUNTO": azar.choice(ASUNTOS)}),
+    "PLUSVAL": tabla_de_protocolo(
+        [campo("MUNICIPIO", "C", 5), campo("IMPORTE", "N", 12, 2)],
+        lambda azar, i, anno: {"MUNICIPIO": azar.choice(MUNICIPIOS_PLUSVALIA), "IMPORTE": importe(azar, 20000)}),
+    "POLIZAS": tabla_de_protocolo(
+        [campo("FECHA", "D"), campo("ENTIDAD", "C", 40), campo("IMPORTE", "N", 14, 2)],
+        lambda azar, i, anno: {"FECHA": fecha_de(azar, anno), "ENTIDAD": azar.choice(ENTIDADES),
+                               "IMPORTE": importe(azar)}),
+    "TESTIGOS": tabla_de_protocolo([campo("ORDEN", "N", 2)], lambda azar, i, anno: {"ORDEN": 1 + i % 2}),
+    "TIT_REL": tabla_de_protocolo(
+        [campo("RELACION", "C", 20), campo("PORCENTAJE", "N", 6, 2)],
+        lambda azar, i, anno: {"RELACION": azar.choice(RELACIONES), "PORCENTAJE": [100, 50, 30][i % 3]}),
+}
+
+
+def factura_de_protocolo(carpeta, tabla):
+    """Invoices by deed (series A, B, E, G): the deed's code, the invoice number and its client."""
+    def fila(azar, i):
+        codigo, anno = protocolo(azar, i)
+        return {"CODNUMERO": codigo, "NUMEROFAC": 1 + i, "BIS": "", "FECHAPAGO": fecha_de(azar, anno),
+                "CODFACTURA": anno * 100000 + 1 + i, "TOTAL": importe(azar, 5000)}
+    campos = [campo("CODNUMERO", "N", 12), campo("NUMEROFAC", "N", 8), campo("BIS", "C", 1),
+              campo("FECHAPAGO", "D"), campo("CODFACTURA", "N", 12), campo("CODCLIENTE", "N", 8),
+              campo("TOTAL", "N", 12, 2)]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, 30, fila), "CODCLIENTE")
+
+
+def factura_suelta(carpeta, tabla):
+    """Invoices of their own (series C, D, F, X): the invoice's code (year x 100 000 + number) and client."""
+    def fila(azar, i):
+        anno = 2021 + i % 4
+        return {"CODFACTURA": anno * 100000 + 1 + i, "FECHA": fecha_de(azar, anno), "CONCEPTO": azar.choice(ASUNTOS),
+                "TOTAL": importe(azar, 3000)}
+    campos = [campo("CODFACTURA", "N", 12), campo("FECHA", "D"), campo("CODCLIENTE", "N", 8),
+              campo("CONCEPTO", "C", 60), campo("TOTAL", "N", 12, 2)]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, 30, fila), "CODCLIENTE")
+
+
+def tabla_apoderad(carpeta, tabla):
+    """Attorneys of each power: the power's code (year x 10 000 + number) and the attorney."""
+    def fila(azar, i):
+        return {"CODPODER": (2018 + i % 7) * 10000 + 1 + i // 2, "FACULTADES": ["GENERALES", "PLEITOS",
+                                                                                  "BANCARIAS", "VENTA"][i % 4]}
+    campos = [campo("CODPODER", "N", 8), campo("CODCLIENTE", "N", 8), campo("FACULTADES", "C", 30)]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, 30, fila), "CODCLIENTE")
+
+
+def tabla_poderes(carpeta, tabla):
+    """Powers of attorney: the power's code and its grantor (PODERDANTE)."""
+    def fila(azar, i):
+        anno = 2018 + i % 7
+        return {"CODPODER": anno * 10000 + 1 + i, "FECHA": fecha_de(azar, anno), "REVOCADO": i % 10 == 3}
+    campos = [campo("CODPODER", "N", 8), campo("PODERDANTE", "N", 8), campo("FECHA", "D"), campo("REVOCADO", "L")]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, 24, fila), "PODERDANTE")
+
+
+def tabla_valores(carpeta, tabla):
+    """Securities deposited with the notary: the entry's code (year x 10 000 + number) and the owner."""
+    def fila(azar, i):
+        return {"CODNUMERO": (2020 + i % 5) * 10000 + 1 + i, "DENOMINA": azar.choice(ACTIVOS_FINANCIEROS),
+                "TITULOS": azar.randrange(1, 5000)}
+    campos = [campo("CODNUMERO", "N", 8), campo("CODCLIENTE", "N", 8), campo("DENOMINA", "C", 40),
+              campo("TITULOS", "N", 10)]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, 24, fila), "CODCLIENTE")
+
+
+def tabla_claves_e(carpeta, tabla):
+    """Parties of each entry of the entries book: the entry's code (year x 100 000 + number)."""
+    def fila(azar, i):
+        return {"CODENTRADA": (2020 + i % 5) * 100000 + 1 + i // 2, "ACTUACION": azar.choice(ACTUACIONES)}
+    campos = [campo("CODENTRADA", "N", 12), campo("CODCLIENTE", "N", 8), campo("ACTUACION", "C", 12)]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, 30, fila), "CODCLIENTE")
+
+
+BANCOS = ENTIDADES + ["BANCO ATLÁNTICO DE INVERSIONES, S.A.", "CAJA DE AHORROS DE LA SIERRA",
+                      "BANCO INDUSTRIAL DE LEVANTE, S.A.", "CAIXA POPULAR DE L'EMPORDÀ", "BANCO ARAGONÉS, S.A.",
+                      "CAJA RURAL DE LA MANCHA", "BANCO CANTÁBRICO, S.A."]
+
+
+def tabla_bancos(carpeta, tabla):
+    """The banks the office works with, each with its client record."""
+    def fila(azar, i):
+        return {"CODBANCO": 10 + i, "NOMBRE": BANCOS[i]}
+    campos = [campo("CODBANCO", "N", 4), campo("NOMBRE", "C", 40), campo("CODCLIENTE", "N", 8)]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, len(BANCOS), fila), "CODCLIENTE")
+
+
+def tabla_deposito(carpeta, tabla):
+    """Money deposited by clients for the deeds' expenses, one entry each."""
+    def fila(azar, i):
+        return {"ASIENTO": 1 + i, "FECHA": fecha_de(azar, 2023 + i // 20), "CONCEPTO": azar.choice(ASUNTOS),
+                "IMPORTE": importe(azar, 6000)}
+    campos = [campo("ASIENTO", "N", 6), campo("FECHA", "D"), campo("CLIENTE", "N", 8), campo("CONCEPTO", "C", 60),
+              campo("IMPORTE", "N", 12, 2)]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, 30, fila), "CLIENTE")
+
+
+def tabla_apuntes(carpeta, tabla):
+    """Accounting entries of the invoices: entry, date, series and invoice number, client, amounts."""
+    def fila(azar, i):
+        debe = importe(azar, 4000)
+        return {"ASIENTO": 1 + i // 2, "FECHA": fecha_de(azar, 2024), "SERIE": "ABE"[i % 3],
+                "FACTURA": 1 + (i * 7) % 40, "CONCEPTO": "COBRO DE FACTURA" if i % 2 else "FACTURA EMITIDA",
+                "DEBE": debe if i % 2 == 0 else 0, "HABER": debe if i % 2 else 0}
+    campos = [campo("ASIENTO", "N", 8), campo("FECHA", "D"), campo("SERIE", "C", 1), campo("FACTURA", "N", 10),
+              campo("CODCLIENTE", "N", 8), campo("CONCEPTO", "C", 40), campo("DEBE", "N", 12, 2),
+              campo("HABER", "N", 12, 2)]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, 36, fila), "CODCLIENTE")
+
+
+def tabla_tit_cli(carpeta, tabla):
+    """Beneficial owners of the client companies: the owner (CODCLIENTE) of a company client (SOCIEDAD)."""
+    def fila(azar, i):
+        return {"SOCIEDAD": 25 * (1 + i % 12), "PORCENTAJE": [100, 50, 30, 25][i % 4]}
+    campos = [campo("CODCLIENTE", "N", 8), campo("SOCIEDAD", "N", 8), campo("PORCENTAJE", "N", 6, 2)]
+    return campos, con_campo(filas_con_clientes(carpeta, tabla, 24, fila), "CODCLIENTE")
+
+
+GENERADORES_REFERENTES.update({
+    "APODERAD": tabla_apoderad, "PODERES": tabla_poderes, "VALORES": tabla_valores, "CLAVES_E": tabla_claves_e,
+    "BANCOS": tabla_bancos, "DEPOSITO": tabla_deposito, "APUNTES": tabla_apuntes, "TIT_CLI": tabla_tit_cli,
+    "FACTURAB": factura_de_protocolo, "FACTURAE": factura_de_protocolo, "FACTURAG": factura_de_protocolo,
+    "FACTURAC": factura_suelta, "FACTURAD": factura_suelta, "FACTURAF": factura_suelta, "FACTURAX": factura_suelta,
+})
+
+# Where each table lives: the common database (DATOS), the drafts (BORRADOR), the archive of earlier
+# notaries' protocols (ARCHIVO) and each notary's database. FACTURAA of the notaries is written above.
+TABLAS_POR_CARPETA = {
+    "DATOS": ["ACTIVOS", "APODERAD", "APUNTES", "BANCOS", "CLAVES_E", "DEPOSITO", "ENTRADAS", "PODERES",
+              "TIT_CLI"],
+    "BORRADOR": ["ACTIVOS", "CLAVES", "CLAVES_C", "CLAVES_I", "CLAVES_S", "DEUDAS", "FACTURAA", "PLUSVAL",
+                 "TESTIGOS", "TIT_REL"],
+    "ARCHIVO": ["CLAVES", "CLAVES_C", "CLAVES_I", "CLAVES_S", "PLUSVAL", "TESTIGOS"],
+    "NOTARIO1": ["CLAVES", "CLAVES_C", "CLAVES_I", "CLAVES_L", "CLAVES_P", "CLAVES_S", "DEUDAS", "FACTURAB",
+                 "FACTURAC", "FACTURAD", "FACTURAE", "FACTURAF", "FACTURAG", "FACTURAX", "PLUSVAL", "POLIZAS",
+                 "TESTIGOS", "TIT_REL", "VALORES"],
+}
+TABLAS_POR_CARPETA["NOTARIO2"] = TABLAS_POR_CARPETA["NOTARIO1"]
+GENERADORES_REFERENTES["FACTURAA"] = factura_de_protocolo
+
+
+def tablas_referentes():
+    for carpeta, tablas in TABLAS_POR_CARPETA.items():
+        for tabla in tablas:
+            generador = GENERADORES_REFERENTES[tabla]
+            yield carpeta, tabla + ".DBF", (lambda g=generador, c=carpeta, t=tabla: g(c, t))
+
+
 # (database folder of the office, file name, generator). DATOS is alias DB; NOTARIO1/2 the notaries'.
 TABLAS = [
     ("DATOS", "PROVIN.DBF", tabla_provin),
@@ -340,7 +598,7 @@ TABLAS = [
     ("NOTARIO2", "CAB_FACT.DBF", tabla_cab_fact_notario2),
     ("NOTARIO1", "FACTURAA.DBF", tabla_facturaa),
     ("NOTARIO2", "FACTURAA.DBF", tabla_facturaa),
-]
+] + list(tablas_referentes())
 
 
 def main():

@@ -9,6 +9,7 @@ CatalogoDemo RegistraTodos() {
     RegistraDialogosProtocolo(c);
     RegistraDialogosPreguntas(c);
     RegistraDialogosComms(c);
+    RegistraDialogosMantenimiento(c);
     return c;
 }
 

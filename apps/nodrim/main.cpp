@@ -3,6 +3,7 @@
 //   nodrim batch [--office DIR]          JSON Lines requests on standard input, responses on standard output
 //   nodrim [--office DIR] Routine args   one call; each argument is read as the type of the routine's
 //                                        parameter (21 as an integer, 2.5, true, text as it stands)
+//   nodrim revision [--table NAME] [--pdf FILE]   the client-code revision (apps/nodrim/revision.h)
 //   nodrim --help                        the routines and their argument types
 //
 // Routines that show forms live in the form layer, nodrim-formularios beside this program, started the
@@ -14,6 +15,7 @@
 #include "apps/nodrim/capaformularios.h"
 #include "apps/nodrim/descriptor.h"
 #include "apps/nodrim/lote.h"
+#include "apps/nodrim/revision.h"
 #include "companion/config.h"
 
 #include <QCoreApplication>
@@ -192,6 +194,7 @@ int unaLlamada(const std::string& rutina, const std::vector<std::string>& args, 
 
 int main(int argc, char** argv) {
     const auto cerrado = ocupaDescriptoresCerrados(); // before anything opens a file
+    if (const int estado = lote::MainRevisionSiToca(argc, argv); estado >= 0) return estado; // revision.h
     QCoreApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C"); // machine formats never follow the user's decimal comma
     std::ios::sync_with_stdio(false);

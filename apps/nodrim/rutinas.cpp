@@ -12,6 +12,7 @@ const Rutinas& TodasLasRutinas() {
         RegistraRutinasProtocolo(r);
         RegistraRutinasPreguntas(r);
         RegistraRutinasComms(r);
+        RegistraRutinasMantenimiento(r);
         return r;
     }();
     return rutinas;

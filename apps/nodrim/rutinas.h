@@ -193,5 +193,6 @@ void RegistraRutinasGeo(Rutinas& r);
 void RegistraRutinasProtocolo(Rutinas& r);
 void RegistraRutinasPreguntas(Rutinas& r);
 void RegistraRutinasComms(Rutinas& r);
+void RegistraRutinasMantenimiento(Rutinas& r);
 
 } // namespace nod::lote

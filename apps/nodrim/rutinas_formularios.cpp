@@ -1,15 +1,19 @@
 // The routines that show forms, offered to scripts by the form layer (nodrim-formularios). An owner
 // argument is left out (a script has no window to own the form); colours are integers.
 #include "apps/nodrim/formularios.h"
+#include "apps/nodrim/lote.h"
 #include "comms/editormail.h"
 #include "comms/preguntadatosmovilcorreo.h"
 #include "companion/config.h"
 #include "companion/modal.h"
 #include "ident/calculaletranif.h"
 #include "ident/validareferenciacatastral.h"
+#include "maintenance/seleccionmodorevisioncodcliente.h"
 #include "prompts/preguntadatos.h"
 #include "prompts/preguntas.h"
 #include "protocol/preguntanumerofactura.h"
+
+#include <QDialog>
 
 namespace nod::lote {
 
@@ -104,6 +108,33 @@ void RegistraRutinasFormularios(Rutinas& r) {
             return PreguntaDatosMovilCorreo(nullptr, nombre, movil, correo);
         });
     r.agrega("MuestraEmail", &MuestraEmail);
+    // The client-code revision's form. The list's preview asks nothing: it takes no answer, and is reported
+    // among the dialogs with the lines it shows.
+    r.agrega(
+        "SeleccionModoRevisionCodCliente", +[] {
+            EjecutorModal anterior;
+            anterior = FijaEjecutorModal([&anterior](QDialog& d) {
+                if (d.objectName() != QLatin1String("QRListaRevisionCodCliente") ||
+                    !FSeleccionModoRevisionCodCliente)
+                    return anterior ? anterior(d) : d.exec();
+                json lineas = json::array();
+                for (const TMensajeRevision& l : FSeleccionModoRevisionCodCliente->Revision().Mensajes())
+                    lineas.push_back({{"TABLA", l.TABLA.toStdString()},
+                                      {"MENSAJE", l.MENSAJE.toStdString()},
+                                      {"CODCLIENTE", l.CODCLIENTE}});
+                if (PeticionEnCurso* p = PeticionEnCurso::Actual())
+                    p->anotaFormulario({{"kind", "preview"},
+                                        {"title", d.windowTitle().toStdString()},
+                                        {"lines", std::move(lineas)},
+                                        {"answer", nullptr},
+                                        {"defaulted", false},
+                                        {"result", 1}});
+                return 1;
+            });
+            const bool aceptado = SeleccionModoRevisionCodCliente(nullptr);
+            FijaEjecutorModal(std::move(anterior));
+            return aceptado;
+        });
 }
 
 } // namespace nod::lote

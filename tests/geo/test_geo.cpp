@@ -9,6 +9,7 @@
 #include "tests/support/oficina_prueba.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -228,19 +229,23 @@ TEST(OficinaMuestra, GeneratorGivesTheCommittedTables) {
              {QStringLiteral(NOD_SOURCE_DIR "/tools/genera-oficina.py"), dir.path()});
     ASSERT_TRUE(py.waitForFinished(120000));
     ASSERT_EQ(py.exitCode(), 0) << py.readAllStandardError().toStdString();
-    int comparadas = 0;
-    for (const char* carpeta : {"DATOS", "NOTARIO1", "NOTARIO2"})
-        for (const QFileInfo& fi :
-             QDir(dir.filePath(QString::fromLatin1(carpeta))).entryInfoList(QDir::Files)) {
-            QFile nueva(fi.filePath()),
-                comprometida(prueba::OficinaMuestra() + QLatin1Char('/') + QString::fromLatin1(carpeta) +
-                             QLatin1Char('/') + fi.fileName());
-            ASSERT_TRUE(nueva.open(QIODevice::ReadOnly) && comprometida.open(QIODevice::ReadOnly))
-                << fi.fileName().toStdString();
-            EXPECT_TRUE(nueva.readAll() == comprometida.readAll()) << fi.fileName().toStdString();
-            ++comparadas;
-        }
-    EXPECT_EQ(comparadas, 11);
+    // The tables of every database folder, by their path inside the office.
+    const auto tablas = [](const QString& oficina) {
+        QStringList l;
+        QDirIterator it(oficina, {QStringLiteral("*.dbf"), QStringLiteral("*.DBF")}, QDir::Files,
+                        QDirIterator::Subdirectories);
+        while (it.hasNext())
+            l << QDir(oficina).relativeFilePath(it.next());
+        l.sort();
+        return l;
+    };
+    const QStringList generadas = tablas(dir.path());
+    ASSERT_EQ(generadas, tablas(prueba::OficinaMuestra()));
+    for (const QString& t : generadas) {
+        QFile nueva(dir.filePath(t)), comprometida(prueba::OficinaMuestra() + QLatin1Char('/') + t);
+        ASSERT_TRUE(nueva.open(QIODevice::ReadOnly) && comprometida.open(QIODevice::ReadOnly)) << t.toStdString();
+        EXPECT_TRUE(nueva.readAll() == comprometida.readAll()) << t.toStdString();
+    }
 }
 
 } // namespace

@@ -1,0 +1,201 @@
+#include "tests/maintenance/oficina_revision.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace nod::prueba {
+
+namespace {
+
+constexpr unsigned M0 = 1, M1 = 2, M2 = 4, M3 = 8;
+
+TCampoDbf N(const char* nombre, int longitud) {
+    return {QLatin1String(nombre), 'N', longitud, 0};
+}
+TCampoDbf C(const char* nombre, int longitud) {
+    return {QLatin1String(nombre), 'C', longitud, 0};
+}
+TCampoDbf D(const char* nombre) {
+    return {QLatin1String(nombre), 'D', 8, 0};
+}
+
+TablaRevisionPrueba protocolo(const char* nombre, unsigned modos) {
+    return {QLatin1String(nombre),
+            QLatin1String(nombre),
+            QStringLiteral("CODCLIENTE"),
+            {N("CODNUMERO", 12), N("CODCLIENTE", 8), C("TEXTO", 20)},
+            modos};
+}
+TablaRevisionPrueba factura(const char* nombre) {
+    return {QLatin1String(nombre),
+            QLatin1String(nombre),
+            QStringLiteral("CODCLIENTE"),
+            {N("CODFACTURA", 12), N("CODCLIENTE", 8)},
+            M3};
+}
+
+// The field's text for record i, right- or left-justified to its width.
+QByteArray valor(const TCampoDbf& c, const TablaRevisionPrueba& t, qint64 i, qint64 cliente) {
+    QByteArray v;
+    if (c.nombre == t.campoCliente)
+        v = QByteArray::number(cliente);
+    else if (c.tipo == 'D')
+        v = QDate(2024, 1, 1).addDays(i).toString(QStringLiteral("yyyyMMdd")).toLatin1();
+    else if (c.nombre == QLatin1String("SERIE"))
+        v = i % 2 ? "B" : "A";
+    else if (c.tipo == 'C')
+        v = "TEXTO " + QByteArray::number(i);
+    else if (c.nombre == QLatin1String("CODPODER") ||
+             (c.nombre == QLatin1String("CODNUMERO") && c.longitud == 8))
+        v = QByteArray::number(2020 * 10000 + i + 1);
+    else if (c.nombre == QLatin1String("CODNUMERO") || c.nombre == QLatin1String("CODFACTURA") ||
+             c.nombre == QLatin1String("CODENTRADA"))
+        v = QByteArray::number(qint64(2020) * 100000 + i + 1);
+    else
+        v = QByteArray::number(i + 1);
+    return c.tipo == 'C' ? v.leftJustified(c.longitud, ' ', true) : v.rightJustified(c.longitud, ' ', true);
+}
+
+// Appends the records that `registro` gives to an empty table and fixes its record count.
+void escribe(const QString& ruta, const QList<TCampoDbf>& campos, qint64 n,
+             const std::function<QByteArray(qint64)>& registro) {
+    QDir().mkpath(QFileInfo(ruta).absolutePath());
+    CreaFicheroDbf(ruta, campos);
+    QFile f(ruta);
+    if (!f.open(QIODevice::ReadWrite)) return;
+    QByteArray cabecera = f.readAll();
+    if (cabecera.endsWith('\x1a')) cabecera.chop(1);
+    for (int b = 0; b < 4; ++b)
+        cabecera[4 + b] = char(n >> (8 * b) & 0xFF);
+    f.seek(0);
+    f.resize(0);
+    f.write(cabecera);
+    QByteArray bloque;
+    for (qint64 i = 0; i < n; ++i) {
+        bloque += ' ';
+        bloque += registro(i);
+        if (bloque.size() > (1 << 20)) {
+            f.write(bloque);
+            bloque.clear();
+        }
+    }
+    bloque += '\x1a';
+    f.write(bloque);
+}
+
+} // namespace
+
+const QList<TablaRevisionPrueba>& TablasRevisionPrueba() {
+    static const QList<TablaRevisionPrueba> t = {
+        protocolo("ACTIVOS", M0 | M1),
+        {QStringLiteral("APODERADOS"),
+         QStringLiteral("APODERAD"),
+         QStringLiteral("CODCLIENTE"),
+         {N("CODPODER", 8), N("CODCLIENTE", 8)},
+         M0},
+        {QStringLiteral("APUNTES"),
+         QStringLiteral("APUNTES"),
+         QStringLiteral("CODCLIENTE"),
+         {N("ASIENTO", 8), D("FECHA"), C("SERIE", 1), N("FACTURA", 10), N("CODCLIENTE", 8)},
+         M0},
+        {QStringLiteral("BANCOS"),
+         QStringLiteral("BANCOS"),
+         QStringLiteral("CODCLIENTE"),
+         {N("CODBANCO", 4), C("NOMBRE", 40), N("CODCLIENTE", 8)},
+         M0},
+        protocolo("CLAVES", M1 | M2 | M3),
+        protocolo("CLAVES_C", M1 | M2 | M3),
+        {QStringLiteral("CLAVES_E"),
+         QStringLiteral("CLAVES_E"),
+         QStringLiteral("CODCLIENTE"),
+         {N("CODENTRADA", 12), N("CODCLIENTE", 8)},
+         M0},
+        protocolo("CLAVES_I", M1 | M2 | M3),
+        protocolo("CLAVES_L", M3),
+        protocolo("CLAVES_P", M3),
+        protocolo("CLAVES_S", M1 | M2 | M3),
+        {QStringLiteral("CLIENTES"),
+         QStringLiteral("CLIENTES"),
+         QStringLiteral("CONYUGE"),
+         {N("CODIGO", 8), C("APELLIDOS", 40), C("NOMBRE", 30), N("CONYUGE", 8)},
+         M0},
+        {QStringLiteral("DEPOSITO"),
+         QStringLiteral("DEPOSITO"),
+         QStringLiteral("CLIENTE"),
+         {N("ASIENTO", 6), D("FECHA"), N("CLIENTE", 8)},
+         M0},
+        protocolo("DEUDAS", M1 | M3),
+        protocolo("ENTRADAS", M0),
+        protocolo("FACTURAA", M1 | M3),
+        protocolo("FACTURAB", M3),
+        factura("FACTURAC"),
+        factura("FACTURAD"),
+        factura("FACTURAX"),
+        protocolo("FACTURAE", M3),
+        factura("FACTURAF"),
+        protocolo("FACTURAG", M3),
+        protocolo("PLUSVAL", M1 | M2 | M3),
+        {QStringLiteral("PODERES"),
+         QStringLiteral("PODERES"),
+         QStringLiteral("PODERDANTE"),
+         {N("CODPODER", 8), N("PODERDANTE", 8)},
+         M0},
+        protocolo("POLIZAS", M3),
+        protocolo("TESTIGOS", M1 | M2 | M3),
+        {QStringLiteral("TIT_CLI"),
+         QStringLiteral("TIT_CLI"),
+         QStringLiteral("CODCLIENTE"),
+         {N("CODCLIENTE", 8), N("SOCIEDAD", 8)},
+         0},
+        protocolo("TIT_REL", M1 | M3),
+        {QStringLiteral("VALORES"),
+         QStringLiteral("VALORES"),
+         QStringLiteral("CODCLIENTE"),
+         {N("CODNUMERO", 8), N("CODCLIENTE", 8)},
+         M3},
+    };
+    return t;
+}
+
+const TablaRevisionPrueba& TablaRevisionPorNombre(const QString& nombre) {
+    for (const auto& t : TablasRevisionPrueba())
+        if (t.nombre == nombre) return t;
+    static const TablaRevisionPrueba ninguna{};
+    return ninguna;
+}
+
+QString CarpetaDeModo(int modo) {
+    static const char* const carpetas[] = {"COMUN", "BORRADOR", "ARCHIVO", "NOTARIO1"};
+    return QLatin1String(carpetas[modo]);
+}
+
+QString ConfigOficinaRevision() {
+    return QStringLiteral("[GENERAL]\nAliasNodrim=DB\nAliasNotario=DBNOTARIO\nNumeroNotarios=1\nNotario=1\n"
+                          "[ALIAS]\nDB=COMUN\nDBBORRADOR=BORRADOR\nDBARCHIVO=ARCHIVO\nDBNOTARIO1=NOTARIO1\n"
+                          "[TABLAS]\nEsperaBloqueo=200\n");
+}
+
+void EscribeTablaRevision(const QString& ruta, const TablaRevisionPrueba& t, qint64 n,
+                          const std::function<qint64(qint64)>& codigo) {
+    escribe(ruta, t.campos, n, [&](qint64 i) {
+        const qint64 cliente = codigo(i);
+        QByteArray r;
+        for (const TCampoDbf& c : t.campos)
+            r += valor(c, t, i, cliente);
+        return r;
+    });
+}
+
+void EscribeClientes(const QString& ruta, qint64 n, const std::function<qint64(qint64)>& conyuge) {
+    const TablaRevisionPrueba& t = TablaRevisionPorNombre(QStringLiteral("CLIENTES"));
+    escribe(ruta, t.campos, n, [&](qint64 i) {
+        return QByteArray::number(i + 1).rightJustified(8, ' ') +
+               ("APELLIDOS " + QByteArray::number(i)).leftJustified(40, ' ') +
+               ("NOMBRE " + QByteArray::number(i)).leftJustified(30, ' ') +
+               QByteArray::number(conyuge(i)).rightJustified(8, ' ');
+    });
+}
+
+} // namespace nod::prueba
