@@ -8,4 +8,5 @@ Q_LOGGING_CATEGORY(lcTexto, "nod.texto")
 Q_LOGGING_CATEGORY(lcIdent, "nod.ident")
 Q_LOGGING_CATEGORY(lcProtocolo, "nod.protocolo")
 Q_LOGGING_CATEGORY(lcComms, "nod.comms")
+Q_LOGGING_CATEGORY(lcFicheros, "nod.ficheros")
 } // namespace nod

@@ -153,5 +153,6 @@ void RegistraRutinasTexto(Rutinas& r);
 void RegistraRutinasIdent(Rutinas& r);
 void RegistraRutinasGeo(Rutinas& r);
 void RegistraRutinasProtocolo(Rutinas& r);
+void RegistraRutinasDocumentos(Rutinas& r);
 
 } // namespace nod::lote

@@ -9,6 +9,7 @@
 #include "tests/support/oficina_prueba.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -206,18 +207,19 @@ TEST(OficinaMuestra, GeneratorGivesTheCommittedTables) {
     ASSERT_TRUE(py.waitForFinished(120000));
     ASSERT_EQ(py.exitCode(), 0) << py.readAllStandardError().toStdString();
     int comparadas = 0;
-    for (const char* carpeta : {"DATOS", "NOTARIO1", "NOTARIO2"})
-        for (const QFileInfo& fi :
-             QDir(dir.filePath(QString::fromLatin1(carpeta))).entryInfoList(QDir::Files)) {
-            QFile nueva(fi.filePath()),
-                comprometida(prueba::OficinaMuestra() + QLatin1Char('/') + QString::fromLatin1(carpeta) +
-                             QLatin1Char('/') + fi.fileName());
+    for (const char* carpeta : {"DATOS", "NOTARIO1", "NOTARIO2", "C"})
+        for (QDirIterator it(dir.filePath(QString::fromLatin1(carpeta)), QDir::Files,
+                             QDirIterator::Subdirectories);
+             it.hasNext();) {
+            const QString relativa = QDir(dir.path()).relativeFilePath(it.next());
+            QFile nueva(dir.filePath(relativa)),
+                comprometida(prueba::OficinaMuestra() + QLatin1Char('/') + relativa);
             ASSERT_TRUE(nueva.open(QIODevice::ReadOnly) && comprometida.open(QIODevice::ReadOnly))
-                << fi.fileName().toStdString();
-            EXPECT_TRUE(nueva.readAll() == comprometida.readAll()) << fi.fileName().toStdString();
+                << relativa.toStdString();
+            EXPECT_TRUE(nueva.readAll() == comprometida.readAll()) << relativa.toStdString();
             ++comparadas;
         }
-    EXPECT_EQ(comparadas, 11);
+    EXPECT_EQ(comparadas, 11 + 14) << "tables and images";
 }
 
 } // namespace
