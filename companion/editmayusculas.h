@@ -1,11 +1,5 @@
 #pragma once
-// Edits whose text the suite keeps in capitals as it is typed (series, bis letters, NIE and CIF).
+// Edits whose text the suite keeps in capitals (series, bis letters, NIE and CIF): `EscribeEnMayusculas`,
+// now one of the character filters of companion/filtroteclas.h.
 
-class QLineEdit;
-
-namespace nod {
-
-/// Turns every edit of `e` into capitals (accented letters too), keeping the cursor where it was.
-void EscribeEnMayusculas(QLineEdit* e);
-
-} // namespace nod
+#include "companion/filtroteclas.h"

@@ -1,0 +1,122 @@
+// Amounts typed the Spanish way, with the numeric keypad's point, by real keys.
+#include "companion/editimporte.h"
+
+#include <QApplication>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace nod;
+
+TEST(LeeImporte, APointGroupsThreeDigitsOrEndsWithTheDecimals) {
+    const struct {
+        const char* texto;
+        int decimales;
+        std::optional<double> valor;
+    } casos[] = {
+        {"1500.50", 2, 1500.5},
+        {"150000.5", 2, 150000.5},
+        {"1.500", 2, 1500},
+        {"1.500,50", 2, 1500.5},
+        {"1.234.567,8", 2, 1234567.8},
+        {"1500,5", 2, 1500.5},
+        {".5", 2, 0.5},
+        {"12,", 2, 12},
+        {"", 2, 0},
+        {" 1 500,50 ", 2, 1500.5},
+        {"1.500", 0, 1500},
+        {"2.000.000", 0, 2000000},
+        {"1.5", 0, std::nullopt},
+        {"15.00", 0, std::nullopt},
+        {"1.", 2, std::nullopt},
+        {"1.234.5", 2, std::nullopt},
+        {"1.50.0", 2, std::nullopt},
+        {"1500.500", 2, std::nullopt},
+        {"1.5000", 2, std::nullopt},
+        {"15.00,5", 2, std::nullopt},
+        {"1.5,5", 2, std::nullopt},
+        {"1,234", 2, std::nullopt},
+        {"1,5", 0, std::nullopt},
+        {"1,2,3", 2, std::nullopt},
+        {"-5", 2, std::nullopt},
+        {"1e5", 2, std::nullopt},
+        {"12345678901234", 2, std::nullopt},
+    };
+    for (const auto& c : casos) {
+        const std::optional<double> v = LeeImporte(QString::fromLatin1(c.texto), c.decimales);
+        EXPECT_EQ(v.has_value(), c.valor.has_value()) << c.texto << " / " << c.decimales;
+        if (v && c.valor) {
+            EXPECT_DOUBLE_EQ(*v, *c.valor) << c.texto;
+        }
+    }
+    EXPECT_EQ(LeeImporte(u"-1.500,5", 2, true), -1500.5);
+}
+
+TEST(FormateaImporte, SpanishWayRoundedHalfAwayFromZero) {
+    const struct {
+        double valor;
+        int decimales;
+        const char* texto;
+    } casos[] = {{1500.5, 2, "1.500,50"},
+                 {1500.5, 0, "1.501"},
+                 {-0.004, 2, "0,00"},
+                 {0, 2, "0,00"},
+                 {1234567.891, 2, "1.234.567,89"},
+                 {2.675, 2, "2,68"},
+                 {-1500.5, 0, "-1.501"},
+                 {999.999, 2, "1.000,00"}};
+    for (const auto& c : casos)
+        EXPECT_EQ(FormateaImporte(c.valor, c.decimales), QLatin1String(c.texto)) << c.valor;
+}
+
+// What is typed key by key: refused keys leave the text as it was.
+TEST(EditImporte, TypedKeysFollowTheRule) {
+    const struct {
+        const char* tecleado;
+        int decimales;
+        const char* queda;
+        double valor;
+        const char* alSalir;
+    } casos[] = {
+        {"1500.50", 2, "1500.50", 1500.5, "1.500,50"},
+        {"150000.5", 2, "150000.5", 150000.5, "150.000,50"},
+        {"1.500.000", 0, "1.500.000", 1500000, "1.500.000"},
+        {"1.5000", 2, "1.500", 1500, "1.500,00"}, // the fourth digit after a point is refused
+        {"12a,3x4", 2, "12,34", 12.34, "12,34"},  // letters are refused
+        {"1,234", 2, "1,23", 1.23, "1,23"},       // no third decimal
+        {"1.5", 0, "1.5", 0, "1.5"},              // unfinished: kept as typed, no value
+        {"-3", 2, "3", 3, "3,00"},                // no sign unless negatives are asked for
+    };
+    for (const auto& c : casos) {
+        QWidget ventana;
+        auto* e = new TEditImporte(&ventana, c.decimales);
+        auto* otro = new QLineEdit(&ventana);
+        ventana.show();
+        QApplication::setActiveWindow(&ventana);
+        e->setFocus();
+        QTest::keyClicks(e, QString::fromLatin1(c.tecleado));
+        EXPECT_EQ(e->text(), QLatin1String(c.queda)) << c.tecleado;
+        EXPECT_DOUBLE_EQ(e->Valor(), c.valor) << c.tecleado;
+        otro->setFocus();
+        EXPECT_EQ(e->text(), QLatin1String(c.alSalir)) << c.tecleado;
+        e->setFocus();
+        if (e->EsValido()) {
+            EXPECT_FALSE(e->text().contains(u'.'))
+                << "edited again, the amount stands without thousands points";
+        }
+    }
+}
+
+TEST(EditImporte, DeleteOverASelectionAndAnIntegerView) {
+    TEditImporte e(nullptr, 2);
+    e.setText(QStringLiteral("1500,50"));
+    e.setSelection(1, 2);
+    QKeyEvent supr(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QStringLiteral("\x7f"));
+    QApplication::sendEvent(&e, &supr);
+    EXPECT_EQ(e.text(), QStringLiteral("10,50"));
+    e.PonValor(1500.5);
+    EXPECT_EQ(e.text(), QStringLiteral("1.500,50"));
+    EXPECT_EQ(e.ValorEntero(), 1501);
+    e.SetDecimales(0);
+    EXPECT_EQ(e.text(), QStringLiteral("1.501"));
+    EXPECT_EQ(e.Valor(), 1501);
+}
