@@ -149,7 +149,9 @@ TFRespHipotec::TFRespHipotec(QWidget* owner)
         rejilla->addWidget(texto("pts."), r, kColPesetas + 1);
         rejilla->addWidget(f.euros, r, kColEuros);
     }
-    rejilla->addWidget(texto("Total:"), 6, 0);
+    auto* lTotal = texto("Total:");
+    lTotal->setBuddy(ETotal_E);
+    rejilla->addWidget(lTotal, 6, 0);
     rejilla->addWidget(ETotal, 6, kColPesetas);
     rejilla->addWidget(texto("pts."), 6, kColPesetas + 1);
     rejilla->addWidget(ETotal_E, 6, kColEuros);

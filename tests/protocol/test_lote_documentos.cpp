@@ -15,14 +15,8 @@ json pide(const std::string& linea) {
     return AtiendeLinea(linea, 1);
 }
 
-TEST(LoteDocumentos, NamesAndTheMisconfigurationBox) {
+TEST(LoteDocumentos, TheMisconfigurationBoxIsReported) {
     OficinaPrueba o(QStringLiteral("[GENERAL]\nNumeroNotarios=2\n"));
-    EXPECT_EQ(pide(R"({"fn":"DameNombreFicheroWordEscrituras","args":[0,1,12,2008,1],)"
-                   R"("config":{"sEnlaceWordNombreFichero":"<AÑO>-<NUMERO5>"}})")["result"],
-              "08-00012_1Bis");
-    EXPECT_EQ(pide(R"({"fn":"DameNombreFicheroCopiaAutorizada","args":["A",12,2]})")["result"],
-              "COPAUT_000122Bis_A");
-
     const json r = pide(R"({"fn":"DameCarpetaFicheroWordEscrituras","args":[0,1,2008],)"
                         R"("config":{"bEnlaceWordConvenio":true,"nCuantos":0}})");
     EXPECT_EQ(r["result"], "C:\\NODRIM\\PROTOCOLO");
