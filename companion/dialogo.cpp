@@ -318,23 +318,24 @@ void AjustaALaPantalla(QWidget* ventana) {
     if (!pantalla) return;
     const QRect zona = pantalla->availableGeometry();
     QRect marco = ventana->frameGeometry();
-    // Before the window system has framed a new window its frame is its client area: count the frame
-    // of the owner's window instead.
-    if (marco == ventana->geometry() && ventana->parentWidget()) {
-        const QWidget* duena = ventana->parentWidget()->window();
-        if (duena->isVisible())
-            marco =
-                marco.marginsAdded(QMargins(duena->geometry().left() - duena->frameGeometry().left(),
-                                            duena->geometry().top() - duena->frameGeometry().top(),
-                                            duena->frameGeometry().right() - duena->geometry().right(),
-                                            duena->frameGeometry().bottom() - duena->geometry().bottom()));
+    // Before the window system has framed a new window its frame is its client area: count the frame of
+    // its owner's window, or of another window of the program, instead.
+    if (marco == ventana->geometry()) {
+        const QWidget* otra = ventana->parentWidget() ? ventana->parentWidget()->window() : nullptr;
+        if (!otra || !otra->isVisible()) otra = QApplication::activeWindow();
+        if (otra && otra != ventana && otra->isVisible())
+            marco = marco.marginsAdded(QMargins(otra->geometry().left() - otra->frameGeometry().left(),
+                                                otra->geometry().top() - otra->frameGeometry().top(),
+                                                otra->frameGeometry().right() - otra->geometry().right(),
+                                                otra->frameGeometry().bottom() - otra->geometry().bottom()));
     }
     int dx = 0, dy = 0;
     if (marco.right() > zona.right()) dx = zona.right() - marco.right();
     if (marco.left() + dx < zona.left()) dx = zona.left() - marco.left();
     if (marco.bottom() > zona.bottom()) dy = zona.bottom() - marco.bottom();
     if (marco.top() + dy < zona.top()) dy = zona.top() - marco.top();
-    if (dx || dy) ventana->move(ventana->pos() + QPoint(dx, dy));
+    // By the client area: where the frame is not yet known, a frame position would be read as a client one.
+    if (dx || dy) ventana->setGeometry(ventana->geometry().translated(dx, dy));
 }
 
 QChar Acelerador(const QString& texto) {

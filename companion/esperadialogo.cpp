@@ -94,6 +94,10 @@ TEsperaDialogo::~TEsperaDialogo() {
     m_estado->termina();
 }
 
+void TEsperaDialogo::Termina() {
+    m_estado->termina();
+}
+
 bool TEsperaDialogo::Empieza() {
     Estado& e = *m_estado;
     if (e.empezada || !e.ventana || EnEspera(e.ventana)) return false;

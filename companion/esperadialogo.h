@@ -31,8 +31,7 @@ public:
     /// enabled (with the normal cursor) and its own action runs as usual (a "&Cancelar" closes the dialog).
     TEsperaDialogo(QWidget* ventana, const QString& mensaje = {}, QAbstractButton* cancelar = nullptr);
 
-    /// Ends the wait if it is running: the wait message closes, the controls, the cursor and the focus
-    /// come back as they were.
+    /// Ends the wait if it is running (`Termina`).
     ~TEsperaDialogo();
 
     TEsperaDialogo(const TEsperaDialogo&) = delete;
@@ -42,6 +41,11 @@ public:
     /// `cancelar` disabled. Returns false, changing nothing, when the window is already waiting (a second
     /// click that slipped through) or is gone.
     bool Empieza();
+
+    /// Ends the wait now, before the scope does (to tell the clerk the result with the dialog usable again):
+    /// the wait message closes, the controls, the cursor and the focus come back as they were. `Cancelada`
+    /// keeps its answer.
+    void Termina();
 
     /// True once the clerk abandoned the wait: Escape pressed anywhere in the program, `cancelar` pressed,
     /// or the window closed or destroyed.

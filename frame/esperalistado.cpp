@@ -1,5 +1,6 @@
 #include "frame/esperalistado.h"
 
+#include "companion/dialogo.h"
 #include "frame/ventanas.h"
 
 #include <QGuiApplication>
@@ -31,6 +32,10 @@ TFEsperaListado::TFEsperaListado(QWidget* owner, const QString& caption)
     else if (const QScreen* s = QGuiApplication::primaryScreen())
         zona = s->availableGeometry();
     if (zona.isValid()) move(zona.center() - rect().center());
+    // The work goes on whatever the clerk presses: Escape and the close button do nothing.
+    OpcionesDialogo o;
+    o.escapeCierra = false;
+    AplicaConvencionesDialogo(this, o);
 }
 
 void TFEsperaListado::DibujaEstado(int posicion) {

@@ -13,7 +13,8 @@ class TFEsperaListado : public QDialog {
 public:
     /// A single-border window titled `caption` (design title "Generando el Listado."), centred on the
     /// program's main window (`VentanaPrincipal`, or on the screen while none is visible) whatever its
-    /// owner, holding the bar `PbListado` with range 0 to 100.
+    /// owner, holding the bar `PbListado` with range 0 to 100. It cannot be cancelled: Escape and the close
+    /// button leave it on screen while the work goes on.
     explicit TFEsperaListado(QWidget* owner = nullptr,
                              const QString& caption = QStringLiteral("Generando el Listado."));
 

@@ -1,7 +1,8 @@
 #include "frame/mensajeactivosfinancieros.h"
 
+#include "companion/dialogo.h"
+
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTextEdit>
@@ -55,8 +56,8 @@ TFMensajeActivosFinancieros::TFMensajeActivosFinancieros(QWidget* owner)
     texto->setObjectName(QStringLiteral("RETexto"));
     texto->setReadOnly(true);
     texto->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    texto->setHtml(TextoAyuda());
-    texto->setFocusPolicy(Qt::ClickFocus);
+    texto->setHtml(TextoAyuda()); // the box's own fixed text: the one place where markup is meant
+    titulo->setBuddy(texto);      // the title names the text for screen readers
 
     auto* barra = new QWidget(this);
     barra->setObjectName(QStringLiteral("PBotones"));
@@ -79,6 +80,12 @@ TFMensajeActivosFinancieros::TFMensajeActivosFinancieros(QWidget* owner)
     l->addWidget(titulo);
     l->addWidget(texto, 1);
     l->addWidget(barra);
+    // The help text takes the focus first and scrolls with the arrows and Page keys; Tab goes on to the
+    // buttons. Escape answers Yes.
+    texto->setFocus();
+    OpcionesDialogo o;
+    o.resultadoEscape = 6;
+    AplicaConvencionesDialogo(this, o);
 }
 
 void TFMensajeActivosFinancieros::CambiaTipoMensaje(int tipo) {
@@ -109,14 +116,6 @@ void TFMensajeActivosFinancieros::BBAceptarClick() {
 void TFMensajeActivosFinancieros::reject() {
     setResult(7);
     BBSiClick();
-}
-
-void TFMensajeActivosFinancieros::keyPressEvent(QKeyEvent* e) {
-    if ((e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && e->modifiers() == Qt::NoModifier) {
-        focusNextChild();
-        return;
-    }
-    QDialog::keyPressEvent(e);
 }
 
 int MuestraActivosFinancieros(int tipo, QWidget* owner) {

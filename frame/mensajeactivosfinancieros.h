@@ -12,8 +12,9 @@ namespace nod {
 class TFMensajeActivosFinancieros : public QDialog {
     Q_OBJECT
 public:
-    /// Caption "Información sobre los Activos Financieros", 495 × 344, the help text read-only with a
-    /// vertical scroll bar and the buttons `BBSi` (6), `BBNo` (7) and `BBAceptar` (1), all three shown.
+    /// Caption "Información sobre los Activos Financieros", 495 × 344, the help text `RETexto` read-only
+    /// with a vertical scroll bar and the buttons `BBSi` (6), `BBNo` (7) and `BBAceptar` (1), all three
+    /// shown. The help text has the focus at first and scrolls with the keys; Tab reaches the buttons.
     explicit TFMensajeActivosFinancieros(QWidget* owner = nullptr);
 
     /// 0 shows `BBAceptar` alone; 1 shows `BBSi` and `BBNo` alone; other values change nothing.
@@ -29,9 +30,6 @@ public:
 
     /// The fixed help text (HTML).
     static QString TextoAyuda();
-
-protected:
-    void keyPressEvent(QKeyEvent* e) override;
 };
 
 /// Builds the box, sets its type, shows it modally and returns 1, 6 or 7.

@@ -1,10 +1,12 @@
 #include "frame/mensajenod.h"
 
+#include "companion/dialogo.h"
 #include "companion/foco.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
@@ -41,12 +43,30 @@ QLabel* etiqueta(QWidget* padre, const char* nombre, QRect geometria, int pixele
     return l;
 }
 
-QLabel* icono(QWidget* padre, const char* nombre, QPoint posicion, QStyle::StandardPixmap cual) {
+QLabel* icono(QWidget* padre, const char* nombre, QPoint posicion, const QPixmap& imagen) {
     auto* l = new QLabel(padre);
     l->setObjectName(QLatin1String(nombre));
     l->setGeometry(QRect(posicion, QSize(32, 32)));
-    l->setPixmap(padre->style()->standardIcon(cual).pixmap(32, 32));
+    l->setPixmap(imagen);
     return l;
+}
+
+// The stop sign of a box whose background is usually red: a white disc ringed and crossed in dark red, so
+// that it stands out on red, on the other schemes' colours and at any scale.
+QPixmap iconoStop(qreal escala) {
+    QPixmap p(QSize(32, 32) * escala);
+    p.setDevicePixelRatio(escala);
+    p.fill(Qt::transparent);
+    QPainter g(&p);
+    g.setRenderHint(QPainter::Antialiasing);
+    const QColor granate(128, 0, 0);
+    g.setPen(QPen(granate, 2));
+    g.setBrush(Qt::white);
+    g.drawEllipse(QRectF(1, 1, 30, 30));
+    g.setPen(QPen(granate, 4.5, Qt::SolidLine, Qt::RoundCap));
+    g.drawLine(QPointF(10.5, 10.5), QPointF(21.5, 21.5));
+    g.drawLine(QPointF(21.5, 10.5), QPointF(10.5, 21.5));
+    return p;
 }
 
 QPushButton* boton(QWidget* padre, const char* nombre, const QString& texto, int izquierda, QColor color) {
@@ -80,8 +100,9 @@ TFMensajeNod::TFMensajeNod(QWidget* owner)
 
     m_lmensaje = etiqueta(this, "lmensaje", {59, 5, 526, 61}, 15, Qt::AlignLeft | Qt::AlignVCenter);
     m_lmensaje->setWordWrap(true);
-    m_iconoStop = icono(this, "IconoStop", {8, 16}, QStyle::SP_MessageBoxCritical);
-    m_iconoPregunta = icono(this, "IconoPregunta", {9, 16}, QStyle::SP_MessageBoxQuestion);
+    m_iconoStop = icono(this, "IconoStop", {8, 16}, iconoStop(devicePixelRatio()));
+    m_iconoPregunta = icono(this, "IconoPregunta", {9, 16},
+                            style()->standardIcon(QStyle::SP_MessageBoxQuestion).pixmap(32, 32));
     m_lmensaje2 = etiqueta(this, "LMENSAJE2", {45, 72, 540, 19}, 16, Qt::AlignCenter);
 
     m_panel1 = new QWidget(this); // no bevel, the box's own colour: it only reserves the bottom strip
@@ -95,13 +116,18 @@ TFMensajeNod::TFMensajeNod(QWidget* owner)
     m_bcancelar->setIcon(style()->standardIcon(QStyle::SP_DialogCancelButton));
     connect(m_baceptar, &QPushButton::clicked, this, [this] { done(1); });
     connect(m_bcancelar, &QPushButton::clicked, this, [this] { done(2); });
-    for (QPushButton* b : {m_baceptar, m_bcancelar})
-        b->installEventFilter(this);
     setTabOrder(m_baceptar, m_bcancelar);
 
     CambiaFondo(0x0000FF);
     CambiaColorLetras(0xFFFFFF);
     FormCreate();
+    // "&Aceptar" is the design's default button; the focus sits on the buttons, so a plain letter presses
+    // its button and Enter the focused one. The focus mark follows the buttons (BACEPTAREnter/Exit).
+    OpcionesDialogo o;
+    o.enter = ReglaEnter::BotonPorDefecto;
+    o.letrasPulsanBotones = true;
+    o.marcaFoco = MarcaFoco::Controles;
+    AplicaConvencionesDialogo(this, o);
 }
 
 TFMensajeNod::~TFMensajeNod() = default;
@@ -156,7 +182,7 @@ void TFMensajeNod::CambiaTipoMensaje(int tipo, const QString& b1, const QString&
 }
 
 void TFMensajeNod::CambiaMensaje1(const QString& s) {
-    m_lmensaje->setText(s);
+    PonTextoAjustado(m_lmensaje, s);
 }
 
 void TFMensajeNod::CambiaMensaje2(const QString& s) {
@@ -165,7 +191,7 @@ void TFMensajeNod::CambiaMensaje2(const QString& s) {
         f.setPointSize(10);
         m_lmensaje2->setFont(f);
     }
-    m_lmensaje2->setText(s);
+    PonTextoAjustado(m_lmensaje2, s);
 }
 
 void TFMensajeNod::FormCreate() {
@@ -211,23 +237,9 @@ void TFMensajeNod::FormShow() {
     activateWindow();
 }
 
-void TFMensajeNod::reject() {
-    done(2);
-}
-
 void TFMensajeNod::showEvent(QShowEvent* e) {
     FormShow();
     QDialog::showEvent(e);
-}
-
-bool TFMensajeNod::eventFilter(QObject* objeto, QEvent* e) {
-    // BACEPTAREnter / BACEPTARExit, shared by both buttons: the focus mark follows the focus.
-    auto* b = qobject_cast<QPushButton*>(objeto);
-    if (b && e->type() == QEvent::FocusIn)
-        TomaFocoControl(b);
-    else if (b && e->type() == QEvent::FocusOut)
-        DejaFocoControl(b);
-    return QDialog::eventFilter(objeto, e);
 }
 
 int MuestraMensajePerson(const PeticionMensajePerson& p, QWidget* owner) {

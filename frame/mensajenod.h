@@ -12,6 +12,12 @@
 //   no lower line       buttons at top 62, height 123
 // Heights and tops are those of the client area: the buttons' tops are taken in the box itself (the
 // bar stays at the bottom with its 34 pixels), so the buttons are always within the box.
+//
+// Keys: the focus sits on the buttons; Enter presses the focused one, a plain letter ("s", "n", "a" ...)
+// presses its button as Alt+letter does, and Escape answers 2 whichever buttons are shown. Texts are plain
+// ("<b>" shows as typed) and "\r", "\r\n" or "\n" break a line. A text longer than its line's room is
+// shown from its beginning, aligned to the top and cut with "…", the whole text in the tooltip. Shown, the
+// box lies inside the screen even when centred on an owner near its edge.
 
 #include "companion/mensajes.h"
 
@@ -41,6 +47,8 @@ public:
     /// 3, 4 and unknown values "&Aceptar"/"&Cancelar"; 5, 6 the captions `b1`, `b2` without glyphs and
     /// with fonts two points larger. The first button stands at left 374 (491 for type 0).
     void CambiaTipoMensaje(int tipo, const QString& b1, const QString& b2);
+    /// Sets the upper line: up to three wrapped lines, vertically centred when the text fits; a longer
+    /// text keeps its beginning (`PonTextoAjustado`).
     void CambiaMensaje1(const QString& s);
     /// Sets the lower line; a text longer than 40 characters is drawn at 10 points.
     void CambiaMensaje2(const QString& s);
@@ -53,12 +61,8 @@ public:
     /// Lays the box out by which lines are present, sets the focus by type and raises the box.
     void FormShow();
 
-    /// Escape: result 2, whichever buttons are shown.
-    void reject() override;
-
 protected:
     void showEvent(QShowEvent* e) override;
-    bool eventFilter(QObject* objeto, QEvent* e) override;
 
 private:
     QLabel* m_lmensaje;

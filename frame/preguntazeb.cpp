@@ -1,12 +1,12 @@
 #include "frame/preguntazeb.h"
 
 #include "companion/config.h"
+#include "companion/dialogo.h"
 #include "companion/foco.h"
 #include "frame/shell.h"
 
 #include <QEvent>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QStyle>
 
@@ -29,11 +29,15 @@ void pinta(QLabel* l, TColor c, int deltaPuntos) {
     l->setPalette(p);
 }
 
-QLabel* enlace(QWidget* padre, const char* nombre, const QString& texto, TColor reposo) {
-    auto* l = new QLabel(texto, padre);
+// A link showing its address; without one (the office has not configured it) a disabled line that says so.
+QLabel* enlace(QWidget* padre, const char* nombre, const QString& direccion, const QString& sinDireccion,
+               TColor reposo) {
+    auto* l = new QLabel(padre);
     l->setObjectName(QLatin1String(nombre));
+    PonTextoPlano(l, direccion.isEmpty() ? sinDireccion : direccion);
+    l->setEnabled(!direccion.isEmpty());
     QFont f = l->font();
-    f.setUnderline(true);
+    f.setUnderline(l->isEnabled());
     l->setFont(f);
     pinta(l, reposo, 0);
     return l;
@@ -51,13 +55,16 @@ TFPreguntaZEB::TFPreguntaZEB(QWidget* owner, const QString& texto)
     m_imagen->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(48, 48));
     m_imagen->installEventFilter(this);
 
-    auto* mensaje = new QLabel(texto, this);
+    auto* mensaje = new QLabel(this);
     mensaje->setObjectName(QStringLiteral("LMensaje"));
+    PonTextoPlano(mensaje, texto);
     mensaje->setWordWrap(true);
     mensaje->setMinimumWidth(320);
 
-    m_web = enlace(this, "LMDZeb", Config.GetWebFabricante(), kWeb.reposo);
-    m_correo = enlace(this, "LMDCorreo", Config.GetCorreoFabricante(), kCorreo.reposo);
+    m_web = enlace(this, "LMDZeb", Config.GetWebFabricante(), QStringLiteral("Página web no configurada"),
+                   kWeb.reposo);
+    m_correo = enlace(this, "LMDCorreo", Config.GetCorreoFabricante(),
+                      QStringLiteral("Correo no configurado"), kCorreo.reposo);
     for (QLabel* l : {m_web, m_correo})
         l->installEventFilter(this);
 
@@ -66,34 +73,33 @@ TFPreguntaZEB::TFPreguntaZEB(QWidget* owner, const QString& texto)
     g->addWidget(mensaje, 0, 1);
     g->addWidget(m_web, 1, 1);
     g->addWidget(m_correo, 2, 1);
+    AplicaConvencionesDialogo(this);
 }
 
 void TFPreguntaZEB::EntraEnlace(QLabel* l) {
+    if (!l->isEnabled()) return;
     l->setCursor(Qt::PointingHandCursor);
     pinta(l, l == m_web ? kWeb.encima : kCorreo.encima, +1);
 }
 
 void TFPreguntaZEB::SaleEnlace(QLabel* l) {
+    if (!l->isEnabled()) return;
     l->unsetCursor();
     pinta(l, l == m_web ? kWeb.reposo : kCorreo.reposo, -1);
 }
 
 void TFPreguntaZEB::LMDZebClick() {
-    AbreEnShell(QUrl(Config.GetWebFabricante()));
+    if (m_web->isEnabled()) AbreEnShell(QUrl(Config.GetWebFabricante()));
 }
 
 void TFPreguntaZEB::LMDCorreoClick() {
-    AbreEnShell(QUrl(QStringLiteral("mailto:") + Config.GetCorreoFabricante()));
-}
-
-void TFPreguntaZEB::reject() {
-    done(2);
+    if (m_correo->isEnabled()) AbreEnShell(QUrl(QStringLiteral("mailto:") + Config.GetCorreoFabricante()));
 }
 
 bool TFPreguntaZEB::eventFilter(QObject* objeto, QEvent* e) {
     auto* l = qobject_cast<QLabel*>(objeto);
     if (l == m_imagen && e->type() == QEvent::MouseButtonRelease) {
-        reject();
+        reject(); // result 2, as Escape
         return true;
     }
     if (l == m_web || l == m_correo) {
@@ -107,14 +113,6 @@ bool TFPreguntaZEB::eventFilter(QObject* objeto, QEvent* e) {
         }
     }
     return QDialog::eventFilter(objeto, e);
-}
-
-void TFPreguntaZEB::keyPressEvent(QKeyEvent* e) {
-    if ((e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && e->modifiers() == Qt::NoModifier) {
-        focusNextChild();
-        return;
-    }
-    QDialog::keyPressEvent(e); // Escape closes
 }
 
 } // namespace nod

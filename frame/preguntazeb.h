@@ -1,7 +1,8 @@
 #pragma once
 // TFPreguntaZEB: the maker's contact box (unit Preguntazeb): a message, the maker's logo, and two links,
 // to the maker's web site (`LMDZeb`) and to its support desk by mail (`LMDCorreo`). The addresses are
-// the office's configuration values `WebFabricante` and `CorreoFabricante`.
+// the office's configuration values `WebFabricante` and `CorreoFabricante`, empty unless the office sets
+// them: a link without an address is disabled and says it is not configured.
 
 #include <QDialog>
 
@@ -12,7 +13,8 @@ namespace nod {
 class TFPreguntaZEB : public QDialog {
     Q_OBJECT
 public:
-    /// The box with `texto` in its message label `LMensaje`.
+    /// The box with `texto` (plain text) in its message label `LMensaje`. Escape, the close button and a
+    /// click on the image close it with result 2.
     TFPreguntaZEB(QWidget* owner, const QString& texto);
 
     /// Link hover: on entering, a pointing hand and a font one point larger in the highlight colour
@@ -21,16 +23,13 @@ public:
     void EntraEnlace(QLabel* enlace);
     void SaleEnlace(QLabel* enlace);
 
-    /// Opens the maker's web site / a "mailto:" to its support desk, through the shell opener.
+    /// Opens the maker's web site / a "mailto:" to its support desk, through the shell opener; nothing
+    /// when the address is not configured.
     void LMDZebClick();
     void LMDCorreoClick();
 
-    /// Escape, the close button and a click on the image close the box with result 2.
-    void reject() override;
-
 protected:
     bool eventFilter(QObject* objeto, QEvent* e) override;
-    void keyPressEvent(QKeyEvent* e) override;
 
 private:
     QLabel* m_web;

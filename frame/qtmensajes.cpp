@@ -1,13 +1,14 @@
 #include "frame/qtmensajes.h"
 
+#include "companion/dialogo.h"
+#include "frame/cajamensaje.h"
 #include "frame/mensajeactivosfinancieros.h"
 #include "frame/mensajenod.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
-#include <QMessageBox>
-#include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace nod {
@@ -18,9 +19,8 @@ QWidget* propietario() {
     return QApplication::activeWindow();
 }
 
-int caja(QMessageBox::Icon icono, const QString& texto, const QString& titulo) {
-    QMessageBox m(icono, titulo, texto, QMessageBox::NoButton, propietario());
-    m.addButton(QStringLiteral("&Aceptar"), QMessageBox::AcceptRole);
+int caja(TCajaMensaje::Tipo tipo, const QString& texto, const QString& titulo, bool focoEnSi = true) {
+    TCajaMensaje m(tipo, texto, titulo, focoEnSi, propietario());
     return m.exec();
 }
 
@@ -31,24 +31,16 @@ ServicioMensajesQt::~ServicioMensajesQt() {
 }
 
 void ServicioMensajesQt::error(const QString& texto, const QString& titulo) {
-    caja(QMessageBox::Critical, texto, titulo);
+    caja(TCajaMensaje::Tipo::Error, texto, titulo);
 }
 
 void ServicioMensajesQt::info(const QString& texto, const QString& titulo) {
-    caja(QMessageBox::Information, texto, titulo);
+    caja(TCajaMensaje::Tipo::Informacion, texto, titulo);
 }
 
 int ServicioMensajesQt::pregunta(const QString& /*kind*/, const QString& texto, const QString& titulo,
                                  bool focoEnSi) {
-    QMessageBox m(QMessageBox::Question, titulo, texto, QMessageBox::NoButton, propietario());
-    QPushButton* si = m.addButton(QStringLiteral("&Si"), QMessageBox::YesRole);
-    QPushButton* no = m.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
-    si->setObjectName(QStringLiteral("BSi"));
-    no->setObjectName(QStringLiteral("BNo"));
-    m.setDefaultButton(focoEnSi ? si : no);
-    m.setEscapeButton(no);
-    m.exec();
-    return m.clickedButton() == si ? 1 : 2;
+    return caja(TCajaMensaje::Tipo::Pregunta, texto, titulo, focoEnSi) == 1 ? 1 : 2;
 }
 
 void ServicioMensajesQt::muestraEspera(const QString& texto) {
@@ -56,14 +48,24 @@ void ServicioMensajesQt::muestraEspera(const QString& texto) {
         m_espera = new QDialog(propietario(), Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
         m_espera->setObjectName(QStringLiteral("FEspera"));
         m_espera->setWindowTitle(QStringLiteral("Espere, por favor"));
-        m_espera->setAttribute(Qt::WA_DeleteOnClose);
         m_textoEspera = new QLabel(m_espera);
         m_textoEspera->setObjectName(QStringLiteral("LEspera"));
         m_textoEspera->setAlignment(Qt::AlignCenter);
-        m_textoEspera->setMinimumWidth(320);
-        (new QVBoxLayout(m_espera))->addWidget(m_textoEspera);
+        m_textoEspera->setWordWrap(true);
+        // A long text wraps instead of widening the window past the screen.
+        const QScreen* pantalla = m_espera->screen();
+        const int ancho = pantalla ? pantalla->availableGeometry().width() / 2 : 480;
+        m_textoEspera->setMinimumWidth(qMin(320, ancho));
+        m_textoEspera->setMaximumWidth(qMax(320, qMin(560, ancho)));
+        auto* capa = new QVBoxLayout(m_espera);
+        capa->addWidget(m_textoEspera);
+        capa->setSizeConstraint(QLayout::SetFixedSize);
+        // Only the program closes it: Escape and the close button belong to the wait, not to the window.
+        OpcionesDialogo o;
+        o.escapeCierra = false;
+        AplicaConvencionesDialogo(m_espera, o);
     }
-    m_textoEspera->setText(texto);
+    PonTextoPlano(m_textoEspera, texto);
     m_espera->show();
     m_espera->raise();
     m_espera->repaint();
@@ -71,12 +73,15 @@ void ServicioMensajesQt::muestraEspera(const QString& texto) {
 
 void ServicioMensajesQt::cambiaEspera(const QString& texto) {
     if (!m_espera) return muestraEspera(texto);
-    m_textoEspera->setText(texto);
+    PonTextoPlano(m_textoEspera, texto);
     m_espera->repaint();
 }
 
 void ServicioMensajesQt::cierraEspera() {
-    if (m_espera) m_espera->close(); // deletes itself
+    if (!m_espera) return;
+    m_espera->hide();
+    m_espera->deleteLater();
+    m_espera = nullptr;
 }
 
 int ServicioMensajesQt::mensajePerson(const PeticionMensajePerson& p) {

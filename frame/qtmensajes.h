@@ -18,13 +18,16 @@ class ServicioMensajesQt : public ServicioMensajes {
 public:
     ~ServicioMensajesQt() override;
 
-    /// A box with the stop icon and one "&Aceptar" button.
+    /// A TCajaMensaje with the stop icon and one "&Aceptar" button.
     void error(const QString& texto, const QString& titulo) override;
-    /// A box with the information icon and one "&Aceptar" button.
+    /// A TCajaMensaje with the information icon and one "&Aceptar" button.
     void info(const QString& texto, const QString& titulo) override;
-    /// "&Si" / "&No", the focus on "&Si" when `focoEnSi`; Escape answers No. 1 yes, 2 no.
+    /// A TCajaMensaje with "&Si" / "&No", the focus on "&Si" when `focoEnSi`; Escape answers No. 1 yes,
+    /// 2 no.
     int pregunta(const QString& kind, const QString& texto, const QString& titulo, bool focoEnSi) override;
-    /// A small window without buttons, shown at once and kept above the program until closed.
+    /// A small window without buttons (`FEspera`, its text in `LEspera`), shown at once and kept above the
+    /// program until closed. Its text is plain and wraps within half the screen's width; Escape and the
+    /// close button do not close it.
     void muestraEspera(const QString& texto) override;
     void cambiaEspera(const QString& texto) override;
     void cierraEspera() override;

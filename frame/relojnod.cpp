@@ -1,15 +1,13 @@
 #include "frame/relojnod.h"
 
-#include "companion/foco.h"
+#include "companion/dialogo.h"
 #include "companion/hoy.h"
 #include "companion/mensajes.h"
 #include "companion/tdatetime.h"
 
 #include <QDateEdit>
 #include <QDialogButtonBox>
-#include <QEvent>
 #include <QFormLayout>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QTimeEdit>
 #include <QVBoxLayout>
@@ -73,16 +71,12 @@ TFRelojNod::TFRelojNod(QWidget* owner)
     m_hora = new QTimeEdit(this);
     m_hora->setObjectName(QStringLiteral("DTPHora"));
     m_hora->setDisplayFormat(QStringLiteral("HH:mm:ss"));
-    for (QWidget* w : {static_cast<QWidget*>(m_fecha), static_cast<QWidget*>(m_hora)})
-        w->installEventFilter(this);
 
     auto* botones = new QDialogButtonBox(this);
     auto* aceptar = botones->addButton(QStringLiteral("&Aceptar"), QDialogButtonBox::AcceptRole);
     aceptar->setObjectName(QStringLiteral("BBAceptar"));
     auto* cancelar = botones->addButton(QStringLiteral("&Cancelar"), QDialogButtonBox::RejectRole);
     cancelar->setObjectName(QStringLiteral("BBCancelar"));
-    for (QPushButton* b : {aceptar, cancelar})
-        b->setAutoDefault(false);
     connect(aceptar, &QPushButton::clicked, this, &TFRelojNod::BBAceptarClick);
     connect(cancelar, &QPushButton::clicked, this, &TFRelojNod::reject);
 
@@ -95,6 +89,11 @@ TFRelojNod::TFRelojNod(QWidget* owner)
     setTabOrder(m_fecha, m_hora);
     setTabOrder(m_hora, aceptar);
     setTabOrder(aceptar, cancelar);
+    // Enter moves on, from "&Aceptar" too (the button box would accept); each picker wears the focus mark
+    // while it has the focus.
+    OpcionesDialogo o;
+    o.marcaFoco = MarcaFoco::Campos;
+    AplicaConvencionesDialogo(this, o);
 }
 
 void TFRelojNod::FormShow() {
@@ -120,32 +119,9 @@ void TFRelojNod::BBAceptarClick() {
     done(1);
 }
 
-void TFRelojNod::reject() {
-    done(2);
-}
-
 void TFRelojNod::showEvent(QShowEvent* e) {
     FormShow();
     QDialog::showEvent(e);
-}
-
-bool TFRelojNod::eventFilter(QObject* objeto, QEvent* e) {
-    // Each picker wears the focus mark while it has the focus.
-    if (auto* w = qobject_cast<QWidget*>(objeto)) {
-        if (e->type() == QEvent::FocusIn)
-            TomaFocoControl(w);
-        else if (e->type() == QEvent::FocusOut)
-            DejaFocoControl(w);
-    }
-    return QDialog::eventFilter(objeto, e);
-}
-
-void TFRelojNod::keyPressEvent(QKeyEvent* e) {
-    if ((e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && e->modifiers() == Qt::NoModifier) {
-        focusNextChild();
-        return;
-    }
-    QDialog::keyPressEvent(e);
 }
 
 } // namespace nod

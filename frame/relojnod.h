@@ -25,6 +25,8 @@ class TFRelojNod : public QDialog {
     Q_OBJECT
 public:
     /// The date picker `DTPFecha`, the time picker `DTPHora` and the buttons `BBAceptar` / `BBCancelar`.
+    /// Enter moves the focus to the next control, on the buttons too; `BBCancelar`, Escape and the close
+    /// button close without touching the clock, result 2.
     explicit TFRelojNod(QWidget* owner = nullptr);
 
     /// The pickers take today's date and the current time (the library's clock, `Now()`).
@@ -38,13 +40,8 @@ public:
     /// The date and time the pickers hold, joined as the clock will be set.
     QDateTime FechaHoraElegida() const;
 
-    /// `BBCancelar` and Escape: closes without touching the clock, result 2.
-    void reject() override;
-
 protected:
     void showEvent(QShowEvent* e) override;
-    bool eventFilter(QObject* objeto, QEvent* e) override;
-    void keyPressEvent(QKeyEvent* e) override;
 
 private:
     QDateEdit* m_fecha;

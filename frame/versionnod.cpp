@@ -1,13 +1,13 @@
 #include "frame/versionnod.h"
 
 #include "companion/config.h"
+#include "companion/dialogo.h"
 #include "companion/registro.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFormLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
@@ -47,6 +47,7 @@ TFVersionNod::TFVersionNod(QWidget* owner)
     m_tablas = new QTableWidget(int(tablas.size()), 1, this);
     m_tablas->setObjectName(QStringLiteral("SGTablas"));
     m_tablas->setHorizontalHeaderLabels({QStringLiteral("Tablas de %1").arg(alias)});
+    m_tablas->setAccessibleName(QStringLiteral("Tablas de %1").arg(alias));
     m_tablas->horizontalHeader()->setStretchLastSection(true);
     m_tablas->setEditTriggers(QAbstractItemView::NoEditTriggers);
     for (int i = 0; i < tablas.size(); ++i)
@@ -66,18 +67,7 @@ TFVersionNod::TFVersionNod(QWidget* owner)
     aceptar->setAutoDefault(false);
     connect(aceptar, &QPushButton::clicked, this, &QDialog::accept);
     l->addWidget(aceptar, 0, Qt::AlignRight);
-}
-
-void TFVersionNod::reject() {
-    done(2);
-}
-
-void TFVersionNod::keyPressEvent(QKeyEvent* e) {
-    if ((e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && e->modifiers() == Qt::NoModifier) {
-        focusNextChild();
-        return;
-    }
-    QDialog::keyPressEvent(e);
+    AplicaConvencionesDialogo(this);
 }
 
 } // namespace nod

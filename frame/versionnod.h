@@ -21,15 +21,9 @@ class TFVersionNod : public QDialog {
     Q_OBJECT
 public:
     /// Labels `LEntorno`, `LFecha`, `LPrograma`, the grid `SGTablas` (one row per table) and the button
-    /// `BBAceptar`; when the alias has no folder, `LAviso` says so.
+    /// `BBAceptar`; when the alias has no folder, `LAviso` says so. `BBAceptar` gives 1; Escape and the
+    /// close button 2. Enter moves the focus to the next control.
     explicit TFVersionNod(QWidget* owner = nullptr);
-
-    /// Escape and the close button: result 2 (`BBAceptar` gives 1).
-    void reject() override;
-
-protected:
-    /// Enter moves the focus to the next control; Escape closes.
-    void keyPressEvent(QKeyEvent* e) override;
 
 private:
     QTableWidget* m_tablas;

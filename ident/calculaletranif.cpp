@@ -1,17 +1,19 @@
 #include "ident/calculaletranif.h"
 
+#include "companion/dialogo.h"
 #include "companion/documentos.h"
-#include "companion/editmayusculas.h"
+#include "companion/filtroteclas.h"
 #include "companion/foco.h"
 #include "ident/nif.h"
 
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 namespace nod {
@@ -31,10 +33,29 @@ template <typename W> W* crea(QWidget* padre, const char* nombre, const QString&
     return w;
 }
 
+// A control that keeps its room while hidden: the dialog is fixed, and switching the mode or showing a
+// verdict shows and hides controls in place, moving nothing.
+template <typename W> W* enSuSitio(W* w) {
+    QSizePolicy p = w->sizePolicy();
+    p.setRetainSizeWhenHidden(true);
+    w->setSizePolicy(p);
+    return w;
+}
+
 QFrame* panel(QWidget* padre, const char* nombre) {
-    auto* p = new QFrame(padre);
+    auto* p = enSuSitio(new QFrame(padre));
     p->setObjectName(QString::fromLatin1(nombre));
     return p;
+}
+
+// A verdict label as wide as its longest word, so that the edit beside it keeps its width.
+QLabel* veredicto(QWidget* padre, const char* nombre) {
+    auto* l = enSuSitio(crea<QLabel>(padre, nombre, QStringLiteral("Incorrecto")));
+    QFont f = l->font();
+    f.setBold(true);
+    l->setFont(f);
+    l->setFixedWidth(l->fontMetrics().horizontalAdvance(QStringLiteral("Incorrecto")) + 8);
+    return l;
 }
 
 } // namespace
@@ -60,12 +81,13 @@ TFCalculaLetraNIF::TFCalculaLetraNIF(QWidget* owner)
     auto* LDNI_ =
         crea<QLabel>(PDNI, "LDNI_", QStringLiteral("Introduzca el D.N.I. sin puntos y sin guiones:"));
     ENIF = crea<QLineEdit>(PDNI, "ENIF");
+    LDNI_->setBuddy(ENIF);
     auto* LGuion_ = crea<QLabel>(PDNI, "LGuion_", QStringLiteral("-"));
     PLETRA = crea<QLabel>(PDNI, "PLETRA");
     PLETRA->setFrameShape(QFrame::Panel);
     PLETRA->setFrameShadow(QFrame::Sunken);
     PLETRA->setAlignment(Qt::AlignCenter);
-    PLETRA->setMinimumWidth(PLETRA->fontMetrics().horizontalAdvance(QStringLiteral("WW")) + 8);
+    PLETRA->setFixedWidth(PLETRA->fontMetrics().horizontalAdvance(QStringLiteral("WW")) + 8);
     auto* filaDNI = new QHBoxLayout;
     filaDNI->addWidget(ENIF);
     filaDNI->addWidget(LGuion_);
@@ -78,7 +100,8 @@ TFCalculaLetraNIF::TFCalculaLetraNIF(QWidget* owner)
     auto* LCIF_ =
         crea<QLabel>(PCIF, "LCIF_", QStringLiteral("Introduzca el C.I.F. sin puntos y sin guiones:"));
     ECIF = crea<QLineEdit>(PCIF, "ECIF");
-    LResultadoCIF_ = crea<QLabel>(PCIF, "LResultadoCIF_", QStringLiteral("Incorrecto"));
+    LCIF_->setBuddy(ECIF);
+    LResultadoCIF_ = veredicto(PCIF, "LResultadoCIF_");
     auto* filaCIF = new QHBoxLayout;
     filaCIF->addWidget(ECIF);
     filaCIF->addWidget(LResultadoCIF_);
@@ -90,7 +113,8 @@ TFCalculaLetraNIF::TFCalculaLetraNIF(QWidget* owner)
     auto* LNIE_ =
         crea<QLabel>(PNIE, "LNIE_", QStringLiteral("Introduzca el N.I.E. sin puntos y sin guiones:"));
     ENIE = crea<QLineEdit>(PNIE, "ENIE");
-    LResultadoNIE_ = crea<QLabel>(PNIE, "LResultadoNIE_", QStringLiteral("Incorrecto"));
+    LNIE_->setBuddy(ENIE);
+    LResultadoNIE_ = veredicto(PNIE, "LResultadoNIE_");
     auto* lblAyuda = crea<QLabel>(
         PNIE, "lblAyuda",
         QStringLiteral(
@@ -103,27 +127,38 @@ TFCalculaLetraNIF::TFCalculaLetraNIF(QWidget* owner)
     capaNIE->addWidget(LNIE_);
     capaNIE->addLayout(filaNIE);
     capaNIE->addWidget(lblAyuda);
+    SoloDigitos(ENIF); // "0" to "9"; Delete, arrows, Home and End always work
     EscribeEnMayusculas(ECIF);
     EscribeEnMayusculas(ENIE);
 
-    BBCalculaLetra = crea<QPushButton>(this, "BBCalculaLetra", QStringLiteral("&Letra"));
-    BBValidaCIF = crea<QPushButton>(this, "BBValidaCIF", QStringLiteral("&Valida"));
+    BBCalculaLetra = enSuSitio(crea<QPushButton>(this, "BBCalculaLetra", QStringLiteral("&Letra")));
+    BBValidaCIF = enSuSitio(crea<QPushButton>(this, "BBValidaCIF", QStringLiteral("&Valida")));
     BBSalir = crea<QPushButton>(this, "BBSalir", QStringLiteral("&Salir"));
+    // The two mode buttons share one place; "&Salir" never moves.
+    auto* accion = new QGridLayout;
+    accion->addWidget(BBCalculaLetra, 0, 0);
+    accion->addWidget(BBValidaCIF, 0, 0);
     auto* botones = new QHBoxLayout;
     botones->addStretch();
-    for (QPushButton* b : {BBCalculaLetra, BBValidaCIF, BBSalir})
-        botones->addWidget(b);
+    botones->addLayout(accion);
+    botones->addWidget(BBSalir);
+
+    // The three panels share one place, as large as the largest.
+    auto* paneles = new QGridLayout;
+    for (QFrame* p : {PDNI, PCIF, PNIE})
+        paneles->addWidget(p, 0, 0, Qt::AlignTop);
 
     auto* capa = new QVBoxLayout(this);
     capa->addWidget(GBTipoDocumento);
-    capa->addWidget(PDNI);
-    capa->addWidget(PCIF);
-    capa->addWidget(PNIE);
+    capa->addLayout(paneles);
     capa->addLayout(botones);
     capa->setSizeConstraint(QLayout::SetFixedSize);
+    setTabOrder(ENIF, ECIF);
+    setTabOrder(ECIF, ENIE);
+    setTabOrder(ENIE, BBCalculaLetra);
+    setTabOrder(BBCalculaLetra, BBValidaCIF);
+    setTabOrder(BBValidaCIF, BBSalir);
 
-    for (QWidget* w : std::initializer_list<QWidget*>{RBDNI, RBCIF, RBNIE, ENIF, ECIF, ENIE})
-        w->installEventFilter(this);
     connect(BBCalculaLetra, &QPushButton::clicked, this, &TFCalculaLetraNIF::CalculaLetra);
     connect(BBValidaCIF, &QPushButton::clicked, this, &TFCalculaLetraNIF::Valida);
     connect(BBSalir, &QPushButton::clicked, this, &QDialog::reject);
@@ -132,6 +167,13 @@ TFCalculaLetraNIF::TFCalculaLetraNIF(QWidget* owner)
     // the verdict of the previous one, as the office has always seen it.
     for (QLineEdit* e : {ECIF, ENIE})
         connect(e, &QLineEdit::textChanged, LResultadoCIF_, &QLabel::hide);
+
+    // "&Letra" and "&Valida" are the design's default buttons, one per mode: Enter in the edit presses
+    // the mode's one, Enter on a button presses that button. Radios and edits wear the focus mark.
+    OpcionesDialogo o;
+    o.enter = ReglaEnter::BotonPorDefecto;
+    o.marcaFoco = MarcaFoco::Campos;
+    AplicaConvencionesDialogo(this, o);
 }
 
 void TFCalculaLetraNIF::showEvent(QShowEvent* e) {
@@ -183,28 +225,6 @@ void TFCalculaLetraNIF::Valida() {
         muestraVeredicto(LResultadoCIF_, EsUnCif(ECIF->text(), true));
     else
         muestraVeredicto(LResultadoNIE_, EsUnNie(ENIE->text(), true));
-}
-
-bool TFCalculaLetraNIF::eventFilter(QObject* o, QEvent* e) {
-    auto* w = qobject_cast<QWidget*>(o);
-    if (e->type() == QEvent::FocusIn)
-        TomaFocoControl(w);
-    else if (e->type() == QEvent::FocusOut)
-        DejaFocoControl(w);
-    else if (o == ENIF && e->type() == QEvent::KeyPress) {
-        // The DNI edit takes only digits and backspace; the dialog keys (Enter, Escape, Tab) go on to the
-        // form.
-        auto* k = static_cast<QKeyEvent*>(e);
-        const QString t = k->text();
-        const bool teclaDeDialogo = k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter ||
-                                    k->key() == Qt::Key_Escape || k->key() == Qt::Key_Tab ||
-                                    k->key() == Qt::Key_Backtab;
-        const bool admitida =
-            t.size() == 1 && ((t[0] >= u'0' && t[0] <= u'9') || k->key() == Qt::Key_Backspace);
-        if (!t.isEmpty() && !teclaDeDialogo && !admitida) return true;
-        if (k->matches(QKeySequence::Paste)) return true;
-    }
-    return QDialog::eventFilter(o, e);
 }
 
 void ICalculaLetraNif(QWidget* owner) {

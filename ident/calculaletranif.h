@@ -1,5 +1,11 @@
 #pragma once
 // The small dialog with which a clerk works out the letter of a DNI or checks a CIF or NIE by hand.
+//
+// A fixed dialog: choosing DNI, CIF or NIE shows the mode's panel and button in the same place, and a
+// verdict appears beside its edit without moving anything. `ENIF` takes the digits "0" to "9" (Delete,
+// the arrows, Home and End always work; pasted text keeps its digits). Enter in an edit presses the
+// mode's button ("&Letra" or "&Valida"), Enter on a button presses it. "&Salir", Escape and the close
+// button give 2.
 
 #include <QDialog>
 
@@ -27,7 +33,6 @@ public:
 
 protected:
     void showEvent(QShowEvent* e) override;
-    bool eventFilter(QObject* o, QEvent* e) override;
 
 private:
     void eligeTipo(QRadioButton* rb);

@@ -1,36 +1,15 @@
 #include "ident/editrefcatastral.h"
 
+#include "companion/esperadialogo.h"
+#include "companion/filtroteclas.h"
 #include "companion/rnumcad.h"
 #include "ident/controlcatastral.h"
 #include "ident/recuperamunicipio.h"
 #include "text/recorte.h"
 
-#include <QApplication>
-#include <QKeyEvent>
 #include <QRegularExpression>
 
 namespace nod {
-
-namespace {
-
-// Watches the keyboard while the cadastre is being asked: Escape cancels the wait.
-class VigiaEscape : public QObject {
-public:
-    VigiaEscape() { qApp->installEventFilter(this); }
-    ~VigiaEscape() override { qApp->removeEventFilter(this); }
-    bool pulsado = false;
-
-protected:
-    bool eventFilter(QObject*, QEvent* e) override {
-        if (e->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(e)->key() == Qt::Key_Escape) {
-            pulsado = true;
-            return true;
-        }
-        return false;
-    }
-};
-
-} // namespace
 
 bool PatronRefCatastral(const QString& ref, TTipoFinca tipo) {
     static const QRegularExpression urbana(QStringLiteral("^[0-9A-Z]{14}[0-9]{4}[A-Z]{2}$"));
@@ -41,16 +20,9 @@ bool PatronRefCatastral(const QString& ref, TTipoFinca tipo) {
 TEditRefCatastral::TEditRefCatastral(QWidget* parent)
     : QLineEdit(parent) {
     setMaxLength(20);
-    // Typed letters appear in upper case, as the cadastre writes them, letter by letter ("ß" stays one
-    // character).
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& t) {
-        const QString mayusculas = UpperCase(t);
-        if (mayusculas != t) {
-            const int cursor = cursorPosition();
-            setText(mayusculas);
-            setCursorPosition(cursor);
-        }
-    });
+    // Letters are in upper case, as the cadastre writes them, whether typed, pasted or handed in by the
+    // program; letter by letter ("ß" stays one character).
+    EscribeEnMayusculas(this);
 }
 
 int TEditRefCatastral::validaSinConexion(const QString& ref) const {
@@ -59,9 +31,16 @@ int TEditRefCatastral::validaSinConexion(const QString& ref) const {
     return ResultadoRefCatastral::Valida;
 }
 
-int TEditRefCatastral::validaConCatastro(const QString& ref) {
-    VigiaEscape vigia;
-    const ConsultaCatastro c = ConsultaCodigosCatastro(ref, [&vigia] { return vigia.pulsado; });
+int TEditRefCatastral::validaConCatastro(const QString& ref, const std::function<bool()>& cancelada) {
+    ConsultaCatastro c;
+    if (cancelada) {
+        c = ConsultaCodigosCatastro(ref, cancelada);
+    } else {
+        // On its own the edit blocks its window while it waits; Escape abandons the consultation.
+        TEsperaDialogo espera(this);
+        if (!espera.Empieza()) return ResultadoRefCatastral::Cancelada;
+        c = ConsultaCodigosCatastro(ref, espera.Vigia());
+    }
     switch (c.resultado) {
     case ResultadoCatastro::Encontrada:
         return ResultadoRefCatastral::ValidaCatastro;
@@ -75,10 +54,11 @@ int TEditRefCatastral::validaConCatastro(const QString& ref) {
     return ResultadoRefCatastral::SinConexion;
 }
 
-int TEditRefCatastral::ValidaRefCatastral() {
+int TEditRefCatastral::ValidaRefCatastral(const std::function<bool()>& cancelada) {
     const QString ref = UpperCase(Trim(text()));
     m_resultado = validaSinConexion(ref);
-    if (m_resultado == ResultadoRefCatastral::Valida && m_modo == 2) m_resultado = validaConCatastro(ref);
+    if (m_resultado == ResultadoRefCatastral::Valida && m_modo == 2)
+        m_resultado = validaConCatastro(ref, cancelada);
     return m_resultado;
 }
 

@@ -2,6 +2,7 @@
 // The edit of a cadastral reference: upper case, at most 20 characters, and able to validate what it holds.
 
 #include <QLineEdit>
+#include <functional>
 
 namespace nod {
 
@@ -28,6 +29,8 @@ constexpr int ValidaCatastro = 2;    // the cadastre knows the reference
 class TEditRefCatastral : public QLineEdit {
     Q_OBJECT
 public:
+    /// The text is kept in capitals whatever its source: typed, pasted or set with `setText`
+    /// ("9872023vh5797s0001wx" is shown and read back as "9872023VH5797S0001WX").
     explicit TEditRefCatastral(QWidget* parent = nullptr);
 
     TTipoFinca TipoFinca() const { return m_tipoFinca; }
@@ -40,7 +43,10 @@ public:
 
     /// Validates the trimmed text by the mode and kind and keeps the code in `Resultado`; returns it.
     /// With the reference 9872023VH5797S0001WX, urban, mode 1: 1; with ...0001XW: -3.
-    int ValidaRefCatastral();
+    /// In mode 2, while the cadastre is asked, `cancelada` is polled (true abandons: -4); without it the
+    /// edit holds its window in a wait of its own (`TEsperaDialogo`: busy cursor, controls blocked, Escape
+    /// abandons).
+    int ValidaRefCatastral(const std::function<bool()>& cancelada = {});
     int Resultado() const { return m_resultado; }
 
 protected:
@@ -48,7 +54,7 @@ protected:
 
 private:
     int validaSinConexion(const QString& ref) const;
-    int validaConCatastro(const QString& ref);
+    int validaConCatastro(const QString& ref, const std::function<bool()>& cancelada);
 
     TTipoFinca m_tipoFinca = TTipoFinca::Urbana;
     int m_modo = 1;

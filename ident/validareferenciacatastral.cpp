@@ -1,7 +1,8 @@
 #include "ident/validareferenciacatastral.h"
 
 #include "companion/config.h"
-#include "companion/foco.h"
+#include "companion/dialogo.h"
+#include "companion/esperadialogo.h"
 #include "companion/mensajes.h"
 #include "frame/shell.h"
 #include "ident/catastro.h"
@@ -9,14 +10,12 @@
 #include "ident/recuperamunicipio.h"
 #include "text/recorte.h"
 
-#include <QApplication>
-#include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShowEvent>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -89,6 +88,7 @@ TFValidaReferenciaCatastral::TFValidaReferenciaCatastral(QWidget* owner)
     ERCRefCatastral->setToolTip(QStringLiteral("Escriba la referencia a Validar"));
     ERCRefCatastral->setMinimumWidth(ERCRefCatastral->fontMetrics().horizontalAdvance(QStringLiteral("W")) *
                                      22);
+    LReferencia->setBuddy(ERCRefCatastral);
     BBValidar = crea<QPushButton>(m_panel, "BBValidar", QStringLiteral("&Validar"),
                                   QStringLiteral("Validar la Referencia"));
     BBValidar->setVisible(false);
@@ -124,13 +124,17 @@ TFValidaReferenciaCatastral::TFValidaReferenciaCatastral(QWidget* owner)
     principal->addWidget(SBExplica);
     principal->setSizeConstraint(QLayout::SetFixedSize);
 
-    for (QWidget* w : std::initializer_list<QWidget*>{RBUrbana, RBRustica, ERCRefCatastral, BBValidar,
-                                                      BBCatastro, BBAceptar, BBCancelar})
-        w->installEventFilter(this);
     connect(BBAceptar, &QPushButton::clicked, this, &TFValidaReferenciaCatastral::Aceptar);
     connect(BBCancelar, &QPushButton::clicked, this, &TFValidaReferenciaCatastral::Cancelar);
     connect(BBValidar, &QPushButton::clicked, this, &TFValidaReferenciaCatastral::Validar);
     connect(BBCatastro, &QPushButton::clicked, this, &TFValidaReferenciaCatastral::Catastro);
+
+    // Entering a control shows its hint in the status bar and the focus mark; Enter moves on; Escape
+    // and the close button act as "&Cancelar".
+    OpcionesDialogo o;
+    o.marcaFoco = MarcaFoco::Controles;
+    o.barraAyuda = SBExplica;
+    AplicaConvencionesDialogo(this, o);
 }
 
 void TFValidaReferenciaCatastral::showEvent(QShowEvent* e) {
@@ -138,36 +142,6 @@ void TFValidaReferenciaCatastral::showEvent(QShowEvent* e) {
     if (e->spontaneous()) return;
     m_guardada = Trim(Config.GetRefCatastralActual());
     ERCRefCatastral->setText(m_guardada);
-}
-
-bool TFValidaReferenciaCatastral::eventFilter(QObject* o, QEvent* e) {
-    auto* w = qobject_cast<QWidget*>(o);
-    switch (e->type()) {
-    case QEvent::FocusIn:
-        SBExplica->showMessage(w->toolTip());
-        TomaFocoControl(w);
-        break;
-    case QEvent::FocusOut:
-        SBExplica->clearMessage();
-        DejaFocoControl(w);
-        break;
-    case QEvent::KeyPress: {
-        // The form sees every key first: Enter moves to the next control, Escape is "Cancelar".
-        const int tecla = static_cast<QKeyEvent*>(e)->key();
-        if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
-            focusNextChild();
-            return true;
-        }
-        if (tecla == Qt::Key_Escape) {
-            Cancelar();
-            return true;
-        }
-        break;
-    }
-    default:
-        break;
-    }
-    return QDialog::eventFilter(o, e);
 }
 
 void TFValidaReferenciaCatastral::Aceptar() {
@@ -180,20 +154,13 @@ void TFValidaReferenciaCatastral::Cancelar() {
     done(2);
 }
 
-void TFValidaReferenciaCatastral::BloqueaPantalla() {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    m_panel->setEnabled(false);
-}
-
-void TFValidaReferenciaCatastral::DesbloqueaPantalla() {
-    QApplication::restoreOverrideCursor();
-    m_panel->setEnabled(true);
-    ERCRefCatastral->setFocus();
-}
-
 void TFValidaReferenciaCatastral::Validar() {
-    BloqueaPantalla();
-    MuestraMensaje(QStringLiteral("Espere mientras se valida la Referencia Catastral. Escape para Cancelar"));
+    // BloqueaPantalla: busy cursor, the dialog blocked, the wait message; "&Cancelar" and Escape abandon
+    // a consultation of the cadastre.
+    TEsperaDialogo espera(
+        this, QStringLiteral("Espere mientras se valida la Referencia Catastral. Escape para Cancelar"),
+        BBCancelar);
+    if (!espera.Empieza()) return;
     if (!RBUrbana->isChecked()) {
         ERCRefCatastral->SetTipoFinca(TTipoFinca::Rustica);
         ERCRefCatastral->setText(FormatearReferenciaCatastralRustica(ERCRefCatastral->text()));
@@ -202,15 +169,16 @@ void TFValidaReferenciaCatastral::Validar() {
         ERCRefCatastral->setText(FormatearReferenciaCatastralUrbana(ERCRefCatastral->text()));
     }
     ERCRefCatastral->SetModoValidacion(Config.GetnValidacionRefCat());
-    const int resultado = ERCRefCatastral->ValidaRefCatastral();
-    CierraMensaje();
+    const int resultado = ERCRefCatastral->ValidaRefCatastral(espera.Vigia());
+    espera.Termina();                               // DesbloqueaPantalla, before the verdict is told
+    if (espera.Cancelada() && !isVisible()) return; // "&Cancelar" while waiting: the dialog has gone
+    ERCRefCatastral->setFocus();
     if (const Mensaje* m = mensajeDeResultado(resultado)) {
         if (m->error)
             Mensaje_Error(QString::fromUtf16(m->texto), QStringLiteral("Error"));
         else
             Mensaje_Info(QString::fromUtf16(m->texto), QStringLiteral("Validación Positiva"));
     }
-    DesbloqueaPantalla();
 }
 
 void TFValidaReferenciaCatastral::RecuperaMunicipio(const QString& ref, QString& provincia,
@@ -220,10 +188,17 @@ void TFValidaReferenciaCatastral::RecuperaMunicipio(const QString& ref, QString&
 
 void TFValidaReferenciaCatastral::Catastro() {
     const QString ref = Trim(ERCRefCatastral->text());
-    QString provincia, municipio;
-    RecuperaMunicipio(ref, provincia, municipio);
-    if (!provincia.isEmpty() && !municipio.isEmpty())
-        AbreEnShell(DireccionConsultaCatastro(ref, provincia, municipio, RBUrbana->isChecked()));
+    // While the cadastre is asked the dialog waits: busy cursor, the wait message, its controls blocked
+    // so that the request cannot start twice. Escape abandons the request, "&Cancelar" abandons it and
+    // closes; an answer that comes after either is dropped: no page opens, no message appears.
+    TEsperaDialogo espera(
+        this, QStringLiteral("Espere mientras se consulta el Catastro. Escape para Cancelar"), BBCancelar);
+    if (!espera.Empieza()) return;
+    const ConsultaCatastro c = ConsultaCodigosCatastro(ref, espera.Vigia());
+    if (espera.Cancelada() || c.resultado == ResultadoCatastro::Cancelada) return;
+    espera.Termina();
+    if (!c.provincia.isEmpty() && !c.municipio.isEmpty())
+        AbreEnShell(DireccionConsultaCatastro(ref, c.provincia, c.municipio, RBUrbana->isChecked()));
     else
         Mensaje_Info(
             QStringLiteral("No ha sido posible recuperar los datos de catastro de la referencia indicada"),

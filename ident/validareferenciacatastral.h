@@ -3,6 +3,11 @@
 // for it. The reference travels in the configuration: the caller sets `RefCatastralActual` before opening
 // the dialog and reads it after; "Aceptar" leaves the typed reference there, "Cancelar" and Escape the
 // original one.
+//
+// "Cata&stro" (and "&Validar" in its online mode) wait on the cadastre inside the dialog: busy cursor, a
+// wait message, the controls blocked so that a second click starts nothing. Escape abandons the wait and
+// leaves the dialog open; "&Cancelar" abandons it and closes the dialog; an answer arriving after either
+// is dropped. Entering a control shows its hint in `SBExplica`; Enter moves to the next control.
 
 #include <QDialog>
 
@@ -31,7 +36,6 @@ public:
 
 protected:
     void showEvent(QShowEvent* e) override;
-    bool eventFilter(QObject* o, QEvent* e) override;
     void reject() override { Cancelar(); } // Escape and the window's close button hand back the original
 
 private:
@@ -39,8 +43,6 @@ private:
     void Cancelar();
     void Validar();
     void Catastro();
-    void BloqueaPantalla();
-    void DesbloqueaPantalla();
 
     QFrame* m_panel = nullptr;
     QString m_guardada; // the reference as the caller handed it

@@ -1,6 +1,7 @@
 #include "protocol/calculadorahonorarios.h"
 
 #include "companion/config.h"
+#include "companion/editimporte.h"
 #include "companion/hoy.h"
 #include "companion/rnumcad.h"
 #include "protocol/aranceles.h"
@@ -15,10 +16,8 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
 namespace nod {
@@ -41,10 +40,9 @@ QLabel* resultado(QWidget* padre, const char* nombre) {
     return l;
 }
 
-QLineEdit* importe(QWidget* padre, const char* nombre, const char* patron, const QString& pista) {
-    auto* e = crea<QLineEdit>(padre, nombre);
-    e->setValidator(new QRegularExpressionValidator(QRegularExpression(QString::fromLatin1(patron)), e));
-    e->setAlignment(Qt::AlignRight);
+TEditImporte* importe(QWidget* padre, const char* nombre, int decimales, const QString& pista) {
+    auto* e = new TEditImporte(padre, decimales);
+    e->setObjectName(QString::fromLatin1(nombre));
     e->setToolTip(pista);
     e->setMinimumWidth(e->fontMetrics().horizontalAdvance(QStringLiteral("000.000.000.000,00")) + 16);
     return e;
@@ -77,8 +75,7 @@ TCalculadoraHonorarios::TCalculadoraHonorarios(QWidget* parent)
 
     auto* GBEscritura = crea<QGroupBox>(this, "GBEscritura");
     GBEscritura->setTitle(QStringLiteral("Escritura (euros)"));
-    ECuantia = importe(GBEscritura, "ECuantia", "[0-9. ]{0,15}(,[0-9]{0,2})?",
-                       QStringLiteral("Cuantía de la escritura en euros"));
+    ECuantia = importe(GBEscritura, "ECuantia", 2, QStringLiteral("Cuantía de la escritura en euros"));
     LHonorarioEscritura = resultado(GBEscritura, "LHonorarioEscritura");
     auto* capaEscritura = new QFormLayout(GBEscritura);
     capaEscritura->addRow(QStringLiteral("&Cuantía:"), ECuantia);
@@ -87,12 +84,12 @@ TCalculadoraHonorarios::TCalculadoraHonorarios(QWidget* parent)
     auto* GBPoliza = crea<QGroupBox>(this, "GBPoliza");
     GBPoliza->setTitle(QStringLiteral("Póliza (pesetas)"));
     LEscala = crea<QLabel>(GBPoliza, "LEscala");
-    ECuantiaPoliza = importe(GBPoliza, "ECuantiaPoliza", "[0-9. ]{0,15}",
-                             QStringLiteral("Cuantía de la póliza en pesetas"));
+    ECuantiaPoliza =
+        importe(GBPoliza, "ECuantiaPoliza", 0, QStringLiteral("Cuantía de la póliza en pesetas"));
     CBAval = crea<QCheckBox>(GBPoliza, "CBAval");
     CBAval->setText(QStringLiteral("Con a&val"));
     CBInferior = crea<QCheckBox>(GBPoliza, "CBInferior");
-    CBInferior->setText(QStringLiteral("Tabla &inferior"));
+    CBInferior->setText(QStringLiteral("&Tabla inferior"));
     CBTipoDocumento = crea<QComboBox>(GBPoliza, "CBTipoDocumento");
     CBTipoDocumento->addItems({QStringLiteral("Factura"), QStringLiteral("Póliza")});
     LHonorarioPoliza = resultado(GBPoliza, "LHonorarioPoliza");
@@ -142,7 +139,7 @@ TCalculadoraHonorarios::TCalculadoraHonorarios(QWidget* parent)
     capa->addWidget(GBIVA);
     capa->addStretch();
 
-    for (QLineEdit* e : {ECuantia, ECuantiaPoliza})
+    for (TEditImporte* e : {ECuantia, ECuantiaPoliza})
         connect(e, &QLineEdit::textChanged, this, &TCalculadoraHonorarios::Calcula);
     for (QCheckBox* c : {CBAval, CBInferior})
         connect(c, &QCheckBox::toggled, this, &TCalculadoraHonorarios::Calcula);
@@ -155,24 +152,25 @@ TCalculadoraHonorarios::TCalculadoraHonorarios(QWidget* parent)
     Calcula();
 }
 
-double TCalculadoraHonorarios::LeeImporte(const QString& texto) {
-    QString t = texto;
-    t.remove(u' ').remove(u'.').replace(u',', u'.');
-    bool ok = false;
-    const double x = t.toDouble(&ok); // QString::toDouble reads the C format whatever the locale
-    return ok ? x : 0.0;
-}
-
 void TCalculadoraHonorarios::Calcula() {
     LEscala->setText(escalaConfigurada());
-    const double honorario = Ges_Arancel_E(LeeImporte(ECuantia->text()));
-    LHonorarioEscritura->setText(euros(honorario));
+    // An amount still being typed ("1.234.5") has no fee yet: the result waits, it is never guessed.
+    if (ECuantia->EsValido()) {
+        const double honorario = Ges_Arancel_E(ECuantia->Valor());
+        const double cuota = RedondeaDec(honorario * EIVA->value() / 100.0, 2);
+        LHonorarioEscritura->setText(euros(honorario));
+        LCuotaIVA->setText(euros(cuota));
+        LTotal->setText(euros(RedondeaDec(honorario + cuota, 2)));
+    } else {
+        for (QLabel* l : {LHonorarioEscritura, LCuotaIVA, LTotal})
+            l->clear();
+    }
     const QString tipo = CBTipoDocumento->currentIndex() == 0 ? QStringLiteral("factura") : QString();
-    LHonorarioPoliza->setText(
-        pesetas(ARANCEL_C(LeeImporte(ECuantiaPoliza->text()), siNo(CBAval), tipo, siNo(CBInferior))));
-    const double cuota = RedondeaDec(honorario * EIVA->value() / 100.0, 2);
-    LCuotaIVA->setText(euros(cuota));
-    LTotal->setText(euros(RedondeaDec(honorario + cuota, 2)));
+    if (ECuantiaPoliza->EsValido())
+        LHonorarioPoliza->setText(
+            pesetas(ARANCEL_C(ECuantiaPoliza->Valor(), siNo(CBAval), tipo, siNo(CBInferior))));
+    else
+        LHonorarioPoliza->clear();
 }
 
 bool TCalculadoraHonorarios::CompruebaIva() {

@@ -5,7 +5,10 @@
 // force (`CompruebaIVA`, whose question goes through the message service).
 //
 // Fees follow every change of the amounts and choices; the VAT check runs on "Comprobar &IVA" only,
-// because it may ask the user.
+// because it may ask the user. Amounts are typed the Spanish way (`TEditImporte`): "1500.50" is
+// 1.500,50 €, never 150.050 €; an amount not yet whole ("1.234.5") shows no fee.
+
+#include "companion/editimporte.h"
 
 #include <QWidget>
 
@@ -14,7 +17,6 @@ class QComboBox;
 class QDateEdit;
 class QDoubleSpinBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 
 namespace nod {
@@ -24,11 +26,11 @@ class TCalculadoraHonorarios : public QWidget {
 public:
     explicit TCalculadoraHonorarios(QWidget* parent = nullptr);
 
-    QLineEdit* ECuantia = nullptr;        ///< deed amount in euros, Spanish style ("1.234,56")
-    QLineEdit* ECuantiaPoliza = nullptr;  ///< policy amount in whole pesetas
-    QCheckBox* CBAval = nullptr;          ///< guarantee: "SI" for `ARANCEL_C`
-    QCheckBox* CBInferior = nullptr;      ///< lower table: "SI" for `ARANCEL_C`
-    QComboBox* CBTipoDocumento = nullptr; ///< item 0 "Factura" (kind "factura"), item 1 "Póliza"
+    TEditImporte* ECuantia = nullptr;       ///< deed amount in euros, two decimals ("1.234,56")
+    TEditImporte* ECuantiaPoliza = nullptr; ///< policy amount in whole pesetas ("2.000.000")
+    QCheckBox* CBAval = nullptr;            ///< guarantee: "SI" for `ARANCEL_C`
+    QCheckBox* CBInferior = nullptr;        ///< lower table: "SI" for `ARANCEL_C`
+    QComboBox* CBTipoDocumento = nullptr;   ///< item 0 "Factura" (kind "factura"), item 1 "Póliza"
     QDateEdit* EFecha = nullptr;
     QDoubleSpinBox* EIVA = nullptr;
     QPushButton* BBCompruebaIVA = nullptr;
@@ -40,10 +42,6 @@ public:
     /// Checks the VAT percentage at the date (may ask through the message service); shows and returns
     /// the verdict.
     bool CompruebaIva();
-
-    /// An amount typed the Spanish way: "." groups thousands, "," marks decimals; blanks are ignored.
-    /// Empty or unreadable text gives 0. Example: LeeImporte("1.234,5") == 1234.5.
-    static double LeeImporte(const QString& texto);
 };
 
 } // namespace nod

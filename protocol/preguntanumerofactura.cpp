@@ -1,13 +1,13 @@
 #include "protocol/preguntanumerofactura.h"
 
-#include "companion/editmayusculas.h"
+#include "companion/dialogo.h"
 #include "companion/fechas.h"
-#include "companion/foco.h"
+#include "companion/filtroteclas.h"
 #include "companion/hoy.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -37,7 +37,6 @@ QPushButton* boton(QWidget* padre, const char* nombre, const QString& texto, con
     auto* b = new QPushButton(texto, padre);
     b->setObjectName(QString::fromLatin1(nombre));
     b->setToolTip(pista);
-    b->setAutoDefault(false);
     return b;
 }
 
@@ -117,8 +116,7 @@ TFPreguntaNumeroFactura::TFPreguntaNumeroFactura(QWidget* owner)
     setTabOrder(ENumero, EBis);
     setTabOrder(EBis, BBAceptar);
     setTabOrder(BBAceptar, BBCancelar);
-    for (QWidget* w : std::initializer_list<QWidget*>{ESerie, EAno, ENumero, EBis, BBAceptar, BBCancelar})
-        w->installEventFilter(this);
+    EAno->installEventFilter(this); // a short year becomes a full one when the clerk leaves the field
 
     connect(BBAceptar, &QPushButton::clicked, this, [this] { done(1); });
     connect(BBCancelar, &QPushButton::clicked, this, &TFPreguntaNumeroFactura::reject);
@@ -127,6 +125,12 @@ TFPreguntaNumeroFactura::TFPreguntaNumeroFactura(QWidget* owner)
     BBAceptar->setEnabled(false);
     PonValores({}, 0, 0, {});
     ESerie->setFocus();
+    // Enter moves to the next control everywhere, on the buttons too (Space or the accelerator presses a
+    // button; a disabled "&Aceptar" is skipped); entering a control shows its hint, fields wear the mark.
+    OpcionesDialogo o;
+    o.marcaFoco = MarcaFoco::Campos;
+    o.barraAyuda = SBExplica;
+    AplicaConvencionesDialogo(this, o);
 }
 
 QString TFPreguntaNumeroFactura::Serie() const {
@@ -153,65 +157,8 @@ void TFPreguntaNumeroFactura::PonValores(const QString& serie, int ano, int nume
     EBis->setText(bis.trimmed().left(1).toUpper());
 }
 
-bool TFPreguntaNumeroFactura::esCampo(const QObject* o) const {
-    return o == ESerie || o == EAno || o == ENumero || o == EBis;
-}
-
-void TFPreguntaNumeroFactura::TomaFoco(QWidget* control) {
-    SBExplica->showMessage(control->toolTip());
-    TomaFocoControl(control);
-}
-
-void TFPreguntaNumeroFactura::DejaFoco(QWidget* control) {
-    DejaFocoControl(control);
-    SBExplica->clearMessage();
-    if (control == EAno) EAno->setText(CompletaAnno(EAno->text()));
-}
-
-void TFPreguntaNumeroFactura::TomaFocoBoton(QPushButton* boton) {
-    SBExplica->showMessage(boton->toolTip());
-}
-
-void TFPreguntaNumeroFactura::DejaFocoBoton(QPushButton*) {
-    SBExplica->clearMessage();
-}
-
-bool TFPreguntaNumeroFactura::FormKeyDown(QWidget* control, QKeyEvent* tecla) {
-    const int k = tecla->key();
-    if (k == Qt::Key_Escape) {
-        reject();
-        return true;
-    }
-    if ((k == Qt::Key_Return || k == Qt::Key_Enter) &&
-        (esCampo(control) || control == BBAceptar || control == BBCancelar)) {
-        // Enter means "next control" everywhere on this form, on the buttons too (Space or the
-        // accelerator presses them). A disabled "&Aceptar" is skipped by the focus chain.
-        focusNextChild();
-        return true;
-    }
-    return false;
-}
-
-void TFPreguntaNumeroFactura::reject() {
-    done(2);
-}
-
 bool TFPreguntaNumeroFactura::eventFilter(QObject* o, QEvent* e) {
-    auto* w = qobject_cast<QWidget*>(o);
-    auto* b = qobject_cast<QPushButton*>(o);
-    switch (e->type()) {
-    case QEvent::FocusIn:
-        b ? TomaFocoBoton(b) : TomaFoco(w);
-        break;
-    case QEvent::FocusOut:
-        b ? DejaFocoBoton(b) : DejaFoco(w);
-        break;
-    case QEvent::KeyPress:
-        if (FormKeyDown(w, static_cast<QKeyEvent*>(e))) return true;
-        break;
-    default:
-        break;
-    }
+    if (o == EAno && e->type() == QEvent::FocusOut) EAno->setText(CompletaAnno(EAno->text()));
     return QDialog::eventFilter(o, e);
 }
 

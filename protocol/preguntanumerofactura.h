@@ -15,7 +15,6 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QStatusBar;
-class QKeyEvent;
 
 namespace nod {
 
@@ -42,22 +41,8 @@ public:
     QString Bis() const; ///< the letter, or empty
     void PonValores(const QString& serie, int ano, int numero, const QString& bis);
 
-    /// Focus handlers: fields show their hint and take the focus mark, buttons only show their hint;
-    /// leaving removes the mark and clears the status bar.
-    void TomaFoco(QWidget* control);
-    void DejaFoco(QWidget* control);
-    void TomaFocoBoton(QPushButton* boton);
-    void DejaFocoBoton(QPushButton* boton);
-    /// The form sees keys before its controls: true when it handled `tecla` (Enter, Escape).
-    bool FormKeyDown(QWidget* control, QKeyEvent* tecla);
-
-    void reject() override; // Escape and "&Cancelar" give 2, not QDialog's 0
-
 protected:
     bool eventFilter(QObject* o, QEvent* e) override;
-
-private:
-    bool esCampo(const QObject* o) const;
 };
 
 /// The form while it is open through `PreguntaNumeroFacturaForm` (null otherwise).

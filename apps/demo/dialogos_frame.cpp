@@ -26,6 +26,16 @@ void espera(int ms) {
     bucle.exec();
 }
 
+// A caller's text as the suite's programs build them: a name with "&" and "<", line breaks of every kind
+// and more words than the box's three lines hold.
+QString textoLargo() {
+    QString t = QStringLiteral("La copia electrónica de la escritura 1234 de «Pérez & Cía <S.L.>» no se ha "
+                               "podido firmar.\rMotivo: el certificado del notario caduca hoy.\r\n");
+    while (t.size() < 2000)
+        t += QStringLiteral("Revise el certificado en la configuración del puesto y vuelva a intentarlo; ");
+    return t;
+}
+
 QString muestraProgreso() {
     TFEsperaListado* f = MuestraProgreso(QStringLiteral("Generando el Listado."));
     f->show();
@@ -90,6 +100,12 @@ void RegistraDialogosFrame(CatalogoDemo& c) {
             QStringLiteral("Facturación"), QStringLiteral("La factura no tiene forma de pago."), {}, {}, 0,
             0x800000, 0xFFFFFF, 0));
     });
+    c.agrega("Mensajes", "mensaje_person_texto_largo", "Mensaje_Person: texto largo con saltos y marcas",
+             [](QWidget*) {
+                 return resultado(Mensaje_Person(2, QStringLiteral("¿Desea enviarla de todos modos?"), 0,
+                                                 QStringLiteral("Copia electrónica"), textoLargo(), {}, {}, 0,
+                                                 0x0000FF, 0xFFFFFF, 0));
+             });
     c.agrega("Mensajes", "activos_financieros_sino", "Mensaje_ActivosFinancieros: Si / No",
              [](QWidget*) { return resultado(Mensaje_ActivosFinancieros(1)); });
     c.agrega("Mensajes", "activos_financieros_aceptar", "Mensaje_ActivosFinancieros: Aceptar",

@@ -1,6 +1,8 @@
 // The protocol family in the demo: the invoice-number form, the fee calculator page, the mortgage
 // liability, currency and area calculators and the registered properties of an entry.
 #include "apps/demo/catalogo.h"
+#include "companion/dialogo.h"
+#include "companion/editimporte.h"
 #include "protocol/calculadorahonorarios.h"
 #include "protocol/calculametros.h"
 #include "protocol/conversormoneda.h"
@@ -11,7 +13,6 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -38,11 +39,12 @@ QString calculadoraHonorarios(QWidget* owner) {
     pagina->ECuantia->setText(QStringLiteral("150.000,00"));
     pagina->ECuantiaPoliza->setText(QStringLiteral("2.000.000"));
     auto* botones = new QDialogButtonBox(&d);
-    botones->addButton(QStringLiteral("&Cerrar"), QDialogButtonBox::RejectRole);
+    botones->addButton(QStringLiteral("Ce&rrar"), QDialogButtonBox::RejectRole);
     QObject::connect(botones, &QDialogButtonBox::rejected, &d, &QDialog::reject);
     auto* capa = new QVBoxLayout(&d);
     capa->addWidget(pagina);
     capa->addWidget(botones);
+    AplicaConvencionesDialogo(&d);
     d.exec();
     return QStringLiteral("escritura %1, póliza %2, total con IVA %3")
         .arg(pagina->LHonorarioEscritura->text(), pagina->LHonorarioPoliza->text(), pagina->LTotal->text());

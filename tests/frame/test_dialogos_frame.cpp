@@ -13,11 +13,13 @@
 
 #include <QDateEdit>
 #include <QLabel>
-#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimeEdit>
 #include <gtest/gtest.h>
 
@@ -332,7 +334,7 @@ TEST(ServicioQt, ErrorBoxHasOneAcceptButton) {
     prueba::AlAbrirseModal([&](QWidget* w) {
         for (auto* b : w->findChildren<QPushButton*>())
             botones << b->text();
-        texto = static_cast<QMessageBox*>(w)->text();
+        texto = w->findChild<QLabel*>(QStringLiteral("LTexto"))->text();
         QTest::keyClick(w, Qt::Key_Escape);
     });
     Mensaje_Error(QStringLiteral("No existe la carpeta"), QStringLiteral("Error"));
@@ -359,5 +361,142 @@ TEST(DialogosMarco, EnterMovesTheFocusToTheNextControl) {
         QTest::keyClick(desde, Qt::Key_Return);
         EXPECT_TRUE(k.forma->isVisible()) << k.desde;
         EXPECT_EQ(k.forma->focusWidget()->objectName(), QLatin1String(k.hasta)) << k.desde;
+    }
+}
+
+// The help text could not be reached or scrolled from the keyboard: its last lines stayed unread.
+TEST(ActivosFinancieros, TheHelpTextIsReachedAndScrolledFromTheKeyboard) {
+    TFMensajeActivosFinancieros f;
+    f.CambiaTipoMensaje(1);
+    f.show();
+    QApplication::setActiveWindow(&f);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
+    auto* texto = f.findChild<QTextEdit*>(QStringLiteral("RETexto"));
+    ASSERT_NE(texto, nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), texto) << "the help text has the focus first";
+    QScrollBar* barra = texto->verticalScrollBar();
+    ASSERT_GT(barra->maximum(), 0) << "the text is longer than the box";
+    QTest::keyClick(texto, Qt::Key_PageDown);
+    EXPECT_GT(barra->value(), 0);
+    QTest::keyClick(texto, Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClick(texto, Qt::Key_Down);
+    EXPECT_EQ(barra->value(), barra->maximum()) << "the last lines can be read";
+    QTest::keyClick(texto, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), f.findChild<QPushButton*>(QStringLiteral("BBSi")));
+    f.findChild<QPushButton*>(QStringLiteral("BBSi"))->setFocus();
+    QTest::keyClick(f.findChild<QPushButton*>(QStringLiteral("BBSi")), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget(), texto) << "and back with Shift+Tab";
+}
+
+// Escape hid the progress window while the work went on, and later updates went to a hidden window.
+TEST(EsperaListado, EscapeAndTheCloseButtonLeaveTheProgressWindowShown) {
+    std::unique_ptr<TFEsperaListado> f(MuestraProgreso(QStringLiteral("Listando")));
+    f->show();
+    QApplication::setActiveWindow(f.get());
+    QTest::keyClick(f.get(), Qt::Key_Escape);
+    EXPECT_TRUE(f->isVisible());
+    EXPECT_FALSE(f->close());
+    EXPECT_TRUE(f->isVisible());
+    CambiaProgreso(QStringLiteral("Listando 50 %"), 50, f.get());
+    EXPECT_EQ(f->posicion(), 50);
+}
+
+// A long wait message made a window wider than the screen with both ends cut.
+TEST(ServicioQt, ALongWaitMessageWrapsInsideTheScreen) {
+    ServicioMensajesQt qt;
+    ServicioMensajesInstalado instalado(qt);
+    QString largo = QStringLiteral("Consultando ");
+    while (largo.size() < 2000)
+        largo += QStringLiteral("el catastro y el registro de la propiedad, ");
+    MuestraMensaje(largo + QStringLiteral("\r<b>fin</b>"));
+    QDialog* w = qt.ventanaEspera();
+    ASSERT_NE(w, nullptr);
+    auto* l = w->findChild<QLabel*>(QStringLiteral("LEspera"));
+    const QRect zona = w->screen()->availableGeometry();
+    EXPECT_LE(w->frameGeometry().width(), zona.width());
+    EXPECT_TRUE(zona.contains(w->frameGeometry()));
+    EXPECT_TRUE(l->wordWrap());
+    EXPECT_TRUE(l->text().startsWith(QStringLiteral("Consultando el catastro")));
+    EXPECT_TRUE(l->text().endsWith(QStringLiteral("\n<b>fin</b>")));
+    EXPECT_EQ(l->textFormat(), Qt::PlainText);
+    QTest::keyClick(w, Qt::Key_Escape);
+    EXPECT_TRUE(w->isVisible()) << "only the program closes the wait window";
+    CierraMensaje();
+}
+
+// Enter on "Aceptar" accepted the clock (the button box's default button) while every other dialog moves
+// the focus.
+TEST(RelojNod, EnterOnAceptarMovesTheFocusAndSetsNothing) {
+    RelojDePrueba reloj;
+    TFRelojNod f;
+    f.show();
+    QApplication::setActiveWindow(&f);
+    auto* aceptar = f.findChild<QPushButton*>(QStringLiteral("BBAceptar"));
+    aceptar->setFocus();
+    for (Qt::Key tecla : {Qt::Key_Return, Qt::Key_Enter}) {
+        aceptar->setFocus();
+        QTest::keyClick(aceptar, tecla);
+        EXPECT_TRUE(f.isVisible());
+        EXPECT_EQ(QApplication::focusWidget(), f.findChild<QPushButton*>(QStringLiteral("BBCancelar")));
+    }
+    EXPECT_TRUE(reloj.pedidas.isEmpty());
+    EXPECT_FALSE(aceptar->isDefault());
+}
+
+// The library shipped invented addresses for the maker's web site and support desk.
+TEST(PreguntaZEB, WithoutConfiguredAddressesTheLinksAreDisabled) {
+    prueba::OficinaPrueba o;
+    EXPECT_TRUE(Config.GetWebFabricante().isEmpty());
+    EXPECT_TRUE(Config.GetCorreoFabricante().isEmpty());
+    QList<QUrl> abiertas;
+    AbridorShell anterior = FijaAbridorShell([&](const QUrl& u) {
+        abiertas.append(u);
+        return true;
+    });
+    TFPreguntaZEB f(nullptr, QStringLiteral("<b>Soporte</b>"));
+    f.show();
+    EXPECT_EQ(f.findChild<QLabel*>(QStringLiteral("LMensaje"))->text(), QStringLiteral("<b>Soporte</b>"));
+    for (const char* nombre : {"LMDZeb", "LMDCorreo"}) {
+        auto* l = f.findChild<QLabel*>(QLatin1String(nombre));
+        EXPECT_FALSE(l->isEnabled()) << nombre;
+        const QColor antes = l->palette().color(QPalette::WindowText);
+        f.EntraEnlace(l);
+        EXPECT_EQ(l->palette().color(QPalette::WindowText), antes) << "no hover on a disabled link";
+        QTest::mouseClick(l, Qt::LeftButton);
+    }
+    f.LMDZebClick();
+    f.LMDCorreoClick();
+    EXPECT_TRUE(abiertas.isEmpty());
+    FijaAbridorShell(anterior);
+    prueba::OficinaPrueba muestra;
+    Config.Carga(prueba::OficinaMuestra());
+    EXPECT_TRUE(Config.GetWebFabricante().contains(QStringLiteral("example.com")));
+    EXPECT_TRUE(Config.GetCorreoFabricante().endsWith(QStringLiteral("@example.com")));
+}
+
+// The service's standard boxes: a 100,000-character text keeps the buttons on screen, "\r" breaks the
+// line, markup shows as typed, and plain letters answer like Alt+letter.
+TEST(ServicioQt, StandardBoxesStayUsableWithAnyText) {
+    ServicioMensajesQt qt;
+    ServicioMensajesInstalado instalado(qt);
+    const QRect zona = QGuiApplication::primaryScreen()->availableGeometry();
+    QString texto;
+    bool dentro = false;
+    prueba::AlAbrirseModal([&](QWidget* w) {
+        auto* l = w->findChild<QLabel*>(QStringLiteral("LTexto"));
+        texto = l->text().left(40);
+        dentro = zona.contains(w->frameGeometry());
+        QTest::keyClick(w->focusWidget(), Qt::Key_A);
+    });
+    Mensaje_Error(QStringLiteral("<b>uno</b>\rdos ") + QString(100000, u'x'), QStringLiteral("Error"));
+    EXPECT_TRUE(texto.startsWith(QStringLiteral("<b>uno</b>\ndos xxx")));
+    EXPECT_TRUE(dentro);
+    EXPECT_EQ(prueba::VentanasVisibles(), 0);
+    const std::pair<Qt::Key, int> respuestas[] = {{Qt::Key_S, 1}, {Qt::Key_N, 2}, {Qt::Key_Escape, 2}};
+    for (const auto& [tecla, esperada] : respuestas) {
+        prueba::AlAbrirseModal([t = tecla](QWidget* w) { QTest::keyClick(w->focusWidget(), t); });
+        EXPECT_EQ(Mensaje_SiNo(QStringLiteral("¿Seguro?"), QStringLiteral("Texto"), QStringLiteral("P")),
+                  esperada)
+            << tecla;
     }
 }

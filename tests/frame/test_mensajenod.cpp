@@ -245,3 +245,105 @@ TEST(MensajeNod, MensajePersonThroughTheQtService) {
     EXPECT_EQ(texto1, QStringLiteral("arriba"));
     EXPECT_EQ(texto2, QStringLiteral("abajo"));
 }
+
+// An upper text longer than three lines overflowed at both ends: a 2,000-character message showed only
+// a middle slice. It keeps its beginning, aligned to the top and cut with "…", the whole text in the
+// tooltip; a text that fits keeps the three centred lines.
+TEST(MensajeNod, ALongUpperTextKeepsItsBeginning) {
+    QString largo = QStringLiteral("Principio del aviso: ");
+    while (largo.size() < 2000)
+        largo += QStringLiteral("la copia no se ha podido firmar, ");
+    const struct {
+        QString texto;
+        bool cabe;
+    } casos[] = {{QStringLiteral("No se ha encontrado el cliente."), true},
+                 {largo, false},
+                 {QString(100000, u'x'), false}};
+    for (const auto& k : casos) {
+        Caja c;
+        c.forma->CambiaMensaje1(k.texto);
+        c.forma->show();
+        EXPECT_TRUE(c.l1->text().startsWith(k.texto.left(10))) << k.texto.left(30).toStdString();
+        EXPECT_EQ(c.l1->alignment() & Qt::AlignVertical_Mask, k.cabe ? Qt::AlignVCenter : Qt::AlignTop);
+        EXPECT_EQ(c.l1->geometry(), QRect(59, 5, 526, 61)) << "the design's place, whatever the text";
+        EXPECT_EQ(c.forma->height(), 123);
+        if (!k.cabe) {
+            EXPECT_TRUE(c.l1->text().endsWith(QStringLiteral("…")));
+            EXPECT_TRUE(c.l1->toolTip().contains(k.texto.mid(100, 20))) << "the whole text in the tooltip";
+        }
+    }
+}
+
+// "\r" showed as a blank, "<b>" and "<no existe>" were read as markup.
+TEST(MensajeNod, LineBreaksOfEveryKindAndMarkupAsTyped) {
+    const struct {
+        const char16_t *dado, *mostrado;
+    } casos[] = {{u"uno\rdos", u"uno\ndos"},
+                 {u"uno\r\ndos", u"uno\ndos"},
+                 {u"<b>Pérez & Cía</b>", u"<b>Pérez & Cía</b>"},
+                 {u"<no existe>", u"<no existe>"}};
+    for (const auto& k : casos) {
+        Caja c;
+        c.forma->CambiaMensaje1(QString::fromUtf16(k.dado));
+        c.forma->CambiaMensaje2(QString::fromUtf16(k.dado));
+        c.forma->show();
+        const QString mostrado = QString::fromUtf16(k.mostrado);
+        EXPECT_EQ(c.l1->text(), mostrado);
+        // The lower line holds one line: a second one is announced with "…" and carried in the tooltip.
+        EXPECT_EQ(c.l2->text(),
+                  mostrado.contains(u'\n') ? mostrado.section(u'\n', 0, 0) + QStringLiteral("…") : mostrado);
+        for (QLabel* l : {c.l1, c.l2})
+            EXPECT_EQ(l->textFormat(), Qt::PlainText);
+    }
+}
+
+// Plain "s" and "n" did nothing while the standard Si/No boxes answered them.
+TEST(MensajeNod, PlainLettersPressTheirButtons) {
+    const struct {
+        int tipo;
+        Qt::Key tecla;
+        int resultado;
+    } casos[] = {
+        {1, Qt::Key_S, 1}, {1, Qt::Key_N, 2}, {2, Qt::Key_S, 1}, {3, Qt::Key_C, 2}, {0, Qt::Key_A, 1}};
+    for (const auto& k : casos) {
+        prueba::AlAbrirseModal([&](QWidget* w) {
+            QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, Qt::Key_X); // no button's letter
+            QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, k.tecla);
+        });
+        EXPECT_EQ(MuestraMensajePerson(peticion(k.tipo)), k.resultado) << k.tipo << " " << k.tecla;
+    }
+}
+
+// With a visible owner near the screen's edge the box was placed partly off the screen.
+TEST(MensajeNod, CentredOnAnOwnerAtTheScreensEdgeTheBoxStaysOnScreen) {
+    const QRect zona = QGuiApplication::primaryScreen()->availableGeometry();
+    const QPoint esquinas[] = {zona.bottomRight() - QPoint(100, 60), zona.topLeft() - QPoint(150, 40)};
+    for (const QPoint& p : esquinas) {
+        QWidget duena;
+        duena.setGeometry(QRect(p, QSize(300, 200)));
+        duena.show();
+        TFMensajeNod forma(&duena);
+        forma.CambiaMensaje1(QStringLiteral("texto"));
+        forma.show();
+        EXPECT_TRUE(zona.contains(forma.frameGeometry())) << p.x() << "," << p.y();
+    }
+}
+
+// The stop icon was nearly invisible on the default red background.
+TEST(MensajeNod, TheStopIconStandsOutOnRed) {
+    Caja c;
+    c.forma->CambiaIcono(0);
+    const QImage icono = c.forma->findChild<QLabel*>(QStringLiteral("IconoStop"))->pixmap().toImage();
+    ASSERT_FALSE(icono.isNull());
+    int visibles = 0, opacos = 0;
+    for (int y = 0; y < icono.height(); ++y)
+        for (int x = 0; x < icono.width(); ++x) {
+            const QColor px = icono.pixelColor(x, y);
+            if (px.alpha() < 128) continue;
+            ++opacos;
+            // far from pure red: light, or dark, or of another hue
+            visibles += (px.green() > 150 && px.blue() > 150) || px.red() < 150 ? 1 : 0;
+        }
+    ASSERT_GT(opacos, 0);
+    EXPECT_GT(visibles * 2, opacos) << "most of the icon differs from the red background";
+}

@@ -1,6 +1,7 @@
 #include "tests/ident/servidor_http.h"
 
 #include <QTcpSocket>
+#include <QTimer>
 
 namespace nod::prueba {
 
@@ -33,16 +34,19 @@ ServidorHttp::ServidorHttp() {
                 if (m_modo == Modo::Cierra)
                     s->abort();
                 else if (m_modo == Modo::Responde) {
-                    s->write(m_respuesta);
-                    s->disconnectFromHost();
+                    QTimer::singleShot(m_retrasoMs, s, [s, r = m_respuesta] {
+                        s->write(r);
+                        s->disconnectFromHost();
+                    });
                 }
             });
         }
     });
 }
 
-void ServidorHttp::respondeCon(const QByteArray& cuerpo, int estado) {
+void ServidorHttp::respondeCon(const QByteArray& cuerpo, int estado, int retrasoMs) {
     m_modo = Modo::Responde;
+    m_retrasoMs = retrasoMs;
     m_respuesta = "HTTP/1.1 " + QByteArray::number(estado) + (estado == 200 ? " OK" : " Error") +
                   "\r\nContent-Type: text/xml; charset=utf-8\r\nConnection: close\r\nContent-Length: " +
                   QByteArray::number(cuerpo.size()) + "\r\n\r\n" + cuerpo;

@@ -21,8 +21,9 @@ public:
     quint16 puerto() const { return m_servidor.serverPort(); }
     QString base() const { return QStringLiteral("http://127.0.0.1:%1").arg(puerto()); }
 
-    /// The next answers: a status line and headers are added around `cuerpo`.
-    void respondeCon(const QByteArray& cuerpo, int estado = 200);
+    /// The next answers: a status line and headers are added around `cuerpo`; each is sent `retrasoMs`
+    /// after its request has arrived (a slow peer), or at once.
+    void respondeCon(const QByteArray& cuerpo, int estado = 200, int retrasoMs = 0);
     /// Accept the request and never answer (the client must give up by itself).
     void calla() { m_modo = Modo::Calla; }
     /// Close the connection as soon as the request has arrived, with no answer.
@@ -38,6 +39,7 @@ private:
     QTcpServer m_servidor;
     Modo m_modo = Modo::Responde;
     QByteArray m_respuesta;
+    int m_retrasoMs = 0;
     QList<PeticionHttp> m_peticiones;
 };
 

@@ -94,6 +94,73 @@ TEST_F(DialogoLetraNIF, VerdictsInTheirColoursAndTheSharedChangeHandler) {
     EXPECT_EQ(f.LResultadoNIE_->text(), QStringLiteral("Incorrecto"));
 }
 
+// Delete did nothing in ENIF: the digit filter judged the key by its text, and X11 gives Delete "\x7f".
+TEST_F(DialogoLetraNIF, DeleteAndTheEditingKeysWorkInTheDniEdit) {
+    const struct {
+        Qt::Key tecla;
+        int desde, cuantos; // the selection before the key
+        const char* queda;
+    } casos[] = {{Qt::Key_Delete, 2, 2, "125678"},
+                 {Qt::Key_Delete, 0, 0, "2345678"},
+                 {Qt::Key_Backspace, 8, 0, "1234567"},
+                 {Qt::Key_A, 2, 2, "12345678"},
+                 {Qt::Key_Minus, 0, 0, "12345678"}};
+    for (const auto& k : casos) {
+        f.ENIF->setText(QStringLiteral("12345678"));
+        f.ENIF->setSelection(k.desde, k.cuantos);
+        if (k.cuantos == 0) f.ENIF->setCursorPosition(k.desde);
+        QTest::keyClick(f.ENIF, k.tecla);
+        EXPECT_EQ(f.ENIF->text(), QLatin1String(k.queda)) << k.tecla;
+    }
+    f.ENIF->setText(QStringLiteral("12345678"));
+    f.ENIF->setCursorPosition(8);
+    for (Qt::Key tecla : {Qt::Key_Home, Qt::Key_Delete, Qt::Key_End, Qt::Key_Left, Qt::Key_Backspace})
+        QTest::keyClick(f.ENIF, tecla);
+    EXPECT_EQ(f.ENIF->text(), QStringLiteral("234568"));
+    f.ENIF->setText(QStringLiteral("12.345.678-Z"));
+    EXPECT_EQ(f.ENIF->text(), QStringLiteral("12345678")) << "a pasted or handed-in number keeps its digits";
+}
+
+// Switching DNI/CIF/NIE resized the window and moved the buttons, and a verdict narrowed its edit.
+TEST_F(DialogoLetraNIF, ModesAndVerdictsShowAndHideInPlace) {
+    const QSize tamano = f.size();
+    const QPoint salir = f.BBSalir->pos();
+    const QPoint accion = f.BBCalculaLetra->pos();
+    const int anchoCif = f.ECIF->width();
+    for (QRadioButton* rb : {f.RBCIF, f.RBNIE, f.RBDNI, f.RBNIE}) {
+        QTest::mouseClick(rb, Qt::LeftButton);
+        QApplication::processEvents();
+        EXPECT_EQ(f.size(), tamano) << rb->text().toStdString();
+        EXPECT_EQ(f.BBSalir->pos(), salir) << rb->text().toStdString();
+        EXPECT_EQ((f.RBDNI->isChecked() ? f.BBCalculaLetra : f.BBValidaCIF)->pos(), accion);
+    }
+    QTest::mouseClick(f.RBCIF, Qt::LeftButton);
+    for (const char* cif : {"B58818501", "B58818502"}) {
+        f.ECIF->setText(QLatin1String(cif));
+        f.BBValidaCIF->click();
+        QApplication::processEvents();
+        EXPECT_TRUE(f.LResultadoCIF_->isVisible());
+        EXPECT_EQ(f.ECIF->width(), anchoCif) << f.LResultadoCIF_->text().toStdString();
+        EXPECT_EQ(f.size(), tamano);
+    }
+}
+
+// "&Salir" and Escape gave 0 instead of the suite's cancel result.
+TEST(CalculaLetraNIFResultado, SalirEscapeAndTheCloseButtonGiveTwo) {
+    for (int como : {0, 1, 2}) {
+        TFCalculaLetraNIF f;
+        prueba::AlAbrirseModal([&](QWidget*) {
+            if (como == 0)
+                QTest::mouseClick(f.BBSalir, Qt::LeftButton);
+            else if (como == 1)
+                QTest::keyClick(f.ENIF, Qt::Key_Escape);
+            else
+                f.close();
+        });
+        EXPECT_EQ(f.exec(), 2) << como;
+    }
+}
+
 // The verdict goes by the mode chosen, also on a form that is not on screen yet (built and driven by a
 // program before showing it).
 TEST(CalculaLetraNIFSinMostrar, VerdictFollowsTheChosenMode) {

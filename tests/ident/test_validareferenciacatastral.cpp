@@ -10,6 +10,7 @@
 #include "tests/support/oficina_prueba.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
@@ -238,6 +239,70 @@ TEST_F(DialogoRefCatastral, CatastroOpensTheConsultationPageOrSaysWhy) {
     EXPECT_EQ(textos(), QStringList{QStringLiteral(
                             "Mensaje_Info|No se han encontrado los datos asociados|No ha sido "
                             "posible recuperar los datos de catastro de la referencia indicada")});
+}
+
+// While the cadastre was asked there was no busy cursor and no wait message, the dialog stayed live, a
+// second click started a second request, and after Cancel both answers still came: two boxes, or the
+// browser opening after the clerk had cancelled. The peer here answers, but only after 700 ms.
+TEST_F(DialogoRefCatastral, CatastroWaitBlocksTheDialogAndAbandonedAnswersAreDropped) {
+    const struct {
+        const char* como;
+        bool cancelar; // "&Cancelar" (closes the dialog), else Escape (the dialog stays)
+    } casos[] = {{"Cancelar", true}, {"Escape", false}};
+    for (const auto& k : casos) {
+        TFValidaReferenciaCatastral g;
+        g.show();
+        QApplication::setActiveWindow(&g);
+        mensajes.limpia();
+        abiertas.clear();
+        const qsizetype antes = servidor.peticiones().size();
+        servidor.respondeCon(kRespuestaCeuta, 200, 700);
+        g.ERCRefCatastral->setText(QStringLiteral("9872023VH5797S0001WX"));
+        bool visto = false;
+        QTimer::singleShot(200, &g, [&] {
+            visto = true;
+            EXPECT_EQ(g.cursor().shape(), Qt::WaitCursor) << k.como;
+            EXPECT_TRUE(mensajes.esperaVisible()) << k.como;
+            EXPECT_FALSE(g.ERCRefCatastral->isEnabled()) << k.como;
+            EXPECT_FALSE(g.BBCatastro->isEnabled()) << k.como;
+            EXPECT_TRUE(g.BBCancelar->isEnabled()) << k.como;
+            QTest::mouseClick(g.BBCatastro, Qt::LeftButton); // the second click
+            if (k.cancelar)
+                QTest::mouseClick(g.BBCancelar, Qt::LeftButton);
+            else
+                QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &g,
+                                Qt::Key_Escape);
+        });
+        QTest::mouseClick(g.BBCatastro, Qt::LeftButton);
+        QTest::qWait(1200); // the answer has come and gone
+        EXPECT_TRUE(visto) << k.como;
+        EXPECT_EQ(servidor.peticiones().size() - antes, 1) << k.como;
+        EXPECT_TRUE(abiertas.isEmpty()) << k.como;
+        EXPECT_TRUE(textos().isEmpty()) << k.como << ": " << textos().join(u' ').toStdString();
+        EXPECT_FALSE(mensajes.esperaVisible()) << k.como;
+        EXPECT_EQ(g.isVisible(), !k.cancelar) << k.como;
+        if (k.cancelar) {
+            EXPECT_EQ(g.result(), 2);
+            EXPECT_EQ(Config.GetRefCatastralActual(), QStringLiteral("0000123VH5797S0001AA"));
+        } else {
+            EXPECT_TRUE(g.BBCatastro->isEnabled()) << "the dialog is usable again";
+            EXPECT_EQ(g.cursor().shape(), Qt::ArrowCursor);
+        }
+    }
+}
+
+// Only typed text was upper-cased: a reference handed in lower case was shown and returned so.
+TEST_F(DialogoRefCatastral, AReferenceHandedInLowerCaseIsShownAndReturnedInUpperCase) {
+    Config.SetRefCatastralActual(QStringLiteral(" 9872023vh5797s0001wx "));
+    TFValidaReferenciaCatastral g;
+    g.show();
+    EXPECT_EQ(g.ERCRefCatastral->text(), QStringLiteral("9872023VH5797S0001WX"));
+    QApplication::clipboard()->setText(QStringLiteral("28079a000000001001ab"));
+    g.ERCRefCatastral->selectAll();
+    g.ERCRefCatastral->paste();
+    EXPECT_EQ(g.ERCRefCatastral->text(), QStringLiteral("28079A000000001001AB"));
+    QTest::mouseClick(g.BBAceptar, Qt::LeftButton);
+    EXPECT_EQ(Config.GetRefCatastralActual(), QStringLiteral("28079A000000001001AB"));
 }
 
 TEST(IValidaReferenciaCatastral, EscapeClosesTheModalDialogAndLeavesNoWindow) {

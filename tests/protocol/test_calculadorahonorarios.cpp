@@ -1,5 +1,6 @@
 // The fee calculator page: amounts typed the Spanish way, the scale choices handed to ARANCEL_C, and the
 // VAT check answered through the scripted message service.
+#include "companion/dialogo.h"
 #include "companion/mensajes.h"
 #include "configuracion_arancel.h"
 #include "protocol/aranceles.h"
@@ -33,21 +34,6 @@ protected:
     std::unique_ptr<TCalculadoraHonorarios> c;
 };
 
-TEST(LeeImporte, SpanishGroupingAndDecimals) {
-    const std::pair<const char*, double> casos[] = {
-        {"601.012,10", 601012.10},
-        {"1.234,5", 1234.5},
-        {"1 000 001", 1000001},
-        {"0,07", 0.07},
-        {"", 0},
-        {",", 0},
-        {"abc", 0},
-        {"12,", 12},
-    };
-    for (const auto& [texto, valor] : casos)
-        EXPECT_DOUBLE_EQ(TCalculadoraHonorarios::LeeImporte(QString::fromLatin1(texto)), valor) << texto;
-}
-
 TEST_F(Calculadora, DeedFeeVatQuotaAndTotalFollowTheTypedAmount) {
     QTest::keyClicks(c->ECuantia, QStringLiteral("601.012,10"));
     EXPECT_EQ(c->LHonorarioEscritura->text(), QStringLiteral("306,52 €"));
@@ -59,6 +45,36 @@ TEST_F(Calculadora, DeedFeeVatQuotaAndTotalFollowTheTypedAmount) {
     c->ECuantia->clear(); // no amount: the fixed fee of the first bracket, 4 000 pesetas
     EXPECT_EQ(c->LHonorarioEscritura->text(), QStringLiteral("24,04 €"));
     EXPECT_EQ(c->LTotal->text(), QStringLiteral("27,89 €"));
+}
+
+// "1500.50" was read as 150.050,00 € (fee 171,13 € instead of 24,04 €) and "150000.5" as 1.500.005 €:
+// the keypad's point before one or two final digits is the decimal separator.
+TEST_F(Calculadora, KeypadPointBeforeTheLastDigitsIsTheDecimalSeparator) {
+    const struct {
+        const char* tecleado;
+        double cuantia;
+    } casos[] = {{"1500.50", 1500.5}, {"150000.5", 150000.5}, {"150.000", 150000}, {"150.000,5", 150000.5}};
+    for (const auto& k : casos) {
+        c->ECuantia->clear();
+        QTest::keyClicks(c->ECuantia, QString::fromLatin1(k.tecleado));
+        EXPECT_EQ(c->LHonorarioEscritura->text(),
+                  FormateaImporte(Ges_Arancel_E(k.cuantia), 2) + QStringLiteral(" €"))
+            << k.tecleado;
+    }
+    c->ECuantia->clear();
+    QTest::keyClicks(c->ECuantia, QStringLiteral("1500.50"));
+    EXPECT_EQ(c->LHonorarioEscritura->text(), QStringLiteral("24,04 €"));
+    QTest::keyClicks(c->ECuantia, QStringLiteral("0")); // "1500.500" groups nothing: refused where typed
+    EXPECT_EQ(c->ECuantia->text(), QStringLiteral("1500.50"));
+    c->ECuantia->setText(QStringLiteral("1.234.5")); // still being typed: no fee is guessed
+    EXPECT_TRUE(c->LHonorarioEscritura->text().isEmpty());
+    EXPECT_TRUE(c->LTotal->text().isEmpty());
+}
+
+TEST_F(Calculadora, EveryAcceleratorIsUnique) {
+    // "Tabla &inferior" and "Comprobar &IVA" both answered Alt+I.
+    EXPECT_TRUE(AceleradoresRepetidos(c.get()).isEmpty())
+        << AceleradoresRepetidos(c.get()).join(u' ').toStdString();
 }
 
 TEST_F(Calculadora, PolicyChoicesReachTheConfiguredScale) {
