@@ -6,6 +6,7 @@
 #include "companion/rnumcad.h"
 #include "text/moneda.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -127,11 +128,12 @@ TFConversorMoneda::TFConversorMoneda(QWidget* owner)
     campos->addWidget(btnConvertir);
     campos->addStretch();
 
-    auto* tablas = new QHBoxLayout;
+    // Pesetas to euros above, euros to pesetas below: the card fits a small screen.
+    auto* tablas = new QGridLayout;
     QTableWidget** destinos[] = {&ValueListEditor2, &ValueListEditor4, &ValueListEditor1, &ValueListEditor3};
     for (int i = 0; i < 4; ++i) {
         *destinos[i] = tabla(this, kTablas[i]);
-        tablas->addWidget(*destinos[i], 0, Qt::AlignTop);
+        tablas->addWidget(*destinos[i], i / 2, i % 2, Qt::AlignTop);
     }
 
     auto* botones = new QHBoxLayout;

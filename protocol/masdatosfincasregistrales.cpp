@@ -95,6 +95,7 @@ TFMasDatosFincasRegistrales::TFMasDatosFincasRegistrales(QWidget* owner, double 
     LBFincasRegistrales = new QListWidget(this);
     LBFincasRegistrales->setObjectName(QStringLiteral("LBFincasRegistrales"));
     LBFincasRegistrales->setSelectionMode(QAbstractItemView::SingleSelection);
+    LBFincasRegistrales->setAccessibleName(QStringLiteral("Fincas Registrales"));
     BBAnadir = boton(
         this, "BBAnadir", QStringLiteral("A&ñadir"),
         QStringLiteral("Añade una nueva finca registral al listado, la que esté escrita abajo (Insert)"));
