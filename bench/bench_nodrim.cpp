@@ -58,6 +58,29 @@ void BM_PeticionesTriviales(benchmark::State& state) {
 }
 BENCHMARK(BM_PeticionesTriviales)->Arg(1000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+// The longest line accepted (1 MiB): a text argument as long as it can be, and the costliest shape to
+// parse, as many empty objects as fit.
+void BM_LineaMasLarga(benchmark::State& state) {
+    const bool objetos = state.range(0) != 0;
+    const std::string inicio =
+        objetos ? R"({"fn":"AliasNotario","args":[)" : R"({"fn":"QuitaAcentos","args":[")";
+    const std::string fin = objetos ? "]}" : "\"]}";
+    std::string linea = inicio;
+    const std::size_t cabe = nod::lote::kLineaMaxima - inicio.size() - fin.size();
+    if (objetos) {
+        linea += "{}";
+        while (linea.size() + 3 <= inicio.size() + cabe)
+            linea += ",{}";
+    } else {
+        linea.append(cabe, 'a');
+    }
+    linea += fin;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(nod::lote::AtiendeLinea(linea, 1));
+    state.SetBytesProcessed(state.iterations() * std::int64_t(linea.size()));
+}
+BENCHMARK(BM_LineaMasLarga)->ArgName("objects")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 int main(int argc, char** argv) {

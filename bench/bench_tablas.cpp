@@ -1,14 +1,19 @@
 // Table layer speed: warm per-call lookups on the sample office (each call opens its table, as the
-// routines do), and the client-code revision's core: scanning 1,000,000 records spread over tables, each
-// code looked up in a 100,000-record clients table.
+// routines do) beside in-memory indexes of the same tables, and the client-code revision's core: scanning
+// 1,000,000 records spread over tables, each code looked up in a 100,000-record clients table.
 #include "companion/config.h"
+#include "ident/colegios.h"
+#include "ident/empleados.h"
 #include "ident/municipios.h"
 #include "ident/paises.h"
 #include "tables/tablas.h"
+#include "text/recorte.h"
 
 #include <QFile>
+#include <QHash>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
+#include <sys/stat.h>
 
 using namespace nod;
 
@@ -18,6 +23,25 @@ void cargaOficinaMuestra() {
     Config.Carga(QStringLiteral(NOD_SOURCE_DIR "/sample-office"));
 }
 
+// Per-call lookups, warm: each call opens its table, looks at the file (so that a change made by another
+// workstation is seen on the next call) and searches it. Beside each, the same search on a handle opened
+// once: the tag's order already in memory, no open and no look at the file. For the municipality, also a
+// hash built once from the table (what a program that loaded the table would keep): the least a lookup
+// can cost. And what looking at the file costs alone: one stat().
+
+// The same search as the routine, on a table kept open (its range, filter and tag set once).
+struct TablaAbierta {
+    std::unique_ptr<TTabla> tb;
+    TablaAbierta(const char* fichero, const char* etiqueta, const char* filtro = "") {
+        cargaOficinaMuestra();
+        tb = CreaTabla(Config.GetAliasNodrim(), QLatin1String(fichero), QLatin1String(etiqueta));
+        TBFiltra(*tb, QLatin1String(filtro));
+    }
+    [[gnu::noinline]] QString busca(const TClaves& claves, const char* campo) {
+        return TBBusca(*tb, claves) ? Trim(tb->AsString(QLatin1String(campo))) : QString();
+    }
+};
+
 void BM_BusquedaMunicipio(benchmark::State& st) {
     cargaOficinaMuestra();
     for (auto _ : st)
@@ -25,12 +49,105 @@ void BM_BusquedaMunicipio(benchmark::State& st) {
 }
 BENCHMARK(BM_BusquedaMunicipio);
 
+void BM_BusquedaMunicipio_TablaAbierta(benchmark::State& st) {
+    TablaAbierta t("MUNICIPI.DBF", "CPROVMUN");
+    const QString provincia = QStringLiteral("28"), municipio = QStringLiteral("079");
+    for (auto _ : st)
+        benchmark::DoNotOptimize(
+            t.busca({{QStringLiteral("COD_PROV"), Trim(provincia)}, {QStringLiteral("COD_MUN"), municipio}},
+                    "NOMBRE"));
+}
+BENCHMARK(BM_BusquedaMunicipio_TablaAbierta);
+
+void BM_BusquedaMunicipio_Hash(benchmark::State& st) {
+    cargaOficinaMuestra();
+    using Clave = std::pair<QString, QString>;
+    QHash<Clave, QString> indice;
+    auto tb = CreaTabla(Config.GetAliasNodrim(), QStringLiteral("MUNICIPI.DBF"));
+    for (tb->First(); !tb->Eof(); tb->Next())
+        indice.insert(Clave(Trim(tb->AsString(QStringLiteral("COD_PROV"))),
+                            Trim(tb->AsString(QStringLiteral("COD_MUN")))),
+                      Trim(tb->AsString(QStringLiteral("NOMBRE"))));
+    const QString provincia = QStringLiteral("28"), municipio = QStringLiteral("079");
+    for (auto _ : st)
+        benchmark::DoNotOptimize(indice.value(Clave(Trim(provincia), municipio)));
+}
+BENCHMARK(BM_BusquedaMunicipio_Hash);
+
 void BM_Cod_PaisBOE(benchmark::State& st) {
     cargaOficinaMuestra();
     for (auto _ : st)
         benchmark::DoNotOptimize(Cod_PaisBOE(QStringLiteral("ALEMANIA")));
 }
 BENCHMARK(BM_Cod_PaisBOE);
+
+void BM_Cod_PaisBOE_TablaAbierta(benchmark::State& st) {
+    TablaAbierta t("PROVIN.DBF", "ALFABETICO", "GRUPO='2'");
+    const QString nombre = QStringLiteral("ALEMANIA");
+    for (auto _ : st)
+        benchmark::DoNotOptimize(t.busca({{QStringLiteral("PROVINCIA"), Trim(nombre)}}, "BOE_161299"));
+}
+BENCHMARK(BM_Cod_PaisBOE_TablaAbierta);
+
+void BM_Cod_ProvToNombre(benchmark::State& st) {
+    cargaOficinaMuestra();
+    for (auto _ : st)
+        benchmark::DoNotOptimize(Cod_ProvToNombre(QStringLiteral("28")));
+}
+BENCHMARK(BM_Cod_ProvToNombre);
+
+void BM_Cod_ProvToNombre_TablaAbierta(benchmark::State& st) {
+    TablaAbierta t("PROVIN.DBF", "CODIGO", "GRUPO='1'");
+    for (auto _ : st)
+        benchmark::DoNotOptimize(t.busca({{QStringLiteral("CODIGO"), QStringLiteral("28")}}, "PROVINCIA"));
+}
+BENCHMARK(BM_Cod_ProvToNombre_TablaAbierta);
+
+void BM_Empleado(benchmark::State& st) {
+    cargaOficinaMuestra();
+    for (auto _ : st)
+        benchmark::DoNotOptimize(Empleado(1, QStringLiteral("EMAIL")));
+}
+BENCHMARK(BM_Empleado);
+
+void BM_Empleado_TablaAbierta(benchmark::State& st) {
+    TablaAbierta t("EMPLEADO.DBF", "CODUSER");
+    for (auto _ : st)
+        benchmark::DoNotOptimize(t.busca({{QStringLiteral("CODUSER"), 1}}, "EMAIL"));
+}
+BENCHMARK(BM_Empleado_TablaAbierta);
+
+void BM_Sustituto(benchmark::State& st) {
+    cargaOficinaMuestra();
+    for (auto _ : st)
+        benchmark::DoNotOptimize(Sustituto(2, QStringLiteral("LOCALIDAD")));
+}
+BENCHMARK(BM_Sustituto);
+
+void BM_Sustituto_TablaAbierta(benchmark::State& st) {
+    TablaAbierta t("SUSTIT.DBF", "NUMERO");
+    for (auto _ : st)
+        benchmark::DoNotOptimize(t.busca({{QStringLiteral("NUMEROSUST"), 2}}, "LOCALIDAD"));
+}
+BENCHMARK(BM_Sustituto_TablaAbierta);
+
+// The college of a region needs no table: its fixed list, for comparison.
+void BM_ObtenCodColegioPorNombre(benchmark::State& st) {
+    cargaOficinaMuestra();
+    for (auto _ : st)
+        benchmark::DoNotOptimize(ObtenCodColegioPorNombre(QStringLiteral("COMUNIDAD DE MADRID"), {}));
+}
+BENCHMARK(BM_ObtenCodColegioPorNombre);
+
+// The one system call of a warm open. On a virtual machine it may cost more than everything else.
+void BM_StatDeLaTabla(benchmark::State& st) {
+    const QByteArray ruta =
+        QFile::encodeName(QStringLiteral(NOD_SOURCE_DIR "/sample-office/DATOS/MUNICIPI.DBF"));
+    struct stat s {};
+    for (auto _ : st)
+        benchmark::DoNotOptimize(::stat(ruta.constData(), &s));
+}
+BENCHMARK(BM_StatDeLaTabla);
 
 // A table of `n` records with a numeric CODCLIENTE field, written in one go.
 void escribeTabla(const QString& ruta, int n, int desde, int paso) {

@@ -4,8 +4,13 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <array>
+#include <atomic>
+#include <cerrno>
+#include <cstring>
+#include <sys/stat.h>
 
 namespace nod {
 
@@ -20,7 +25,9 @@ template <> struct TipoDe<bool> { static constexpr TConfig::Tipo valor = TConfig
 template <> struct TipoDe<QString> { static constexpr TConfig::Tipo valor = TConfig::Tipo::Texto; };
 
 // Texts of the INI files to typed values. A text that does not parse keeps the default, with a warning.
+// Qt's number parsing stops at a NUL, which would make "3<NUL>tres" read as 3: such a text is no number.
 [[maybe_unused]] bool interpreta(const QString& texto, int& v) {
+    if (texto.contains(QChar(0))) return false;
     bool ok = false;
     const int n = texto.toInt(&ok);
     if (ok) v = n;
@@ -28,6 +35,7 @@ template <> struct TipoDe<QString> { static constexpr TConfig::Tipo valor = TCon
 }
 
 [[maybe_unused]] bool interpreta(const QString& texto, double& v) {
+    if (texto.contains(QChar(0))) return false;
     QString t = texto;
     if (!t.contains(QLatin1Char('.'))) t.replace(QLatin1Char(','), QLatin1Char('.'));
     bool ok = false;
@@ -106,7 +114,7 @@ void TConfig::cargaValores(bool soloPorNotario) {
         const QString texto = ini->valor(sec, cla);
         if (!interpreta(texto, miembro)) {
             m_avisos << QStringLiteral("[%1] %2=%3: valor no válido, se usa el valor por defecto")
-                            .arg(sec, cla, texto);
+                            .arg(sec, cla, TextoVisible(texto, 200));
             qCWarning(lcConfig).noquote() << m_avisos.last();
         }
     };
@@ -116,11 +124,19 @@ void TConfig::cargaValores(bool soloPorNotario) {
 }
 
 void TConfig::Carga(const QString& carpetaOficina) {
+    static std::atomic<quint64> cargas{0};
     *this = TConfig();
+    m_generacion = ++cargas;
     m_carpetaOficina = QDir::cleanPath(QFileInfo(carpetaOficina).absoluteFilePath());
-    if (!QFileInfo(m_carpetaOficina).isDir()) {
-        m_avisos << QStringLiteral("La carpeta de la oficina %1 no existe; se usan los valores por defecto")
-                        .arg(QDir::toNativeSeparators(m_carpetaOficina));
+    struct stat st {};
+    const bool hay = ::stat(QFile::encodeName(m_carpetaOficina).constData(), &st) == 0;
+    if (!hay || !S_ISDIR(st.st_mode)) {
+        const int error = hay ? ENOTDIR : errno;
+        m_avisos << QStringLiteral("La carpeta de la oficina %1 %2; se usan los valores por defecto")
+                        .arg(QDir::toNativeSeparators(m_carpetaOficina),
+                             error == ENOENT ? QStringLiteral("no existe")
+                                             : QStringLiteral("no se puede leer (%1)")
+                                                   .arg(QString::fromLocal8Bit(std::strerror(error))));
         qCWarning(lcConfig).noquote() << m_avisos.last();
     }
     const QDir dir(m_carpetaOficina);

@@ -37,6 +37,10 @@ public:
     /// under the configured drive root.
     QString RutaUnidadC(const QString& rutaWindows) const;
 
+    /// A number that changes with every `Carga` and travels with a copy of the object: what is derived
+    /// from the office's files alone (the folder of an alias) may be kept while it stays the same.
+    quint64 Generacion() const { return m_generacion; }
+
     /// Warnings met while loading, each naming its file (and line).
     const QStringList& Avisos() const { return m_avisos; }
 
@@ -74,6 +78,7 @@ private:
     QString seccionReal(const char* seccion) const;
 
     QString m_carpetaOficina;
+    quint64 m_generacion = 0;
     IniFile m_config;
     IniFile m_varios;
     QStringList m_avisos;

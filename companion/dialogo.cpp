@@ -405,9 +405,14 @@ bool PonTextoAjustado(QLabel* etiqueta, const QString& texto) {
     QString& ultima = vistas.last();
     const QString puntos = QStringLiteral("…");
     if (!ultima.endsWith(puntos)) {
-        while (!ultima.isEmpty() && fm.horizontalAdvance(ultima + puntos) > caja.width())
-            ultima.chop(1);
-        ultima += puntos;
+        // " …" after the last word that fits; "…" straight after the letters when it has to cut one.
+        QString marca = ultima.isEmpty() ? puntos : u' ' + puntos;
+        if (fm.horizontalAdvance(ultima + marca) > caja.width()) {
+            marca = puntos;
+            while (!ultima.isEmpty() && fm.horizontalAdvance(ultima + marca) > caja.width())
+                ultima.chop(1);
+        }
+        ultima += marca;
     }
     etiqueta->setAlignment((propia & Qt::AlignHorizontal_Mask) | Qt::AlignTop);
     etiqueta->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -4,19 +4,31 @@
 #include "companion/registro.h"
 
 #include <QFile>
+#include <cerrno>
+#include <cstring>
+#include <sys/stat.h>
 
 namespace nod {
 
 bool IniFile::carga(const QString& ruta) {
-    QFile f(ruta);
-    if (!f.exists()) {
-        m_avisos << QStringLiteral("%1: no existe; se usan los valores por defecto").arg(ruta);
+    // A file that is not there is told apart from one that cannot be reached (a folder without
+    // permission, a link that loops ...): the warning says which, and why.
+    struct stat st {};
+    if (::stat(QFile::encodeName(ruta).constData(), &st) != 0) {
+        const int error = errno;
+        if (error == ENOENT || error == ENOTDIR)
+            m_avisos << QStringLiteral("%1: no existe; se usan los valores por defecto").arg(ruta);
+        else
+            m_avisos << QStringLiteral("%1: no se puede leer (%2); se usan los valores por defecto")
+                            .arg(ruta, QString::fromLocal8Bit(std::strerror(error)));
         qCWarning(lcConfig).noquote() << m_avisos.last();
         return false;
     }
-    if (!f.open(QIODevice::ReadOnly)) {
+    QFile f(ruta);
+    if (!S_ISREG(st.st_mode) || !f.open(QIODevice::ReadOnly)) {
         m_avisos << QStringLiteral("%1: no se puede leer (%2); se usan los valores por defecto")
-                        .arg(ruta, f.errorString());
+                        .arg(ruta,
+                             S_ISREG(st.st_mode) ? f.errorString() : QStringLiteral("no es un fichero"));
         qCWarning(lcConfig).noquote() << m_avisos.last();
         return false;
     }
@@ -42,7 +54,7 @@ void IniFile::cargaTexto(const QString& texto, const QString& nombre) {
                 m_avisos << QStringLiteral("%1:%2: línea no válida, se ignora: %3")
                                 .arg(nombre)
                                 .arg(n + 1)
-                                .arg(linea.left(60));
+                                .arg(TextoVisible(linea, 60));
                 qCWarning(lcConfig).noquote() << m_avisos.last();
             }
             continue;

@@ -55,35 +55,45 @@ ServicioMensajesInstalado::~ServicioMensajesInstalado() {
     g_servicio = m_anterior;
 }
 
-int ServicioMensajesGuionado::siguiente(int siVacia) {
-    if (m_respuestas.empty()) return siVacia;
-    const int r = m_respuestas.front();
-    m_respuestas.pop_front();
-    return r;
+void ServicioMensajesGuionado::anota(const QString& kind, const QString& titulo, const QString& texto) {
+    m_mostrados.push_back({kind, titulo, texto, std::nullopt, false});
+}
+
+int ServicioMensajesGuionado::responde(const QString& kind, const QString& titulo, const QString& texto,
+                                       int escape, bool siNo) {
+    std::optional<int> r;
+    if (m_fuente) {
+        r = m_fuente(kind);
+    } else if (!m_respuestas.empty()) {
+        r = m_respuestas.front();
+        m_respuestas.pop_front();
+    }
+    int v = r.value_or(escape);
+    if (siNo) v = v == 6 ? 1 : v == 7 ? 2 : v;
+    m_mostrados.push_back({kind, titulo, texto, v, !r});
+    return v;
 }
 
 void ServicioMensajesGuionado::error(const QString& texto, const QString& titulo) {
-    m_mostrados.push_back({QStringLiteral("Mensaje_Error"), titulo, texto});
+    anota(QStringLiteral("Mensaje_Error"), titulo, texto);
 }
 
 void ServicioMensajesGuionado::info(const QString& texto, const QString& titulo) {
-    m_mostrados.push_back({QStringLiteral("Mensaje_Info"), titulo, texto});
+    anota(QStringLiteral("Mensaje_Info"), titulo, texto);
 }
 
 int ServicioMensajesGuionado::pregunta(const QString& kind, const QString& texto, const QString& titulo,
                                        bool) {
-    m_mostrados.push_back({kind, titulo, texto});
-    const int r = siguiente(2);
-    return r == 6 ? 1 : r == 7 ? 2 : r;
+    return responde(kind, titulo, texto, 2, true);
 }
 
 void ServicioMensajesGuionado::muestraEspera(const QString& texto) {
-    m_mostrados.push_back({QStringLiteral("MuestraMensaje"), {}, texto});
+    anota(QStringLiteral("MuestraMensaje"), {}, texto);
     m_esperaVisible = true;
 }
 
 void ServicioMensajesGuionado::cambiaEspera(const QString& texto) {
-    m_mostrados.push_back({QStringLiteral("CambiaMensaje"), {}, texto});
+    anota(QStringLiteral("CambiaMensaje"), {}, texto);
 }
 
 void ServicioMensajesGuionado::cierraEspera() {
@@ -93,15 +103,13 @@ void ServicioMensajesGuionado::cierraEspera() {
 int ServicioMensajesGuionado::mensajePerson(const PeticionMensajePerson& p) {
     QString texto = p.mensaje1;
     if (!p.mensaje2.isEmpty()) texto += (texto.isEmpty() ? QString() : QStringLiteral("\n")) + p.mensaje2;
-    m_mostrados.push_back({QStringLiteral("Mensaje_Person"), p.titulo, texto});
-    return siguiente(2);
+    return responde(QStringLiteral("Mensaje_Person"), p.titulo, texto, 2);
 }
 
 int ServicioMensajesGuionado::activosFinancieros(int) {
-    m_mostrados.push_back({QStringLiteral("Mensaje_ActivosFinancieros"),
-                           QStringLiteral("Información sobre los Activos Financieros"),
-                           QStringLiteral("Reglas para la corrección de Activos Financieros")});
-    return siguiente(6);
+    return responde(QStringLiteral("Mensaje_ActivosFinancieros"),
+                    QStringLiteral("Información sobre los Activos Financieros"),
+                    QStringLiteral("Reglas para la corrección de Activos Financieros"), 6);
 }
 
 void Mensaje_Error(const QString& texto, const QString& titulo) {

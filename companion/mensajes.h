@@ -12,6 +12,8 @@
 #include <QVector>
 #include <cstdint>
 #include <deque>
+#include <functional>
+#include <optional>
 
 namespace nod {
 
@@ -25,11 +27,13 @@ struct PeticionMensajePerson {
     TColor fondo = 0, letras = 0;
 };
 
-/// One dialog as the user saw it, for the record.
+/// One dialog as the user saw it, for the record, with the answer the routine got from it.
 struct DialogoMostrado {
     QString kind; // the routine that showed it: "Mensaje_Error", "Mensaje_NoSi", "Mensaje_Person" ...
     QString title;
     QString text;
+    std::optional<int> respuesta; // the modal result returned; none for a box that asks nothing
+    bool porDefecto = false;      // no answer was left for it: it answered as Escape would
 };
 
 class ServicioMensajes {
@@ -57,13 +61,21 @@ ServicioMensajes& Mensajes();
 /// Installs a service (not owned); nullptr returns to the silent one.
 void InstalaServicioMensajes(ServicioMensajes* servicio);
 
-/// Records every dialog and answers from a queue; an empty queue answers as Escape would
-/// (2 for questions and message boxes, 6 for the financial assets box). For questions an answer of 6
-/// counts as yes (1) and 7 as no (2).
+/// Records every dialog and answers the boxes that ask something (questions, `Mensaje_Person`, the
+/// financial assets box) in order, from its own queue or from a source given by its owner; with no answer
+/// left a box answers as Escape would (2 for questions and message boxes, 6 for the financial assets
+/// box) and is recorded as defaulted. For questions an answer of 6 counts as yes (1) and 7 as no (2).
+/// Error and information boxes and the wait window take no answer.
 class ServicioMensajesGuionado : public ServicioMensajes {
 public:
+    /// Gives the answer for the next box of the given kind, nullopt when none is left. A script's
+    /// answers may also serve other dialogs than message boxes, so the source keeps the one order.
+    using FuenteRespuestas = std::function<std::optional<int>(const QString& kind)>;
+
     explicit ServicioMensajesGuionado(std::deque<int> respuestas = {})
         : m_respuestas(std::move(respuestas)) {}
+    explicit ServicioMensajesGuionado(FuenteRespuestas fuente)
+        : m_fuente(std::move(fuente)) {}
 
     void error(const QString& texto, const QString& titulo) override;
     void info(const QString& texto, const QString& titulo) override;
@@ -76,6 +88,8 @@ public:
 
     const QVector<DialogoMostrado>& mostrados() const { return m_mostrados; }
     void respuestas(std::deque<int> r) { m_respuestas = std::move(r); }
+    /// Answers of its own queue that no box has taken.
+    qsizetype sinUsar() const { return qsizetype(m_respuestas.size()); }
     void limpia() {
         m_mostrados.clear();
         m_respuestas.clear();
@@ -83,9 +97,13 @@ public:
     bool esperaVisible() const { return m_esperaVisible; }
 
 private:
-    int siguiente(int siVacia);
+    void anota(const QString& kind, const QString& titulo, const QString& texto);
+    // Records a box that asks something and returns its answer (`escape` when none is left).
+    int responde(const QString& kind, const QString& titulo, const QString& texto, int escape,
+                 bool siNo = false);
     QVector<DialogoMostrado> m_mostrados;
     std::deque<int> m_respuestas;
+    FuenteRespuestas m_fuente;
     bool m_esperaVisible = false;
 };
 

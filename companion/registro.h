@@ -2,6 +2,7 @@
 // Logging categories of the library. Programmers read these; the clerk sees message boxes instead.
 
 #include <QLoggingCategory>
+#include <QString>
 
 namespace nod {
 Q_DECLARE_LOGGING_CATEGORY(lcConfig)
@@ -12,4 +13,9 @@ Q_DECLARE_LOGGING_CATEGORY(lcIdent)
 Q_DECLARE_LOGGING_CATEGORY(lcProtocolo)
 Q_DECLARE_LOGGING_CATEGORY(lcComms)
 Q_DECLARE_LOGGING_CATEGORY(lcFicheros)
+
+/// A text as a message can quote it whole: control characters (a NUL would end the line for whoever
+/// reads the log) written as "\xNN", and, with `maximo` >= 0, cut after that many characters with "…".
+///     TextoVisible(u"3\0tres") == "3\x00tres"
+QString TextoVisible(QStringView texto, qsizetype maximo = -1);
 } // namespace nod

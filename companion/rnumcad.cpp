@@ -118,12 +118,19 @@ double Cad_Float(const QString& texto) {
     return res.ec == std::errc() && res.ptr == fin && std::isfinite(v) ? v : 0.0;
 }
 
+// A cut of n units never keeps half of a character outside the Basic Multilingual Plane (two UTF-16
+// units): the pair is left out whole, so the result is never longer than asked.
 QString StrLeft(const QString& s, int n) {
-    return n <= 0 ? QString() : s.left(n);
+    if (n <= 0) return {};
+    if (n < s.size() && s[n].isLowSurrogate() && s[n - 1].isHighSurrogate()) --n;
+    return s.left(n);
 }
 
 QString StrRight(const QString& s, int n) {
-    return n <= 0 ? QString() : s.right(n);
+    if (n <= 0) return {};
+    const qsizetype desde = s.size() - n;
+    if (desde > 0 && s[desde].isLowSurrogate() && s[desde - 1].isHighSurrogate()) --n;
+    return s.right(n);
 }
 
 QString StrCeros(qint64 valor, int ancho) {
@@ -131,8 +138,11 @@ QString StrCeros(qint64 valor, int ancho) {
     // The magnitude as unsigned, so that the smallest Int64 has one too.
     const quint64 magnitud = negativo ? quint64(0) - quint64(valor) : quint64(valor);
     QString digitos = QString::number(magnitud);
-    const int ceros = ancho - int(digitos.size()) - (negativo ? 1 : 0);
-    if (ceros > 0 && ancho <= kAnchoMaximoTexto) digitos.prepend(QString(ceros, QLatin1Char('0')));
+    // The width is checked before any arithmetic on it, which is then done in 64 bits.
+    if (ancho > 0 && ancho <= kAnchoMaximoTexto) {
+        const qsizetype ceros = qsizetype(ancho) - digitos.size() - (negativo ? 1 : 0);
+        if (ceros > 0) digitos.prepend(QString(ceros, QLatin1Char('0')));
+    }
     return negativo ? QLatin1Char('-') + digitos : digitos;
 }
 

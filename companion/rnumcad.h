@@ -29,7 +29,9 @@ qint64 Cad_Int64(const QString& texto);
 /// Cad_Float("1.234,5") == 1234.5, Cad_Float("2.5") == 2.5. Blanks are ignored; anything else gives 0.
 double Cad_Float(const QString& texto);
 
-/// The first (last) `n` characters of `s`; all of it when shorter, "" when n <= 0.
+/// The first (last) `n` characters of `s`; all of it when shorter, "" when n <= 0. A character outside
+/// the Basic Multilingual Plane counts two and is never cut in half: it is left out when only one of its
+/// halves would fit.
 QString StrLeft(const QString& s, int n);
 QString StrRight(const QString& s, int n);
 

@@ -1,11 +1,14 @@
 #include "frame/ficheros.h"
 
 #include "companion/registro.h"
+#include "companion/rnumcad.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QRegularExpression>
+#include <algorithm>
 #include <cmath>
 
 #ifdef Q_OS_UNIX
@@ -15,9 +18,40 @@
 
 namespace nod {
 
+namespace {
+
+// What a name in the temporary folder may hold: a separator or a drive mark would take it elsewhere,
+// and Windows refuses the rest.
+bool caracterDeNombre(QChar c) {
+    return c.unicode() >= 0x20 && !QStringView(u"/\\:*?\"<>|").contains(c);
+}
+
+// The temporary folder, resolved (the system's may be reached through a link).
+QString carpetaTemporal() {
+    return QFileInfo(QDir::tempPath()).canonicalFilePath();
+}
+
+// The names FicheroTemporalNod gives: up to three characters of the prefix, a hexadecimal number and
+// ".tmp", which the name of a temporary table may have dropped.
+bool nombreTemporal(const QString& nombre) {
+    static const QRegularExpression forma(
+        QStringLiteral("^[^/\\\\:*?\"<>|\\x00-\\x1F]{0,3}[0-9A-F]{1,4}(\\.[Tt][Mm][Pp])?$"));
+    return forma.match(nombre).hasMatch();
+}
+
+} // namespace
+
 QString FicheroTemporalNod(const QString& prefijo) {
+    const QString base = StrLeft(prefijo, 3);
+    if (!std::all_of(base.begin(), base.end(), caracterDeNombre)) {
+        qCWarning(lcFrame).noquote()
+            << QStringLiteral(
+                   "FicheroTemporalNod: el prefijo \"%1\" lleva caracteres que no caben en un nombre "
+                   "de la carpeta temporal; no se crea ningún fichero")
+                   .arg(TextoVisible(prefijo, 20));
+        return {};
+    }
     const QDir tmp(QDir::tempPath());
-    const QString base = prefijo.left(3);
     quint32 numero = QRandomGenerator::global()->bounded(0x10000u);
     for (int intento = 0; intento < 0x10000; ++intento, numero = (numero + 1) & 0xFFFF) {
         const QString nombre =
@@ -31,6 +65,17 @@ QString FicheroTemporalNod(const QString& prefijo) {
 }
 
 void EliminaTablaTemporal(const QString& ruta) {
+    // Only a temporary table is deleted: one in the temporary folder itself, named as FicheroTemporalNod
+    // names files. Anything else (an office table above all) is refused.
+    const QFileInfo fi(ruta);
+    const QString carpeta = ruta.isEmpty() ? QString() : QFileInfo(fi.absolutePath()).canonicalFilePath();
+    if (carpeta.isEmpty() || carpeta != carpetaTemporal() || !nombreTemporal(fi.fileName())) {
+        qCWarning(lcFrame).noquote()
+            << QStringLiteral("EliminaTablaTemporal: \"%1\" no es una tabla temporal (un nombre de "
+                              "FicheroTemporalNod en %2); no se borra")
+                   .arg(TextoVisible(ruta, 200), QDir::toNativeSeparators(QDir::tempPath()));
+        return;
+    }
     for (const char* ext : {".dbf", ".mdx", ".dbt"}) {
         const QString fichero = ruta + QLatin1String(ext);
         if (!QFileInfo::exists(fichero)) continue;

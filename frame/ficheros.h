@@ -9,11 +9,14 @@ namespace nod {
 
 /// Creates an empty, uniquely named file in the system's temporary folder and returns its full name:
 /// the first three characters of `prefijo`, a hexadecimal number and ".tmp" (as Windows names them).
-/// Empty when the temporary folder cannot be written.
+/// Empty when the temporary folder cannot be written, or when those characters hold a separator, a
+/// drive mark or another character no file name may hold ("../", "/tm"): the file would land elsewhere.
 QString FicheroTemporalNod(const QString& prefijo);
 
 /// Deletes `ruta`.dbf, `ruta`.mdx and `ruta`.dbt, skipping the ones that do not exist. The archive
 /// attribute is set on the bare path first, as the suite always did (a no-op where files have none).
+/// Only temporary tables are deleted: `ruta` must lie in the temporary folder itself and be named as
+/// `FicheroTemporalNod` names files (with or without ".tmp"); anything else is refused (logged).
 void EliminaTablaTemporal(const QString& ruta);
 
 /// True when the file exists and another process (another workstation of the office) holds it: an

@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>

@@ -52,11 +52,6 @@ void ServicioMensajesQt::muestraEspera(const QString& texto) {
         m_textoEspera->setObjectName(QStringLiteral("LEspera"));
         m_textoEspera->setAlignment(Qt::AlignCenter);
         m_textoEspera->setWordWrap(true);
-        // A long text wraps instead of widening the window past the screen.
-        const QScreen* pantalla = m_espera->screen();
-        const int ancho = pantalla ? pantalla->availableGeometry().width() / 2 : 480;
-        m_textoEspera->setMinimumWidth(qMin(320, ancho));
-        m_textoEspera->setMaximumWidth(qMax(320, qMin(560, ancho)));
         auto* capa = new QVBoxLayout(m_espera);
         capa->addWidget(m_textoEspera);
         capa->setSizeConstraint(QLayout::SetFixedSize);
@@ -65,15 +60,46 @@ void ServicioMensajesQt::muestraEspera(const QString& texto) {
         o.escapeCierra = false;
         AplicaConvencionesDialogo(m_espera, o);
     }
-    PonTextoPlano(m_textoEspera, texto);
+    ponTextoEspera(texto);
     m_espera->show();
+    colocaEspera();
     m_espera->raise();
     m_espera->repaint();
 }
 
+void ServicioMensajesQt::ponTextoEspera(const QString& texto) {
+    PonTextoPlano(m_textoEspera, texto);
+    // As wide as the text's longest line, within half the screen: a long text wraps instead of widening
+    // the window past the screen.
+    const QScreen* pantalla = m_espera->screen();
+    const int maximo = qMax(320, pantalla ? pantalla->availableGeometry().width() / 2 : 560);
+    int ancho = 0;
+    const QFontMetrics fm(m_textoEspera->font());
+    for (const QString& linea : m_textoEspera->text().split(u'\n'))
+        ancho = qMax(ancho, fm.horizontalAdvance(linea.left(400)) + 8);
+    m_textoEspera->setFixedWidth(qBound(320, ancho, maximo));
+    m_espera->adjustSize();
+}
+
+// Beside the window that waits, not over it: just below it (above when there is no room below), so that
+// its controls and its cancel button stay in sight; inside the screen in any case.
+void ServicioMensajesQt::colocaEspera() {
+    QWidget* duena = QApplication::activeWindow();
+    if (!duena || duena == m_espera)
+        duena = m_espera->parentWidget() ? m_espera->parentWidget()->window() : nullptr;
+    if (!duena || !duena->isVisible()) return;
+    const QRect marco = duena->frameGeometry();
+    const QSize tamano = m_espera->frameGeometry().size();
+    const QRect zona = duena->screen()->availableGeometry();
+    QPoint sitio(marco.center().x() - tamano.width() / 2, marco.bottom() + 8);
+    if (sitio.y() + tamano.height() > zona.bottom()) sitio.setY(marco.top() - 8 - tamano.height());
+    m_espera->move(sitio);
+    AjustaALaPantalla(m_espera);
+}
+
 void ServicioMensajesQt::cambiaEspera(const QString& texto) {
     if (!m_espera) return muestraEspera(texto);
-    PonTextoPlano(m_textoEspera, texto);
+    ponTextoEspera(texto);
     m_espera->repaint();
 }
 

@@ -26,8 +26,9 @@ public:
     /// 2 no.
     int pregunta(const QString& kind, const QString& texto, const QString& titulo, bool focoEnSi) override;
     /// A small window without buttons (`FEspera`, its text in `LEspera`), shown at once and kept above the
-    /// program until closed. Its text is plain and wraps within half the screen's width; Escape and the
-    /// close button do not close it.
+    /// program until closed, just below the active window (above it when there is no room below) so that
+    /// the window's controls stay in sight. Its text is plain and wraps within half the screen's width;
+    /// Escape and the close button do not close it.
     void muestraEspera(const QString& texto) override;
     void cambiaEspera(const QString& texto) override;
     void cierraEspera() override;
@@ -40,6 +41,9 @@ public:
     QDialog* ventanaEspera() const { return m_espera; }
 
 private:
+    void ponTextoEspera(const QString& texto);
+    void colocaEspera();
+
     QPointer<QDialog> m_espera;
     QPointer<QLabel> m_textoEspera;
 };

@@ -1,6 +1,7 @@
 // Feeds arbitrary text to the routines that parse or reshape what users type: none may crash, hang or
 // touch memory it does not own. The first byte chooses the routine; the rest is UTF-8 text (invalid
 // sequences become replacement characters, as text pasted from anywhere would).
+#include "fuzz/semillas.h"
 #include "text/fechas.h"
 #include "text/formatos.h"
 #include "text/lecturanumeros.h"
@@ -13,8 +14,29 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <string>
+#include <utility>
 
 using namespace nod;
+using namespace std::string_literals;
+
+// Seeds: dates and numbers in words, letter-spaced text, grouped digits.
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    const auto carpeta = fuzz::CarpetaCorpus(*argc, *argv);
+    if (!carpeta) return 0;
+    const std::pair<const char*, std::string> semillas[] = {
+        {"fecha_es", "\001quince de marzo del a\303\261o dos mil diez."s},
+        {"fecha_ca", "\002quinze d'abril de l'any  dos mil deu"s},
+        {"numero_es", "\000mil novecientos noventa y nueve"s},
+        {"numero_ca", "\200nou cents noranta i nou"s},
+        {"puntos", "\003-1234567.89"s},
+        {"espaciado", "\004E S C R I T U R A"s},
+        {"capital", "\005MARIA-JOSE DE LA FUENTE"s},
+    };
+    for (const auto& [nombre, bytes] : semillas)
+        fuzz::EscribeSemilla(*carpeta, nombre, bytes);
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, size_t largo) {
     if (largo == 0) return 0;

@@ -9,7 +9,7 @@ namespace nod {
 namespace {
 
 struct Colegio {
-    const char* region;
+    const char16_t* region;
     const char* fragmento;
     const char* codigo;
 };
@@ -18,23 +18,23 @@ struct Colegio {
 // (Asturias) before "LEON", so "CASTILLA-LEON" gives Asturias' code: that is how the suite has always
 // answered such a name, and it is kept.
 constexpr Colegio kColegios[] = {
-    {"ANDALUCIA", "AND", "4150142"},
-    {"ARAGON", "ARA", "5050195"},
-    {"ASTURIAS", "AST", "3350178"},
-    {"BALEARES", "BAL", "0750152"},
-    {"CANARIAS", "ARIA", "3550180"},
-    {"CANTABRIA", "CANT", "3950144"},
-    {"CASTILLA LA MANCHA", "MAN", "0250146"},
-    {"CASTILLA Y LEON", "LEON", "4750148"},
-    {"CATALUÑA", "CAT", "0850153"},
-    {"EXTREMADURA", "EXT", "1050155"},
-    {"GALICIA", "GAL", "1550160"},
-    {"MADRID", "MAD", "2850172"},
-    {"MURCIA", "MUR", "3050177"},
-    {"NAVARRA", "NAV", "3150177"},
-    {"LA RIOJA", "RIO", "2650177"},
-    {"PAIS VASCO", "VAS", "4850194"},
-    {"VALENCIA", "VAL", "4650191"},
+    {u"ANDALUCIA", "AND", "4150142"},
+    {u"ARAGON", "ARA", "5050195"},
+    {u"ASTURIAS", "AST", "3350178"},
+    {u"BALEARES", "BAL", "0750152"},
+    {u"CANARIAS", "ARIA", "3550180"},
+    {u"CANTABRIA", "CANT", "3950144"},
+    {u"CASTILLA LA MANCHA", "MAN", "0250146"},
+    {u"CASTILLA Y LEON", "LEON", "4750148"},
+    {u"CATALUÑA", "CAT", "0850153"},
+    {u"EXTREMADURA", "EXT", "1050155"},
+    {u"GALICIA", "GAL", "1550160"},
+    {u"MADRID", "MAD", "2850172"},
+    {u"MURCIA", "MUR", "3050177"},
+    {u"NAVARRA", "NAV", "3150177"},
+    {u"LA RIOJA", "RIO", "2650177"},
+    {u"PAIS VASCO", "VAS", "4850194"},
+    {u"VALENCIA", "VAL", "4650191"},
 };
 
 QString normaliza(const QString& s) {
@@ -55,7 +55,7 @@ QString ObtenCodColegioPorNombre(const QString& nombre, const QString& alternati
     if (r.isEmpty()) r = normaliza(Config.GetColeg2());
     if (r.isEmpty()) return {};
     for (const Colegio& c : kColegios)
-        if (r == QString::fromUtf8(c.region)) return QString::fromLatin1(c.codigo);
+        if (r == QStringView(c.region)) return QString::fromLatin1(c.codigo);
     for (const Colegio& c : kColegios)
         if (r.contains(QLatin1String(c.fragmento))) return QString::fromLatin1(c.codigo);
     return {};

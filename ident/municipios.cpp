@@ -6,6 +6,8 @@
 #include "tables/tablas.h"
 #include "text/recorte.h"
 
+#include <algorithm>
+
 namespace nod {
 
 namespace {
@@ -51,6 +53,14 @@ QString BusquedaMunicipio(const QString& provincia, const QString& municipio) {
 }
 
 QString BusquedaCodIne(bool incluyeMenores, const QString& nombre, const QString& provincia) {
+    // The province goes into the text of the filter as it is given, so it must be a code and nothing
+    // more: any other text ("99 OR COD_PROV=28") is no province and finds nothing.
+    if (!std::all_of(provincia.begin(), provincia.end(),
+                     [](QChar c) { return EsUnNumero(c) || c == u' '; })) {
+        qCWarning(lcIdent).noquote() << QStringLiteral("BusquedaCodIne: la provincia \"%1\" no es un código")
+                                            .arg(TextoVisible(provincia, 40));
+        return {};
+    }
     QString filtro;
     if (!incluyeMenores) filtro = QStringLiteral("ENT_MENOR=False");
     if (!provincia.isEmpty()) {

@@ -14,6 +14,7 @@ QString BusquedaMunicipio(const QString& provincia, const QString& municipio);
 
 /// INE code of the place named `nombre` (trimmed, exact), among municipalities only unless `incluyeMenores`,
 /// and within province `provincia` when one is given: BusquedaCodIne(false, "MADRID", "28") == "28079".
+/// A province holds digits and blanks only; any other text finds nothing (logged).
 QString BusquedaCodIne(bool incluyeMenores, const QString& nombre, const QString& provincia);
 
 /// Name of the municipality of INE code `ine` (padded to 5 digits), or of its minor entity `nombreEntidad`

@@ -7,11 +7,10 @@ namespace nod {
 
 bool TBBusca(TTabla& tb, const TClaves& claves, bool exacta) {
     auto& d = *tb.d;
-    const ClavesPreparadas preparadas = d.prepara(claves);
-    const ClavesPreparadas prefijo = d.comoPrefijo(preparadas);
-    if (!prefijo.empty()) {
-        for (qsizetype p = d.cota(d.lo, d.hi, prefijo, !exacta, false);
-             p < d.hi && d.compara(p, prefijo, !exacta) == 0; ++p)
+    ClavesPreparadas preparadas = d.prepara(claves);
+    if (d.ordenaComoPrefijo(preparadas)) {
+        for (qsizetype p = d.cota(d.lo, d.hi, preparadas, !exacta, false);
+             p < d.hi && d.compara(p, preparadas, !exacta) == 0; ++p)
             if (d.visible(p)) {
                 d.pos = p;
                 d.eof = d.bof = false;

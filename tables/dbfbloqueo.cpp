@@ -4,6 +4,7 @@
 #include "companion/errores.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QThread>
 #include <cerrno>
 #include <cstring>
@@ -57,15 +58,20 @@ void BloqueoFichero::suelta() {
 }
 
 BloqueoFichero BloqueoFichero::Toma(const QString& ruta, bool escritura, int esperaMs) {
-    const QByteArray nativa = ruta.toLocal8Bit();
+    const QByteArray nativa = QFile::encodeName(ruta);
     QElapsedTimer reloj;
     reloj.start();
     for (;;) {
         BloqueoFichero b;
-        b.m_fd = ::open(nativa.constData(), (escritura ? O_RDWR : O_RDONLY) | O_CLOEXEC);
+        // O_NONBLOCK: opening a FIFO that stands where a table should be must not wait for a writer to
+        // come; it is then refused below, as is anything else that is not a plain file.
+        b.m_fd = ::open(nativa.constData(), (escritura ? O_RDWR : O_RDONLY) | O_CLOEXEC | O_NONBLOCK);
         if (b.m_fd < 0)
             throw ErrorTabla(QStringLiteral("No se puede abrir la tabla %1: %2")
                                  .arg(ruta, QString::fromLocal8Bit(std::strerror(errno))));
+        struct stat st {};
+        if (::fstat(b.m_fd, &st) != 0 || !S_ISREG(st.st_mode))
+            throw ErrorTabla(QStringLiteral("No se puede leer la tabla %1: no es un fichero").arg(ruta));
         while (!intentaBloqueo(b.m_fd, escritura ? F_WRLCK : F_RDLCK)) {
             if (errno != EAGAIN && errno != EACCES && errno != EINTR)
                 throw ErrorTabla(QStringLiteral("No se puede bloquear la tabla %1: %2")

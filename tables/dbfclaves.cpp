@@ -25,10 +25,13 @@ ValorPreparado numeroDe(const QVariant& valor, char tipo) {
         v.numero = valor.toBool() ? 1 : 0;
         break;
     case QMetaType::QString: {
-        const QString t = valor.toString().trimmed().toUpper();
-        if (tipo == 'L' && (t == QLatin1String("T") || t == QLatin1String("TRUE")))
+        const QString t = valor.toString().trimmed();
+        const auto es = [&t](const char* palabra) {
+            return t.compare(QLatin1String(palabra), Qt::CaseInsensitive) == 0;
+        };
+        if (tipo == 'L' && (es("T") || es("TRUE")))
             v.numero = 1;
-        else if (tipo == 'L' && (t == QLatin1String("F") || t == QLatin1String("FALSE")))
+        else if (tipo == 'L' && (es("F") || es("FALSE")))
             v.numero = 0;
         else if (!LeeNumeroDbf(t.toLatin1(), v.numero))
             return v; // a text that is no number matches no row
@@ -47,41 +50,25 @@ ValorPreparado numeroDe(const QVariant& valor, char tipo) {
 
 } // namespace
 
-int ComparaBytesDbf(QByteArrayView a, QByteArrayView b, bool parcial) {
-    const qsizetype n = std::min(a.size(), b.size());
-    const int c = n ? std::memcmp(a.data(), b.data(), size_t(n)) : 0;
-    if (c != 0) return c;
-    if (parcial && b.size() <= a.size()) return 0;
-    return a.size() < b.size() ? -1 : a.size() > b.size() ? 1 : 0;
-}
-
 ValorPreparado PreparaValor(const DatosDbf& datos, int campo, const QVariant& valor) {
     const char tipo = datos.campos()[campo].tipo;
     if (CampoNumerico(tipo)) return numeroDe(valor, tipo);
     ValorPreparado v;
-    QString texto =
-        valor.typeId() == QMetaType::Double ? QString::number(valor.toDouble(), 'f', -1) : valor.toString();
-    while (!texto.isEmpty() && texto.back() == QLatin1Char(' '))
+    // A text is read in place (searches pass texts far more often than anything else).
+    const QString convertido = valor.typeId() == QMetaType::QString ? QString()
+                               : valor.typeId() == QMetaType::Double
+                                   ? QString::number(valor.toDouble(), 'f', -1)
+                                   : valor.toString();
+    QStringView texto = valor.typeId() == QMetaType::QString
+                            ? QStringView(*static_cast<const QString*>(valor.constData()))
+                            : convertido;
+    while (!texto.isEmpty() && texto.back() == u' ')
         texto.chop(1);
-    if (const auto bytes = Codifica(texto, datos.paginaCodigos())) {
-        v.texto = *bytes;
+    if (auto bytes = Codifica(texto, datos.paginaCodigos())) {
+        v.texto = std::move(*bytes);
         v.clase = ValorPreparado::Clase::Texto;
     }
     return v;
-}
-
-int ComparaCampo(const DatosDbf& datos, int fila, int campo, const ValorPreparado& valor, bool parcial) {
-    switch (valor.clase) {
-    case ValorPreparado::Clase::Numero: {
-        const double x = datos.numero(fila, campo);
-        return x < valor.numero ? -1 : x > valor.numero ? 1 : 0;
-    }
-    case ValorPreparado::Clase::Texto:
-        return ComparaBytesDbf(datos.crudo(fila, campo), valor.texto, parcial);
-    case ValorPreparado::Clase::Imposible:
-        break;
-    }
-    return -1;
 }
 
 const OrdenIndice& DatosDbf::orden(const std::vector<int>& campos) const {

@@ -4,14 +4,18 @@
 #include "tables/dbfbloqueo.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QThread>
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstring>
+#include <ctime>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,12 +33,6 @@ quint32 le32(const char* p) {
 
 bool esBlanco(char c) {
     return c == ' ' || c == '\0';
-}
-
-QByteArrayView sinBlancosFinales(const char* p, int n) {
-    while (n > 0 && esBlanco(p[n - 1]))
-        --n;
-    return QByteArrayView(p, n);
 }
 
 // dBase language driver ids (header byte 29) of the pages the office meets.
@@ -81,7 +79,8 @@ struct Cache {
     std::mutex mutex;
     struct Entrada {
         IdentidadFichero identidad;
-        std::shared_ptr<const DatosDbf> datos;
+        std::shared_ptr<const DatosDbf> datos; // null: the file read as damaged, for `error`
+        QString error;
     };
     QHash<QString, Entrada> entradas;
 };
@@ -95,25 +94,70 @@ constexpr qsizetype kMaxTablasEnCache = 64;
 
 IdentidadFichero identidadDe(const struct stat& st) {
     return {quint64(st.st_dev), quint64(st.st_ino), qint64(st.st_size),
-            qint64(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec};
+            qint64(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec,
+            qint64(st.st_ctim.tv_sec) * 1000000000 + st.st_ctim.tv_nsec};
 }
 
-QByteArray leeTodo(int fd, qint64 tamano, const QString& ruta) {
-    QByteArray b(tamano, Qt::Uninitialized);
+// A file changed within the last few ticks of the clock that stamps it may change again without its
+// times moving (file systems stamp with a coarse clock): its image is not kept for the next open, which
+// reads the file again. The change time is the one no tool can set back (or ahead).
+bool cambioReciente(const struct stat& st) {
+    constexpr qint64 kMargenNs = 50'000'000;
+    timespec ahora{};
+    clock_gettime(CLOCK_REALTIME, &ahora);
+    return qint64(st.st_ctim.tv_sec - ahora.tv_sec) * 1000000000 + (st.st_ctim.tv_nsec - ahora.tv_nsec) >
+           -kMargenNs;
+}
+
+// Reads up to `n` bytes at `desde`; fewer only at the end of the file.
+qint64 leeEn(int fd, char* destino, qint64 n, qint64 desde, const QString& ruta) {
     qint64 leidos = 0;
-    while (leidos < tamano) {
-        const ssize_t n = ::pread(fd, b.data() + leidos, size_t(tamano - leidos), leidos);
-        if (n < 0) throw ErrorTabla(QStringLiteral("Error de lectura en la tabla %1").arg(ruta));
-        if (n == 0) break;
-        leidos += n;
+    while (leidos < n) {
+        const ssize_t r = ::pread(fd, destino + leidos, size_t(n - leidos), desde + leidos);
+        if (r < 0 && errno == EINTR) continue;
+        if (r < 0)
+            throw ErrorTabla(QStringLiteral("Error de lectura en la tabla %1: %2")
+                                 .arg(ruta, QString::fromLocal8Bit(std::strerror(errno))));
+        if (r == 0) break;
+        leidos += r;
     }
-    b.truncate(leidos);
+    return leidos;
+}
+
+// The bytes of a table that its header accounts for: header, records and the end mark. When the size of
+// the file says the header lies, only the header is read (it is enough to say what is wrong), however
+// large the file.
+QByteArray leeTabla(int fd, qint64 tamano, const QString& ruta) {
+    char h[32];
+    qint64 aLeer = leeEn(fd, h, qMin<qint64>(tamano, 32), 0, ruta);
+    if (aLeer == 32) {
+        const qint64 cabecera = le16(h + 8);
+        const qint64 declarado = cabecera + qint64(le32(h + 4)) * le16(h + 10);
+        aLeer = tamano == declarado || tamano == declarado + 1 ? tamano
+                                                               : qMin(tamano, qMax<qint64>(cabecera, 33));
+    }
+    QByteArray b(aLeer, Qt::Uninitialized);
+    b.truncate(leeEn(fd, b.data(), aLeer, 0, ruta));
     return b;
 }
 
+// A file beside a table (memo, code page) read whole; empty when it is not a plain file: a FIFO in its
+// place is not waited for.
 QByteArray leeOpcional(const QString& ruta) {
-    QFile f(ruta);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    const int fd = ::open(QFile::encodeName(ruta).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0) return {};
+    QByteArray b;
+    struct stat st {};
+    if (::fstat(fd, &st) == 0 && S_ISREG(st.st_mode)) {
+        try {
+            b.resize(st.st_size);
+            b.truncate(leeEn(fd, b.data(), st.st_size, 0, ruta));
+        } catch (const ErrorTabla&) {
+            b.clear();
+        }
+    }
+    ::close(fd);
+    return b;
 }
 
 // The file beside `ruta` with another extension, matched without regard to case (".dbt", ".cpg").
@@ -160,12 +204,12 @@ bool LeeNumeroDbf(QByteArrayView texto, double& valor) {
 }
 
 std::shared_ptr<DatosDbf> DatosDbf::DesdeBytes(const QString& ruta, QByteArray bytes, QByteArray memo,
-                                               const QByteArray& cpg) {
+                                               const QByteArray& cpg, qint64 tamanoFichero) {
     auto d = std::make_shared<DatosDbf>();
     d->m_ruta = ruta;
     d->m_bytes = std::move(bytes);
     d->m_memo = std::move(memo);
-    d->analizaCabecera(cpg, d->m_bytes.size());
+    d->analizaCabecera(cpg, tamanoFichero < 0 ? d->m_bytes.size() : tamanoFichero, false);
     return d;
 }
 
@@ -173,10 +217,10 @@ void DatosDbf::SoloCabecera(const QString& ruta, const QByteArray& cabecera, qin
     DatosDbf d;
     d.m_ruta = ruta;
     d.m_bytes = cabecera;
-    d.analizaCabecera({}, tamanoFichero);
+    d.analizaCabecera({}, tamanoFichero, true);
 }
 
-void DatosDbf::analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero) {
+void DatosDbf::analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero, bool soloCabecera) {
     const auto error = [this](const QString& motivo) {
         return ErrorTabla(QStringLiteral("La tabla %1 está dañada: %2").arg(m_ruta, motivo));
     };
@@ -193,8 +237,13 @@ void DatosDbf::analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero) {
     if (m_longitudCabecera < 33 || m_longitudCabecera > tamano || m_longitudCabecera > m_bytes.size())
         throw error(QStringLiteral("longitud de cabecera %1 imposible").arg(m_longitudCabecera));
 
+    // Field descriptors of 32 bytes up to the terminator 0x0D, which must end the header: a header
+    // length that does not end on it would shift every field. dBase III+ may write one NUL after it.
     int desplazamiento = 1; // byte 0 of a record is its deletion mark
-    for (int pos = 32; pos + 32 <= m_longitudCabecera && h[pos] != '\r'; pos += 32) {
+    int pos = 32;
+    for (; pos < m_longitudCabecera && h[pos] != '\r'; pos += 32) {
+        if (pos + 32 > m_longitudCabecera)
+            throw error(QStringLiteral("no hay terminador 0x0D tras los campos de la cabecera"));
         const char* c = h + pos;
         TCampoDbf campo;
         campo.nombre = QString::fromLatin1(c, int(qstrnlen(c, 11))).toUpper();
@@ -208,21 +257,44 @@ void DatosDbf::analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero) {
                             .arg(campo.longitud));
         m_campos.append(campo);
         m_desplazamientos.push_back(desplazamiento);
+        m_longitudes.push_back(campo.longitud);
         desplazamiento += campo.longitud;
     }
+    if (pos >= m_longitudCabecera)
+        throw error(QStringLiteral("no hay terminador 0x0D tras los campos de la cabecera"));
+    if (m_longitudCabecera != pos + 1 && !(m_longitudCabecera == pos + 2 && h[pos + 1] == '\0'))
+        throw error(QStringLiteral("el terminador 0x0D de los campos está en el byte %1 y la cabecera dice "
+                                   "tener %2")
+                        .arg(pos + 1)
+                        .arg(m_longitudCabecera));
     if (m_campos.isEmpty()) throw error(QStringLiteral("no tiene campos"));
     if (desplazamiento != m_longitudRegistro)
         throw error(QStringLiteral("la cabecera dice registros de %1 bytes y sus campos suman %2")
                         .arg(m_longitudRegistro)
                         .arg(desplazamiento));
+    // The file holds exactly the header and the records, and may end with the end mark 0x1A: a count
+    // lower than the records held would hide some, and a longer file is no table either.
     const qint64 necesario = qint64(m_longitudCabecera) + qint64(registros) * m_longitudRegistro;
-    if (necesario > tamano)
-        throw error(QStringLiteral("la cabecera dice %1 registros y el fichero sólo tiene %2")
+    if (tamano != necesario && tamano != necesario + 1)
+        throw error(QStringLiteral("la cabecera dice %1 registros de %2 bytes tras %3 de cabecera (%4 bytes) "
+                                   "y el fichero tiene %5 bytes")
                         .arg(registros)
-                        .arg((tamano - m_longitudCabecera) / m_longitudRegistro));
+                        .arg(m_longitudRegistro)
+                        .arg(m_longitudCabecera)
+                        .arg(necesario)
+                        .arg(tamano));
     if (registros > quint32(std::numeric_limits<int>::max()))
         throw error(QStringLiteral("demasiados registros"));
     m_numRegistros = int(registros);
+    if (!soloCabecera) {
+        if (m_bytes.size() < tamano)
+            throw error(QStringLiteral("el fichero ha cambiado mientras se leía (%1 de %2 bytes)")
+                            .arg(m_bytes.size())
+                            .arg(tamano));
+        if (tamano == necesario + 1 && m_bytes[necesario] != '\x1a')
+            throw error(QStringLiteral("el último byte es 0x%1 y no la marca de fin 0x1A")
+                            .arg(quint8(m_bytes[necesario]), 2, 16, QLatin1Char('0')));
+    }
 
     m_cp = paginaDeCpg(cpg).value_or(paginaDeLdid(quint8(h[29])));
     if (m_version == 0x8B && m_memo.size() >= 22 && le16(m_memo.constData() + 20) >= 32)
@@ -230,44 +302,78 @@ void DatosDbf::analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero) {
 }
 
 std::shared_ptr<const DatosDbf> DatosDbf::Carga(const QString& ruta, const BloqueoFichero* bloqueoPropio) {
-    if (auto datos = cargaSiExiste(ruta, bloqueoPropio)) return datos;
+    if (auto datos = cargaSiExiste(ruta, QFile::encodeName(ruta), bloqueoPropio)) return datos;
     throw ErrorTabla(QStringLiteral("No existe la tabla %1").arg(ruta));
 }
 
-std::shared_ptr<const DatosDbf> DatosDbf::CargaSiExiste(const QString& ruta) {
-    return cargaSiExiste(ruta, nullptr);
+std::shared_ptr<const DatosDbf> DatosDbf::CargaSiExiste(const QString& ruta, const QByteArray& nativa) {
+    return cargaSiExiste(ruta, nativa, nullptr);
 }
 
-std::shared_ptr<const DatosDbf> DatosDbf::cargaSiExiste(const QString& ruta,
+std::shared_ptr<const DatosDbf> DatosDbf::cargaSiExiste(const QString& ruta, const QByteArray& nativa,
                                                         const BloqueoFichero* bloqueoPropio) {
     struct stat st {};
-    const QByteArray nativa = QFile::encodeName(ruta);
     if (::stat(nativa.constData(), &st) != 0) {
         if (errno == ENOENT || errno == ENOTDIR) return nullptr;
         throw ErrorTabla(QStringLiteral("No se puede leer la tabla %1: %2")
                              .arg(ruta, QString::fromLocal8Bit(std::strerror(errno))));
     }
-    Cache& c = cache();
     {
+        Cache& c = cache();
         std::lock_guard lock(c.mutex);
         const auto it = c.entradas.constFind(ruta);
-        if (it != c.entradas.cend() && it->identidad == identidadDe(st)) return it->datos;
+        if (it != c.entradas.cend() && it->identidad == identidadDe(st)) {
+            if (!it->datos) throw ErrorTabla(it->error);
+            return it->datos;
+        }
     }
-    // Read under a shared lock, so that no write is half done while the bytes are taken.
-    BloqueoFichero bloqueo;
-    if (!bloqueoPropio || !bloqueoPropio->activo())
-        bloqueo = BloqueoFichero::Toma(ruta, false, EsperaBloqueoConfigurada());
-    const int fd = bloqueo.activo() ? bloqueo.descriptor() : bloqueoPropio->descriptor();
-    if (::fstat(fd, &st) != 0) throw ErrorTabla(QStringLiteral("No se puede leer la tabla %1").arg(ruta));
-    QByteArray bytes = leeTodo(fd, st.st_size, ruta);
-    const QString rutaMemo = compañero(ruta, ".dbt");
-    const QString rutaCpg = compañero(ruta, ".cpg");
-    auto datos = DesdeBytes(ruta, std::move(bytes), rutaMemo.isEmpty() ? QByteArray() : leeOpcional(rutaMemo),
-                            rutaCpg.isEmpty() ? QByteArray() : leeOpcional(rutaCpg));
-    std::lock_guard lock(c.mutex);
-    if (c.entradas.size() >= kMaxTablasEnCache) c.entradas.erase(c.entradas.begin());
-    c.entradas.insert(ruta, {identidadDe(st), datos});
-    return datos;
+    return lee(ruta, bloqueoPropio);
+}
+
+std::shared_ptr<const DatosDbf> DatosDbf::lee(const QString& ruta, const BloqueoFichero* bloqueoPropio) {
+    // The bytes are read under a shared lock, so that no write of the suite is half done meanwhile. A
+    // program that writes without locking (truncate, then write, as cp does) may still be caught half
+    // way: a table that reads as damaged is read again until the lock wait runs out, and only then
+    // reported, and remembered as damaged while the file stays as it is.
+    const int espera = EsperaBloqueoConfigurada();
+    QElapsedTimer reloj;
+    reloj.start();
+    for (int pausaMs = 1;; pausaMs = qMin(2 * pausaMs, 50)) {
+        BloqueoFichero bloqueo;
+        if (!bloqueoPropio || !bloqueoPropio->activo())
+            bloqueo = BloqueoFichero::Toma(ruta, false, int(qMax<qint64>(0, espera - reloj.elapsed())));
+        const int fd = bloqueo.activo() ? bloqueo.descriptor() : bloqueoPropio->descriptor();
+        struct stat st {};
+        if (::fstat(fd, &st) != 0) throw ErrorTabla(QStringLiteral("No se puede leer la tabla %1").arg(ruta));
+        std::shared_ptr<const DatosDbf> datos;
+        QString error;
+        try {
+            QByteArray bytes = leeTabla(fd, st.st_size, ruta);
+            const QString rutaMemo = compañero(ruta, ".dbt");
+            const QString rutaCpg = compañero(ruta, ".cpg");
+            datos =
+                DesdeBytes(ruta, std::move(bytes), rutaMemo.isEmpty() ? QByteArray() : leeOpcional(rutaMemo),
+                           rutaCpg.isEmpty() ? QByteArray() : leeOpcional(rutaCpg), st.st_size);
+        } catch (const ErrorTabla& e) {
+            if (reloj.elapsed() + pausaMs <= espera) {
+                bloqueo.suelta();
+                QThread::msleep(ulong(pausaMs));
+                continue;
+            }
+            error = e.mensaje();
+        }
+        Cache& c = cache();
+        std::lock_guard lock(c.mutex);
+        if (cambioReciente(st)) {
+            c.entradas.remove(ruta);
+        } else {
+            if (c.entradas.size() >= kMaxTablasEnCache && !c.entradas.contains(ruta))
+                c.entradas.erase(c.entradas.begin());
+            c.entradas.insert(ruta, {identidadDe(st), datos, error});
+        }
+        if (!datos) throw ErrorTabla(error);
+        return datos;
+    }
 }
 
 void DatosDbf::Olvida(const QString& ruta) {
@@ -281,6 +387,9 @@ void DatosDbf::OlvidaTodo() {
 }
 
 int DatosDbf::indiceCampo(const QString& nombre) const {
+    // Routines write field names as the header has them (upper case): an exact match is tried first.
+    for (int i = 0; i < m_campos.size(); ++i)
+        if (m_campos[i].nombre == nombre) return i;
     for (int i = 0; i < m_campos.size(); ++i)
         if (m_campos[i].nombre.compare(nombre, Qt::CaseInsensitive) == 0) return i;
     return -1;
@@ -292,10 +401,6 @@ void DatosDbf::falla(int fila, int campo, const QString& motivo) const {
                          .arg(fila + 1)
                          .arg(campo >= 0 && campo < m_campos.size() ? m_campos[campo].nombre : QString())
                          .arg(motivo));
-}
-
-QByteArrayView DatosDbf::crudo(int fila, int campo) const {
-    return sinBlancosFinales(registro(fila) + m_desplazamientos[size_t(campo)], m_campos[campo].longitud);
 }
 
 bool DatosDbf::blanco(int fila, int campo) const {

@@ -2,7 +2,8 @@
 // The loaded image of one dBase file: its header checked against the file's real size, its fields with
 // their offsets inside a record, and every record's bytes, read in one go. Images are immutable and
 // shared: `DatosDbf::Carga` hands out the same image to every handle while the file keeps its identity
-// (device, inode), size and modification time, and the index orders built over an image live with it.
+// (device, inode), size, modification time and change time, and the index orders built over an image
+// live with it.
 //
 // Field values are decoded straight from the record bytes at their offsets; a numeric, date or logical
 // field whose text does not parse raises ErrorTabla naming the file, the record and the field.
@@ -27,6 +28,7 @@ struct IdentidadFichero {
     quint64 inodo = 0;
     qint64 tamano = 0;
     qint64 modificacionNs = 0;
+    qint64 cambioNs = 0; // the change time, which no tool can set back as `touch -r` does the other
     bool operator==(const IdentidadFichero&) const = default;
 };
 
@@ -45,14 +47,17 @@ class DatosDbf {
 public:
     /// The image of the file at `ruta`, from the cache when the file is unchanged (one stat() then).
     /// Throws ErrorTabla. `bloqueoPropio`: a write lock this handle already holds on the file; the bytes are
-    /// read through it (another lock of this process on the same file would wait for it).
+    /// read through it (another lock of this process on the same file would wait for it). A file that
+    /// reads as damaged is read again within the lock wait (`EsperaBloqueoTablas`) before it is reported.
     static std::shared_ptr<const DatosDbf> Carga(const QString& ruta,
                                                  const BloqueoFichero* bloqueoPropio = nullptr);
-    /// The same, but nullptr when there is no file at `ruta` (other errors still throw).
-    static std::shared_ptr<const DatosDbf> CargaSiExiste(const QString& ruta);
-    /// Parses an image from the file's bytes (exposed for tests of damaged files). Throws ErrorTabla.
+    /// The same, but nullptr when there is no file at `ruta` (other errors still throw); `nativa` is the
+    /// path as the file system spells it (QFile::encodeName).
+    static std::shared_ptr<const DatosDbf> CargaSiExiste(const QString& ruta, const QByteArray& nativa);
+    /// Parses an image from the file's bytes (exposed for tests of damaged files). `tamanoFichero`: the
+    /// size of the file they come from, when they are not all of it. Throws ErrorTabla.
     static std::shared_ptr<DatosDbf> DesdeBytes(const QString& ruta, QByteArray bytes, QByteArray memo = {},
-                                                const QByteArray& cpg = {});
+                                                const QByteArray& cpg = {}, qint64 tamanoFichero = -1);
     /// Checks a header alone against the file's size (before a write). Throws ErrorTabla.
     static void SoloCabecera(const QString& ruta, const QByteArray& cabecera, qint64 tamanoFichero);
     /// Drops the cached image of one file (after this process wrote it) or of all files.
@@ -81,8 +86,15 @@ public:
     bool logico(int fila, int campo) const;
     TDateTime fecha(int fila, int campo) const;
     bool blanco(int fila, int campo) const;
-    /// A field's raw bytes without trailing blanks.
-    QByteArrayView crudo(int fila, int campo) const;
+    /// A field's raw bytes without trailing blanks (blank or NUL). Inline: index searches call it for
+    /// every key they compare.
+    QByteArrayView crudo(int fila, int campo) const {
+        const char* p = registro(fila) + m_desplazamientos[size_t(campo)];
+        int n = m_longitudes[size_t(campo)];
+        while (n > 0 && (p[n - 1] == ' ' || p[n - 1] == '\0'))
+            --n;
+        return QByteArrayView(p, n);
+    }
 
     /// The order of a tag given by its key fields; built on first use and kept with the image.
     const OrdenIndice& orden(const std::vector<int>& campos) const;
@@ -98,9 +110,10 @@ public:
     [[noreturn]] void falla(int fila, int campo, const QString& motivo) const;
 
 private:
-    static std::shared_ptr<const DatosDbf> cargaSiExiste(const QString& ruta,
+    static std::shared_ptr<const DatosDbf> cargaSiExiste(const QString& ruta, const QByteArray& nativa,
                                                          const BloqueoFichero* bloqueoPropio);
-    void analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero);
+    static std::shared_ptr<const DatosDbf> lee(const QString& ruta, const BloqueoFichero* bloqueoPropio);
+    void analizaCabecera(const QByteArray& cpg, qint64 tamanoFichero, bool soloCabecera);
     QString memo(int fila, int campo) const;
 
     QString m_ruta;
@@ -110,6 +123,7 @@ private:
     CodePage m_cp = CodePage::Windows1252;
     QList<TCampoDbf> m_campos;
     std::vector<int> m_desplazamientos;
+    std::vector<int> m_longitudes; // the fields' widths, beside their offsets
     int m_longitudRegistro = 0;
     int m_longitudCabecera = 0;
     int m_numRegistros = 0;

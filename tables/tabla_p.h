@@ -51,6 +51,7 @@ struct TTabla::Impl {
 
     ClavesPreparadas prepara(const TClaves& claves) const {
         ClavesPreparadas r;
+        r.reserve(size_t(claves.size()));
         for (const auto& [nombre, valor] : claves) {
             const int c = campo(nombre);
             r.emplace_back(c, PreparaValor(*datos, c, valor));
@@ -77,17 +78,19 @@ struct TTabla::Impl {
         return 0;
     }
 
-    // The keys reordered as the leading fields of the tag, or empty when they are not those fields.
-    ClavesPreparadas comoPrefijo(const ClavesPreparadas& claves) const {
-        if (claves.empty() || claves.size() > orden->campos.size()) return {};
-        ClavesPreparadas r;
-        for (size_t i = 0; i < claves.size(); ++i) {
-            const auto it = std::find_if(claves.begin(), claves.end(),
-                                         [&](const auto& k) { return k.first == orden->campos[i]; });
-            if (it == claves.end()) return {};
-            r.push_back(*it);
-        }
-        return r;
+    // Puts the keys in the order of the tag's fields when they are its leading fields, and says whether
+    // they are; otherwise they are left as they were.
+    bool ordenaComoPrefijo(ClavesPreparadas& claves) const {
+        if (claves.empty() || claves.size() > orden->campos.size()) return false;
+        const auto busca = [&](size_t desde, size_t i) {
+            return std::find_if(claves.begin() + qsizetype(desde), claves.end(),
+                                [&](const auto& k) { return k.first == orden->campos[i]; });
+        };
+        for (size_t i = 0; i < claves.size(); ++i)
+            if (busca(0, i) == claves.end()) return false;
+        for (size_t i = 0; i < claves.size(); ++i)
+            std::iter_swap(claves.begin() + qsizetype(i), busca(i, i));
+        return true;
     }
 
     qsizetype cota(qsizetype desde, qsizetype hasta, const ClavesPreparadas& claves, bool parcial,
@@ -130,8 +133,8 @@ struct TTabla::Impl {
         if (!hayRango) return;
         desdePreparado = prepara(rangoDesde);
         hastaPreparado = prepara(rangoHasta);
-        const ClavesPreparadas d = comoPrefijo(desdePreparado), h = comoPrefijo(hastaPreparado);
-        rangoPorPosicion = !d.empty() && d.size() == h.size();
+        ClavesPreparadas d = desdePreparado, h = hastaPreparado;
+        rangoPorPosicion = ordenaComoPrefijo(d) && ordenaComoPrefijo(h) && d.size() == h.size();
         if (rangoPorPosicion) {
             lo = cota(0, hi, d, false, false);
             hi = std::max(lo, cota(lo, hi, h, false, true));

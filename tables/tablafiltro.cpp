@@ -1,5 +1,7 @@
 #include "tables/tablafiltro.h"
 
+#include "companion/registro.h"
+
 #include <vector>
 
 namespace nod {
@@ -40,20 +42,22 @@ private:
     ValorPreparado m_valor;
 };
 
+// A chain of comparisons joined by one operator ("A OR B OR C") is one node with a list, not a nest of
+// pairs: evaluating a long chain does not go deeper into the stack.
 class Logica : public FiltroTabla {
 public:
-    Logica(bool y, std::unique_ptr<FiltroTabla> a, std::unique_ptr<FiltroTabla> b)
+    Logica(bool y, std::vector<std::unique_ptr<FiltroTabla>> partes)
         : m_y(y)
-        , m_a(std::move(a))
-        , m_b(std::move(b)) {}
+        , m_partes(std::move(partes)) {}
     bool cumple(const DatosDbf& datos, int fila) const override {
-        return m_y ? m_a->cumple(datos, fila) && m_b->cumple(datos, fila)
-                   : m_a->cumple(datos, fila) || m_b->cumple(datos, fila);
+        for (const auto& p : m_partes)
+            if (p->cumple(datos, fila) != m_y) return !m_y;
+        return m_y;
     }
 
 private:
     bool m_y;
-    std::unique_ptr<FiltroTabla> m_a, m_b;
+    std::vector<std::unique_ptr<FiltroTabla>> m_partes;
 };
 
 class Negacion : public FiltroTabla {
@@ -76,11 +80,15 @@ class Analizador {
 public:
     Analizador(const DatosDbf& datos, const QString& texto)
         : m_datos(datos)
-        , m_texto(texto) {
-        trocea();
-    }
+        , m_texto(texto) {}
 
     std::unique_ptr<FiltroTabla> analiza() {
+        if (m_texto.size() > kLongitudMaximaFiltro)
+            falla(QStringLiteral("tiene %1 caracteres y un filtro no puede tener más de %2")
+                      .arg(m_texto.size())
+                      .arg(kLongitudMaximaFiltro),
+                  kLongitudMaximaFiltro);
+        trocea();
         auto f = disyuncion();
         if (actual().tipo != Pieza::Tipo::Fin) falla(QStringLiteral("sobra \"%1\"").arg(actual().texto));
         return f;
@@ -90,7 +98,7 @@ private:
     [[noreturn]] void falla(const QString& motivo, qsizetype posicion = -1) const {
         const qsizetype pos = posicion >= 0 ? posicion : actual().posicion;
         throw ErrorTabla(QStringLiteral("Filtro no válido para la tabla %1: \"%2\", posición %3: %4")
-                             .arg(m_datos.ruta(), m_texto)
+                             .arg(m_datos.ruta(), TextoVisible(m_texto, 80))
                              .arg(pos + 1)
                              .arg(motivo));
     }
@@ -154,34 +162,38 @@ private:
                actual().texto.compare(QLatin1String(palabra), Qt::CaseInsensitive) == 0;
     }
 
-    std::unique_ptr<FiltroTabla> disyuncion() {
-        auto a = conjuncion();
-        while (esPalabra("OR")) {
+    // "a OR b OR ..." and "a AND b AND ...": one node for the whole chain (the single term as it is).
+    std::unique_ptr<FiltroTabla> cadena(bool y) {
+        std::vector<std::unique_ptr<FiltroTabla>> partes;
+        partes.push_back(y ? factor() : cadena(true));
+        while (esPalabra(y ? "AND" : "OR")) {
             ++m_pos;
-            a = std::make_unique<Logica>(false, std::move(a), conjuncion());
+            partes.push_back(y ? factor() : cadena(true));
         }
-        return a;
+        if (partes.size() == 1) return std::move(partes.front());
+        return std::make_unique<Logica>(y, std::move(partes));
     }
 
-    std::unique_ptr<FiltroTabla> conjuncion() {
-        auto a = factor();
-        while (esPalabra("AND")) {
-            ++m_pos;
-            a = std::make_unique<Logica>(true, std::move(a), factor());
-        }
-        return a;
-    }
+    std::unique_ptr<FiltroTabla> disyuncion() { return cadena(false); }
 
+    // NOT and parentheses nest; each level is one more frame for the parser and the evaluator alike.
     std::unique_ptr<FiltroTabla> factor() {
-        if (esPalabra("NOT")) {
+        const bool niega = esPalabra("NOT");
+        if (niega || actual().tipo == Pieza::Tipo::Abre) {
+            if (m_profundidad == kProfundidadMaximaFiltro)
+                falla(QStringLiteral("anida más de %1 niveles de paréntesis y NOT")
+                          .arg(kProfundidadMaximaFiltro));
+            ++m_profundidad;
             ++m_pos;
-            return std::make_unique<Negacion>(factor());
-        }
-        if (actual().tipo == Pieza::Tipo::Abre) {
-            ++m_pos;
-            auto f = disyuncion();
-            if (actual().tipo != Pieza::Tipo::Cierra) falla(QStringLiteral("falta \")\""));
-            ++m_pos;
+            std::unique_ptr<FiltroTabla> f;
+            if (niega) {
+                f = std::make_unique<Negacion>(factor());
+            } else {
+                f = disyuncion();
+                if (actual().tipo != Pieza::Tipo::Cierra) falla(QStringLiteral("falta \")\""));
+                ++m_pos;
+            }
+            --m_profundidad;
             return f;
         }
         return comparacion();
@@ -236,6 +248,7 @@ private:
     const QString& m_texto;
     std::vector<Pieza> m_piezas;
     size_t m_pos = 0;
+    int m_profundidad = 0;
 };
 
 } // namespace

@@ -5,12 +5,19 @@
 // a doubled quote inside stands for itself), a number or True/False (any case). Comparisons join with
 // AND, OR, NOT and parentheses; AND binds tighter than OR. A value compares by the field's type, as keys
 // do (tables/dbfclaves.h): '2' against a numeric field is the number 2.
+//
+// A filter is at most `kLongitudMaximaFiltro` characters long and nests NOT and parentheses at most
+// `kProfundidadMaximaFiltro` deep; the routines' filters are a few dozen characters and one or two
+// levels, and anything beyond is refused with an error instead of exhausting the stack.
 
 #include "tables/dbfclaves.h"
 
 #include <memory>
 
 namespace nod {
+
+constexpr qsizetype kLongitudMaximaFiltro = 8192;
+constexpr int kProfundidadMaximaFiltro = 64;
 
 class FiltroTabla {
 public:

@@ -7,7 +7,10 @@
 #include "tables/tabla_p.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QHash>
+#include <mutex>
 
 namespace nod {
 
@@ -173,15 +176,51 @@ bool TTabla::AsBoolean(int campo) const {
 TDateTime TTabla::AsDateTime(int campo) const {
     return d->pos < 0 ? 0 : d->datos->fecha(d->fila(d->pos), campo);
 }
-std::unique_ptr<TTabla> CreaTabla(const QString& alias, const QString& fichero, const QString& indice) {
-    const QString carpeta = Config.CarpetaAlias(alias);
-    if (carpeta.isEmpty())
+namespace {
+
+// Where a table named by alias and file lies, as worked out from the configuration: the folder of the
+// alias and the path with the name as given. Routines name the same few tables on every call, so it is
+// kept for as long as the configuration is the one it came from (`TConfig::Generacion`); the file
+// itself is still looked at on every open.
+struct RutaDeTabla {
+    quint64 generacion = 0;
+    QString carpeta;
+    QString directa;
+    QByteArray nativa;
+};
+
+RutaDeTabla rutaDeTabla(const QString& alias, const QString& fichero) {
+    static std::mutex mutex;
+    static QHash<std::pair<QString, QString>, RutaDeTabla> rutas;
+    const quint64 generacion = Config.Generacion();
+    const std::pair clave(alias, fichero);
+    {
+        std::lock_guard lock(mutex);
+        const auto it = rutas.constFind(clave);
+        if (it != rutas.cend() && it->generacion == generacion) return *it;
+    }
+    RutaDeTabla r;
+    r.generacion = generacion;
+    r.carpeta = Config.CarpetaAlias(alias);
+    if (r.carpeta.isEmpty())
         throw ErrorTabla(QStringLiteral("El alias %1 no está configurado (tabla %2)").arg(alias, fichero));
+    r.directa = rutaDirecta(r.carpeta, fichero);
+    r.nativa = QFile::encodeName(r.directa);
+    std::lock_guard lock(mutex);
+    if (rutas.size() >= 256) rutas.clear(); // names built on the fly would otherwise pile up
+    rutas.insert(clave, r);
+    return r;
+}
+
+} // namespace
+
+std::unique_ptr<TTabla> CreaTabla(const QString& alias, const QString& fichero, const QString& indice) {
+    const RutaDeTabla r = rutaDeTabla(alias, fichero);
     // The name as given first: one stat() when the table is warm; the folder is listed only when the file
     // has another case on disk, or is missing.
-    const QString directa = rutaDirecta(carpeta, fichero);
-    if (auto datos = DatosDbf::CargaSiExiste(directa)) return TTabla::Abre(directa, std::move(datos), indice);
-    const QString ruta = resuelveFichero(carpeta, fichero);
+    if (auto datos = DatosDbf::CargaSiExiste(r.directa, r.nativa))
+        return TTabla::Abre(r.directa, std::move(datos), indice);
+    const QString ruta = resuelveFichero(r.carpeta, fichero);
     return TTabla::Abre(ruta, DatosDbf::Carga(ruta), indice);
 }
 

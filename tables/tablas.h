@@ -11,8 +11,10 @@
 // header names (Windows-1252 when it names none; a ".cpg" file beside the table overrides the header).
 // Index tags are not .mdx files: every tag is a key expression over the table's fields, kept in one catalog
 // (tables/catalogoindices.h). The order of a tag is built in memory the first time it is used and
-// reused, shared by every handle of the process, while the file keeps the same identity, size and
-// modification time; opening a table per call therefore costs a few microseconds once it is warm.
+// reused, shared by every handle of the process, while the file keeps the same identity, size,
+// modification and change time; opening a table per call therefore costs one stat() of the file and
+// well under a microsecond of work besides once it is warm, and still sees another workstation's change
+// on the next call.
 //
 // Concurrency: several workstations may share a folder. Every write (Post, TBDelete, TBPackDbf) takes a
 // whole-file write lock (Linux open-file-description lock, F_OFD_SETLK with F_WRLCK) for its duration,
@@ -20,9 +22,11 @@
 // another. A lock held elsewhere is waited for `EsperaBloqueoTablas` milliseconds (configuration) and
 // then reported as `ErrorTabla`. Reading takes a shared lock only while the file is loaded.
 //
-// Errors: a table that cannot be opened or read (missing, truncated, a header that lies about its record
-// count or length, an unknown version byte, a field that does not parse) raises `ErrorTabla` naming the
-// file (and record); nothing reads past the file's bytes.
+// Errors: a table that cannot be opened or read (missing, not a plain file, truncated, a header that lies
+// about its record count or length or disagrees with the file's size, an unknown version byte, a field
+// that does not parse) raises `ErrorTabla` naming the file (and record); nothing reads past the file's
+// bytes, nor beyond what its header accounts for. A table that reads as damaged is read again for the
+// lock wait first, in case a program that does not lock is halfway through rewriting it.
 
 #include "companion/codepage.h"
 #include "companion/errores.h"
@@ -199,7 +203,8 @@ void TBIndexa(TTabla& tb, const QString& indice);
 /// Grammar: comparisons `FIELD op value` with op one of = <> < > <= >=, values 'text' or "text", numbers,
 /// True/False (any case), joined with AND, OR, NOT and parentheses. A quoted value compared with a numeric
 /// field is read as a number ("GRUPO='2'"). Throws ErrorTabla naming the table, the text and the place
-/// for anything it cannot parse or a field the table lacks.
+/// for anything it cannot parse, a field the table lacks, or a text beyond the limits (8,192 characters,
+/// NOT and parentheses 64 deep).
 ///     TBFiltra(*tb, "ENT_MENOR=False AND COD_PROV = 28");
 void TBFiltra(TTabla& tb, const QString& filtro);
 

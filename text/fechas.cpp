@@ -9,6 +9,9 @@
 #include "text/mayusculas.h"
 #include "text/recorte.h"
 
+#include <array>
+#include <initializer_list>
+
 namespace nod {
 
 using namespace Qt::StringLiterals;
@@ -28,36 +31,79 @@ QString cifras(const QDate& d, bool ceros, bool anioLargo) {
     return QString::number(d.day()) + u'/' + QString::number(d.month()) + u'/' + anio;
 }
 
-// The pieces a worded date is made of, already in the requested case.
-struct Piezas {
-    QString unirMes;  // between day and month
-    QString unirAnio; // between month and year (F4 to F7)
-    QString delAnio;  // between month and year (F8)
-    QString dia, anio, mes, diaSemana;
+// The fixed words of worded dates, in each language and case, made once with the routines that make
+// them (so they are the same words): the case character of a template is one of four kinds, 'S' lower,
+// 'N' upper, 'C' capitalised and any other (the words as produced), for the number words as for the rest.
+constexpr QChar kCasos[] = {u'S', u'N', u'C', QChar()};
+
+int claseDeCaso(QChar caso) {
+    switch (caso.unicode()) {
+    case u'S':
+        return 0;
+    case u'N':
+        return 1;
+    case u'C':
+        return 2;
+    default:
+        return 3;
+    }
+}
+
+struct PalabrasFecha {
+    QString unirMes[3]; // between day and month; Catalan: [0] " de ", [1] " d'" before abril, agost, octubre
+    QString unirAnio;   // between month and year (F4 to F7)
+    QString delAnio;    // between month and year (F8)
+    QString dias[32];   // day of the month in words, from 1
+    QString meses[13];  // from 1
+    QString semana[8];  // weekday, from 1 (Monday)
 };
 
-Piezas piezas(TDateTime fecha, const QDate& d, QChar caso, bool catalan) {
+PalabrasFecha construyePalabras(bool catalan, QChar caso) {
     // With 'C' the joiners stay lower case; the other case characters convert them.
     auto union_ = [caso](const QString& j) { return caso == u'C' ? j : MayusMinus(j, caso); };
-    Piezas p;
+    PalabrasFecha p;
+    const int idioma = catalan ? 1 : 0;
     if (catalan) {
-        const int m = d.month();
-        p.unirMes = m == 4 || m == 8 || m == 10 ? QStringLiteral(" d'") : QStringLiteral(" de ");
-        p.unirAnio = QStringLiteral(" de ");
+        p.unirMes[0] = p.unirAnio = QStringLiteral(" de ");
+        p.unirMes[1] = QStringLiteral(" d'");
         p.delAnio = union_(QStringLiteral(" de l'any  "));
-        p.dia = letrasEnCatalan(d.day(), u'M', caso, false);
-        p.anio = letrasEnCatalan(d.year(), u'M', caso, false);
-        p.mes = MayusMinus(MesToStr(m, 1, NombreMinusculas), caso);
-        p.diaSemana = MayusMinus(DiaTexto(fecha, 1, NombreCapital), caso);
     } else {
-        p.unirMes = p.unirAnio = union_(QStringLiteral(" de "));
+        p.unirMes[0] = p.unirMes[1] = p.unirAnio = union_(QStringLiteral(" de "));
         p.delAnio = union_(QStringLiteral(" del año "));
-        p.dia = LetrasNod(d.day(), u'M', caso, false);
-        p.anio = LetrasNod(d.year(), u'M', caso, false);
-        p.mes = MayusMinus(MesToStr(d.month(), 0, NombreMinusculas), caso);
-        p.diaSemana = MayusMinus(DiaTexto(fecha, 0, NombreMinusculas), caso);
     }
+    for (int d = 1; d <= 31; ++d)
+        p.dias[d] = catalan ? letrasEnCatalan(d, u'M', caso, false) : LetrasNod(d, u'M', caso, false);
+    for (int m = 1; m <= 12; ++m)
+        p.meses[m] = MayusMinus(MesToStr(m, idioma, NombreMinusculas), caso);
+    // The weekday of 3 January 2000 (a Monday) and the six days after it.
+    for (int w = 1; w <= 7; ++w)
+        p.semana[w] = MayusMinus(
+            DiaTexto(EncodeDate(2000, 1, 2 + w), idioma, catalan ? NombreCapital : NombreMinusculas), caso);
     return p;
+}
+
+const PalabrasFecha& palabrasFecha(bool catalan, int clase) {
+    static const auto tablas = [] {
+        std::array<std::array<PalabrasFecha, 4>, 2> t;
+        for (int c = 0; c < 4; ++c) {
+            t[0][size_t(c)] = construyePalabras(false, kCasos[c]);
+            t[1][size_t(c)] = construyePalabras(true, kCasos[c]);
+        }
+        return t;
+    }();
+    return tablas[catalan ? 1 : 0][size_t(clase)];
+}
+
+// Joins the pieces of a worded date into one text, allocated once.
+QString junta(std::initializer_list<QStringView> piezas) {
+    qsizetype n = 0;
+    for (QStringView p : piezas)
+        n += p.size();
+    QString r;
+    r.reserve(n);
+    for (QStringView p : piezas)
+        r.append(p);
+    return r;
 }
 
 // Lower case, outer blanks and final full stops gone, accents removed (after `preparar` has run on
@@ -117,33 +163,43 @@ QString sinLAny(const QString& s) {
 QString FormateaFecha(const QString& formato, TDateTime fecha, bool catalan) {
     const QDate d = TDateTimeToQDate(fecha);
     if (!d.isValid()) return {};
-    const QChar caso = formato.size() >= 3 ? UpperCase(formato.mid(2, 1))[0] : QChar();
-    const QString codigo = formato.left(2);
+    const QStringView codigo = QStringView(formato).left(2);
     if (codigo == u"F2") return cifras(d, true, false);
     if (codigo == u"F3") return cifras(d, true, true);
     const int numero = codigo.size() == 2 && codigo[0] == u'F' ? codigo[1].unicode() - u'0' : 0;
     if (numero < 4 || numero > 8) return cifras(d, false, false); // "F1" and any other code
-    const Piezas p = piezas(fecha, d, caso, catalan);
-    const QString mesYAnio = p.unirMes + p.mes + p.unirAnio;
+    // The case character, in either case; only 'S', 'N' and 'C' mean anything.
+    const QChar caso = formato.size() >= 3 ? formato[2].toUpper() : QChar();
+    const int clase = claseDeCaso(caso);
+    const PalabrasFecha& p = palabrasFecha(catalan, clase);
+    const int dia = d.day(), mes = d.month(), anio = d.year();
+    const QString& unirMes = p.unirMes[catalan && (mes == 4 || mes == 8 || mes == 10) ? 1 : 0];
+    const auto enLetras = [&](int n) {
+        return catalan ? letrasEnCatalan(n, u'M', kCasos[clase], false)
+                       : LetrasNod(n, u'M', kCasos[clase], false);
+    };
     QString r;
     switch (numero) {
     case 4:
-        r = p.dia + mesYAnio + p.anio;
+        r = junta({p.dias[dia], unirMes, p.meses[mes], p.unirAnio, enLetras(anio)});
         break;
     case 5:
-        r = p.diaSemana + u", "_s + p.dia + mesYAnio + p.anio;
+        r = junta(
+            {p.semana[d.dayOfWeek()], u", ", p.dias[dia], unirMes, p.meses[mes], p.unirAnio, enLetras(anio)});
         break;
     case 6:
-        r = QString::number(d.day()) + mesYAnio + QString::number(d.year());
+        r = junta({QString::number(dia), unirMes, p.meses[mes], p.unirAnio, QString::number(anio)});
         break;
     case 7:
-        r = p.diaSemana + u", "_s + QString::number(d.day()) + mesYAnio + QString::number(d.year());
+        r = junta({p.semana[d.dayOfWeek()], u", ", QString::number(dia), unirMes, p.meses[mes], p.unirAnio,
+                   QString::number(anio)});
         break;
     case 8:
-        r = p.dia + p.unirMes + p.mes + p.delAnio + p.anio;
+        r = junta({p.dias[dia], unirMes, p.meses[mes], p.delAnio, enLetras(anio)});
         break;
     }
-    return Trim(r);
+    // Only a year out of the words' range leaves a blank at an end (its words are empty).
+    return r.isEmpty() || (r.front() > u' ' && r.back() > u' ') ? r : Trim(r);
 }
 
 QString PonerFechaNod(int modo, const QString& lugar, bool catalan, TDateTime fecha) {

@@ -4,28 +4,116 @@
 //   nodrim [--office DIR] Routine args   one call; each argument is read as the type of the routine's
 //                                        parameter (21 as an integer, 2.5, true, text as it stands)
 //   nodrim --help                        the routines and their argument types
+//
+// Exit status: 0 done; 1 a call that failed, an office folder that does not exist, or standard input or
+// output that could not be read or written; 2 a command line that cannot be understood.
 
+#include "apps/nodrim/descriptor.h"
 #include "apps/nodrim/lote.h"
 #include "companion/config.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <array>
+#include <cctype>
+#include <cerrno>
 #include <clocale>
+#include <cstring>
+#include <fcntl.h>
 #include <iostream>
 #include <optional>
+#include <unistd.h>
 
 using namespace nod;
 using nod::lote::json;
 
 namespace {
 
+constexpr int kFallo = 1;
+constexpr int kErrorDeUso = 2;
+constexpr char kUso[] = "usage: nodrim batch [--office DIR]\n"
+                        "       nodrim [--office DIR] ROUTINE [ARG...]\n"
+                        "       nodrim --help\n";
+
 int ayuda(std::ostream& os) {
-    os << "usage: nodrim batch [--office DIR]\n"
-          "       nodrim [--office DIR] ROUTINE [ARG...]\n\n"
-          "Office folder: --office, else $NODRIM_DIR, else the bundled sample office.\n\n"
+    os << kUso
+       << "\nOffice folder: --office, else $NODRIM_DIR, else the bundled sample office.\n\n"
           "Routines:\n";
     for (const auto& [nombre, formas] : lote::TodasLasRutinas().todas())
         os << "  " << lote::Firmas(nombre, formas) << '\n';
     return 0;
+}
+
+int errorDeUso(const std::string& mensaje) {
+    std::cerr << "nodrim: " << mensaje << '\n' << kUso;
+    return kErrorDeUso;
+}
+
+int fallo(const std::string& mensaje) {
+    std::cerr << "nodrim: " << mensaje << '\n';
+    return kFallo;
+}
+
+// A standard descriptor that the caller closed is opened on /dev/null, so that no file a routine opens
+// takes its number (a table opened as descriptor 1 would receive the responses). Tells which were closed.
+std::array<bool, 3> ocupaDescriptoresCerrados() {
+    std::array<bool, 3> cerrado{};
+    for (int fd = 0; fd < 3; ++fd) {
+        if (::fcntl(fd, F_GETFD) != -1 || errno != EBADF) continue;
+        cerrado[fd] = true;
+        const int nuevo = ::open("/dev/null", fd == 0 ? O_RDONLY : O_WRONLY);
+        if (nuevo >= 0 && nuevo != fd) {
+            ::dup2(nuevo, fd);
+            ::close(nuevo);
+        }
+    }
+    return cerrado;
+}
+
+struct Orden {
+    std::optional<QString> office;     // --office, when given
+    std::vector<std::string> palabras; // "batch", or the routine and its arguments
+    bool ayuda = false;
+};
+
+// Options come before the routine, or anywhere after "batch"; --office is also taken after a routine's
+// arguments. A word that starts with "-" and a letter is an option; "-1" is a number.
+std::optional<std::string> leeOrden(int argc, char** argv, Orden& orden) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string a = argv[i];
+        const bool esOpcion = a.size() > 1 && a[0] == '-' && !std::isdigit(static_cast<unsigned char>(a[1]));
+        if (a == "--office" || a.rfind("--office=", 0) == 0) {
+            const bool junto = a != "--office";
+            if (!junto && i + 1 == argc) return "--office needs a folder";
+            const std::string carpeta = junto ? a.substr(9) : argv[++i];
+            if (carpeta.empty()) return "--office needs a folder";
+            orden.office = QString::fromLocal8Bit(carpeta.c_str());
+        } else if (orden.palabras.empty() && (a == "--help" || a == "-h")) {
+            orden.ayuda = true;
+        } else if (esOpcion && (orden.palabras.empty() || orden.palabras[0] == "batch")) {
+            return "unknown option " + a;
+        } else if (!orden.palabras.empty() && orden.palabras[0] == "batch") {
+            return "unexpected word \"" + a + "\" after batch";
+        } else {
+            orden.palabras.push_back(a);
+        }
+    }
+    return std::nullopt;
+}
+
+// The office folder: one named with --office or $NODRIM_DIR must exist; the bundled sample office is the
+// fallback (missing, it gives default values with a warning). nullopt after reporting the problem.
+std::optional<QString> carpetaOficina(const Orden& orden) {
+    const QString entorno = qEnvironmentVariable("NODRIM_DIR");
+    if (!orden.office && entorno.isEmpty()) return CarpetaOficinaPorDefecto();
+    const QString carpeta = orden.office ? *orden.office : entorno;
+    const std::string nombre = "the office folder " + QDir::toNativeSeparators(carpeta).toStdString() +
+                               (orden.office ? "" : " (from $NODRIM_DIR)");
+    const QFileInfo info(carpeta);
+    if (info.isDir()) return carpeta;
+    fallo(nombre + (info.exists() ? " is not a folder" : " does not exist"));
+    return std::nullopt;
 }
 
 // A shell word as the JSON value a parameter of the given type takes ("integer", "number&" ...);
@@ -63,48 +151,63 @@ json argumentos(const std::string& rutina, const std::vector<std::string>& palab
     return args;
 }
 
-int unaLlamada(const std::string& rutina, const std::vector<std::string>& args) {
+int atiendeLote(std::ostream& salida, const lote::BufferDescriptor& bufferSalida) {
+    lote::BufferDescriptor bufferEntrada(STDIN_FILENO, lote::BufferDescriptor::Sentido::Lectura);
+    std::istream entrada(&bufferEntrada);
+    switch (lote::Procesa(entrada, salida)) {
+    case lote::FinLote::Completo:
+        break;
+    case lote::FinLote::FalloLectura:
+        return fallo(std::string("the requests could not be read from standard input: ") +
+                     std::strerror(bufferEntrada.error()));
+    case lote::FinLote::FalloEscritura:
+        return fallo(std::string("the responses could not be written to standard output: ") +
+                     std::strerror(bufferSalida.error()));
+    }
+    return 0;
+}
+
+int unaLlamada(const std::string& rutina, const std::vector<std::string>& args, std::ostream& salida) {
     const json peticion{{"fn", rutina}, {"args", argumentos(rutina, args)}};
     const json r = lote::Atiende(peticion);
     for (const auto& d : r["dialogs"])
         std::cerr << d["kind"].get<std::string>() << ": " << d["title"].get<std::string>() << ": "
                   << d["text"].get<std::string>() << '\n';
-    if (r.contains("error")) {
-        std::cerr << "nodrim: " << r["error"].get<std::string>() << '\n';
-        return 1;
-    }
+    if (r.contains("error")) return fallo(r["error"].get<std::string>());
     const json& res = r["result"];
-    std::cout << (res.is_string() ? res.get<std::string>() : res.dump()) << '\n';
-    if (!r["out"].empty()) std::cout << "out: " << r["out"].dump() << '\n';
+    salida << (res.is_string() ? res.get<std::string>() : res.dump()) << '\n';
+    if (!r["out"].empty()) salida << "out: " << r["out"].dump() << '\n';
     return 0;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
+    const auto cerrado = ocupaDescriptoresCerrados(); // before anything opens a file
     QCoreApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C"); // machine formats never follow the user's decimal comma
     std::ios::sync_with_stdio(false);
 
-    std::vector<std::string> resto;
-    QString office;
-    for (int i = 1; i < argc; ++i) {
-        const std::string a = argv[i];
-        if (a == "--office" && i + 1 < argc)
-            office = QString::fromLocal8Bit(argv[++i]);
-        else if (a.rfind("--office=", 0) == 0)
-            office = QString::fromLocal8Bit(argv[i] + 9);
-        else
-            resto.push_back(a);
-    }
-    if (resto.empty() || resto[0] == "--help" || resto[0] == "-h")
-        return ayuda(resto.empty() ? std::cerr : std::cout), resto.empty() ? 2 : 0;
+    Orden orden;
+    if (const auto e = leeOrden(argc, argv, orden)) return errorDeUso(*e);
+    if (orden.ayuda) return ayuda(std::cout);
+    if (orden.palabras.empty())
+        return errorDeUso("a routine or batch is needed; nodrim --help lists the routines");
+    const bool esLote = orden.palabras[0] == "batch";
+    if (cerrado[1]) return fallo("standard output is closed: there is nowhere to write");
+    if (esLote && cerrado[0]) return fallo("standard input is closed: there are no requests to read");
 
-    Config.Carga(CarpetaOficinaPorDefecto(office)); // its warnings go to the log (standard error)
+    const auto carpeta = carpetaOficina(orden);
+    if (!carpeta) return kFallo;
+    Config.Carga(*carpeta); // its warnings go to the log (standard error)
 
-    if (resto[0] == "batch") {
-        lote::Procesa(std::cin, std::cout);
-        return 0;
-    }
-    return unaLlamada(resto[0], {resto.begin() + 1, resto.end()});
+    lote::BufferDescriptor bufferSalida(STDOUT_FILENO, lote::BufferDescriptor::Sentido::Escritura);
+    std::ostream salida(&bufferSalida);
+    if (esLote) return atiendeLote(salida, bufferSalida);
+    const int estado =
+        unaLlamada(orden.palabras[0], {orden.palabras.begin() + 1, orden.palabras.end()}, salida);
+    if (!salida.flush())
+        return fallo(std::string("the result could not be written to standard output: ") +
+                     std::strerror(bufferSalida.error()));
+    return estado;
 }

@@ -1,8 +1,10 @@
 #include "companion/config.h"
 #include "tests/support/oficina_prueba.h"
 
+#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 using namespace nod;
 using nod::prueba::OficinaPrueba;
@@ -71,4 +73,34 @@ TEST(Config, EveryValueIsDocumented) {
     const QString texto = QString::fromUtf8(doc.readAll());
     for (const auto& d : TConfig::Descriptores())
         EXPECT_TRUE(texto.contains(QStringLiteral("`%1`").arg(QLatin1String(d.nombre)))) << d.nombre;
+}
+
+// Fault 14: a CONFIG folder that cannot be read was logged as missing; the warning says why.
+TEST(Config, Fault14UnreadableConfigFolderSaysWhy) {
+    OficinaPrueba o(QStringLiteral("[GENERAL]\nNumeroNotarios=3\n"));
+    const QString config = o.ruta(QStringLiteral("CONFIG"));
+    ASSERT_TRUE(QDir(config).removeRecursively());
+    // A link that points at itself cannot be followed (ELOOP), whoever runs the test.
+    ASSERT_EQ(::symlink("CONFIG", QFile::encodeName(config).constData()), 0);
+    o.recarga();
+    const QString avisos = Config.Avisos().join(QLatin1Char('\n'));
+    EXPECT_TRUE(avisos.contains(QStringLiteral("CONFIG.INI: no se puede leer"))) << qPrintable(avisos);
+    EXPECT_FALSE(avisos.contains(QStringLiteral("no existe"))) << qPrintable(avisos);
+}
+
+// Fault 14: a NUL byte in a value ended its warning there for whoever read the log.
+TEST(Config, Fault14NulInAValueDoesNotCutItsWarningShort) {
+    static QStringList registro;
+    registro.clear();
+    const auto anterior =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& m) { registro << m; });
+    OficinaPrueba o(QStringLiteral("[GENERAL]\nNumeroNotarios=3") + QChar(0) +
+                    QStringLiteral("tres\n\x01junk\n"));
+    qInstallMessageHandler(anterior);
+    const QString todo = registro.join(QLatin1Char('\n'));
+    EXPECT_TRUE(todo.contains(QStringLiteral("NumeroNotarios=3\\x00tres: valor no válido")))
+        << qPrintable(todo);
+    EXPECT_TRUE(todo.contains(QStringLiteral("\\x01junk"))) << qPrintable(todo);
+    EXPECT_FALSE(todo.contains(QChar(0)));
+    EXPECT_FALSE(Config.Avisos().join(QString()).contains(QChar(0)));
 }

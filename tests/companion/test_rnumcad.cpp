@@ -112,6 +112,25 @@ TEST(Rnumcad, CutsAndZeros) {
     EXPECT_EQ(StrCeros(7, kAnchoMaximoTexto).size(), kAnchoMaximoTexto);
 }
 
+// Fault 14: a cut through the middle of a character outside the Basic Multilingual Plane left half of it,
+// which reaches a UTF-8 reader as "?". A cut never splits such a pair; the result stays within the count.
+TEST(Rnumcad, Fault14CutsNeverSplitASurrogatePair) {
+    const QString s = QString::fromUtf8("a\xF0\x9F\x98\x80"
+                                        "b"); // a, U+1F600 (two units), b
+    const struct {
+        QString (*rutina)(const QString&, int);
+        const char* nombre;
+        int n;
+        QString esperado;
+    } casos[] = {
+        {&StrLeft, "StrLeft", 1, QStringLiteral("a")}, {&StrLeft, "StrLeft", 2, QStringLiteral("a")},
+        {&StrLeft, "StrLeft", 3, s.left(3)},           {&StrRight, "StrRight", 2, QStringLiteral("b")},
+        {&StrRight, "StrRight", 3, s.right(3)},        {&StrLeft, "StrLeft", 4, s},
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(c.rutina(s, c.n), c.esperado) << c.nombre << ' ' << c.n;
+}
+
 TEST(Rnumcad, CaseKeepsTheLength) {
     EXPECT_EQ(UpperCase(u8("camión ñandú çà")), u8("CAMIÓN ÑANDÚ ÇÀ"));
     EXPECT_EQ(lowerCase(u8("CAMIÓN ÑANDÚ ÇÀ DIECISÉIS")), u8("camión ñandú çà dieciséis"));

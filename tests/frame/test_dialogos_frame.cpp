@@ -334,7 +334,8 @@ TEST(ServicioQt, ErrorBoxHasOneAcceptButton) {
     prueba::AlAbrirseModal([&](QWidget* w) {
         for (auto* b : w->findChildren<QPushButton*>())
             botones << b->text();
-        texto = w->findChild<QLabel*>(QStringLiteral("LTexto"))->text();
+        auto* l = w->findChild<QLabel*>(QStringLiteral("LTexto"));
+        texto = l ? l->text() : QString();
         QTest::keyClick(w, Qt::Key_Escape);
     });
     Mensaje_Error(QStringLiteral("No existe la carpeta"), QStringLiteral("Error"));
@@ -484,7 +485,7 @@ TEST(ServicioQt, StandardBoxesStayUsableWithAnyText) {
     bool dentro = false;
     prueba::AlAbrirseModal([&](QWidget* w) {
         auto* l = w->findChild<QLabel*>(QStringLiteral("LTexto"));
-        texto = l->text().left(40);
+        texto = l ? l->text().left(40) : QString();
         dentro = zona.contains(w->frameGeometry());
         QTest::keyClick(w->focusWidget(), Qt::Key_A);
     });

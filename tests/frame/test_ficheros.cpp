@@ -31,15 +31,72 @@ TEST(Ficheros, FicheroTemporalNodCreatesAUniqueEmptyFile) {
     QFile::remove(b);
 }
 
+// The temporary folder of a test: TMPDIR points at "tmp" inside a folder of its own while it lives, so
+// that what lands beside the temporary folder can be seen too.
+class CarpetaTemporal {
+public:
+    CarpetaTemporal()
+        : m_antes(qgetenv("TMPDIR")) {
+        QDir(m_dir.path()).mkdir(QStringLiteral("tmp"));
+        qputenv("TMPDIR", QFile::encodeName(carpeta()));
+    }
+    ~CarpetaTemporal() {
+        if (m_antes.isEmpty())
+            qunsetenv("TMPDIR");
+        else
+            qputenv("TMPDIR", m_antes);
+    }
+    QString carpeta() const { return m_dir.filePath(QStringLiteral("tmp")); }
+    QString ruta(const QString& nombre) const { return carpeta() + QLatin1Char('/') + nombre; }
+    QString fuera(const QString& nombre) const { return m_dir.filePath(nombre); }
+
+private:
+    QTemporaryDir m_dir;
+    QByteArray m_antes;
+};
+
 TEST(Ficheros, EliminaTablaTemporalDeletesTheThreeCompanionsOnly) {
-    QTemporaryDir dir;
-    const QString base = dir.filePath(QStringLiteral("TEMP01"));
+    CarpetaTemporal tmp;
+    const QString fichero = FicheroTemporalNod(QStringLiteral("TMP"));
+    ASSERT_FALSE(fichero.isEmpty());
+    const QString base = fichero.chopped(4); // without ".tmp"
     for (const char* ext : {".dbf", ".dbt", ".cdx"})
         toca(base + QLatin1String(ext));
     EliminaTablaTemporal(base); // .mdx is missing: skipped silently
     EXPECT_FALSE(QFile::exists(base + QStringLiteral(".dbf")));
     EXPECT_FALSE(QFile::exists(base + QStringLiteral(".dbt")));
     EXPECT_TRUE(QFile::exists(base + QStringLiteral(".cdx")));
+    toca(fichero + QStringLiteral(".dbf")); // the name as FicheroTemporalNod gave it serves as well
+    EliminaTablaTemporal(fichero);
+    EXPECT_FALSE(QFile::exists(fichero + QStringLiteral(".dbf")));
+}
+
+// Fault 13: EliminaTablaTemporal deleted any table it was given, the office's included, and
+// FicheroTemporalNod("../") created files outside the temporary folder. Both keep to that folder and to the
+// names FicheroTemporalNod gives, and refuse anything else.
+TEST(Ficheros, Fault13TemporaryFilesKeepToTheTemporaryFolder) {
+    CarpetaTemporal tmp;
+    const QString clientes = tmp.fuera(QStringLiteral("CLIENTES"));
+    toca(clientes + QStringLiteral(".dbf"));
+    toca(tmp.ruta(QStringLiteral("CLIENTES.dbf")));
+    toca(tmp.ruta(QStringLiteral("TMP1A.dbf")));
+    toca(tmp.fuera(QStringLiteral("TMP1A.dbf")));
+    const QString escapada = tmp.ruta(QStringLiteral("../TMP1A"));
+    for (const QString& ruta : {clientes, tmp.ruta(QStringLiteral("CLIENTES")), escapada, QString()}) {
+        EliminaTablaTemporal(ruta);
+        EXPECT_TRUE(ruta.isEmpty() || QFile::exists(ruta + QStringLiteral(".dbf"))) << qPrintable(ruta);
+    }
+    EliminaTablaTemporal(tmp.ruta(QStringLiteral("TMP1A")));
+    EXPECT_FALSE(QFile::exists(tmp.ruta(QStringLiteral("TMP1A.dbf"))));
+
+    const QStringList antes = QDir(tmp.fuera({})).entryList(QDir::Files);
+    for (const char* prefijo : {"../", "/tm", "a/b", "..\\", "C:x", "\n"})
+        EXPECT_EQ(FicheroTemporalNod(QString::fromLatin1(prefijo)), QString()) << prefijo;
+    EXPECT_EQ(QDir(tmp.fuera({})).entryList(QDir::Files), antes) << "nothing was created outside";
+    for (const char* prefijo : {"NOD", "", "..", "ÑÇ"}) {
+        const QString f = FicheroTemporalNod(QString::fromUtf8(prefijo));
+        EXPECT_EQ(QFileInfo(f).absolutePath(), tmp.carpeta()) << prefijo;
+    }
 }
 
 TEST(Ficheros, FicheroAbierto) {

@@ -291,7 +291,7 @@ TEST(MensajeNod, LineBreaksOfEveryKindAndMarkupAsTyped) {
         EXPECT_EQ(c.l1->text(), mostrado);
         // The lower line holds one line: a second one is announced with "…" and carried in the tooltip.
         EXPECT_EQ(c.l2->text(),
-                  mostrado.contains(u'\n') ? mostrado.section(u'\n', 0, 0) + QStringLiteral("…") : mostrado);
+                  mostrado.contains(u'\n') ? mostrado.section(u'\n', 0, 0) + QStringLiteral(" …") : mostrado);
         for (QLabel* l : {c.l1, c.l2})
             EXPECT_EQ(l->textFormat(), Qt::PlainText);
     }

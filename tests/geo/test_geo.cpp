@@ -91,6 +91,29 @@ TEST_F(Geo, Municipalities) {
     EXPECT_EQ(BusquedaCodIne(true, QStringLiteral("GAMINDE"), QStringLiteral("09")), QStringLiteral("09209"));
 }
 
+// Fault 2: the province of BusquedaCodIne went into the text of a filter, so "99 OR COD_PROV=28" answered
+// Madrid's code and 20,000 parentheses crashed the process. A province code holds digits and blanks only:
+// any other text finds nothing, and the legitimate calls answer as they always did.
+TEST_F(Geo, Fault2ProvinceOfBusquedaCodIneIsACodeNotFilterText) {
+    const struct {
+        QString provincia;
+        const char* esperado;
+    } casos[] = {
+        {QStringLiteral("28"), "28079"},
+        {QStringLiteral(" 28 "), "28079"},
+        {QString(), "28079"},
+        {QStringLiteral("08"), ""},
+        {QStringLiteral("99 OR COD_PROV=28"), ""},
+        {QStringLiteral("28) OR (COD_PROV=08"), ""},
+        {QStringLiteral("'28'"), ""},
+        {QStringLiteral("(").repeated(20000) + QStringLiteral("28"), ""},
+        {QStringLiteral("28 OR ").repeated(50000) + QStringLiteral("28"), ""},
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("MADRID"), c.provincia), QLatin1String(c.esperado))
+            << qPrintable(c.provincia.left(40));
+}
+
 TEST_F(Geo, MunicipalityOrEntityName) {
     struct C {
         const char *ine, *prov, *mun, *entidad, *esperado;

@@ -1,6 +1,12 @@
 #include "apps/nodrim/lote.h"
+#include "companion/mensajes.h"
+#include "companion/registro.h"
 #include "tests/support/oficina_prueba.h"
 
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -32,6 +38,19 @@ QString caracter(QChar c) {
 bool lanza(int) {
     throw std::runtime_error("boom");
 }
+// Asks `n` yes/no questions after an error box (which asks nothing) and counts the yeses.
+int pregunta(int n) {
+    Mensaje_Error(QStringLiteral("Aviso"), QStringLiteral("Error"));
+    int sies = 0;
+    for (int i = 0; i < n; ++i)
+        sies += NoSi(QStringLiteral("¿Seguro?"));
+    return sies;
+}
+bool avisa(const QString& texto) {
+    if (!texto.isEmpty()) qCWarning(lcTablas).noquote() << texto;
+    qCInfo(lcTablas) << "only an information line";
+    return true;
+}
 
 Rutinas rutinasDePrueba() {
     Rutinas r;
@@ -42,11 +61,33 @@ Rutinas rutinasDePrueba() {
     r.agrega("forma", qOverload<double>(&forma));
     r.agrega("caracter", &caracter);
     r.agrega("lanza", &lanza);
+    r.agrega("pregunta", &pregunta);
+    r.agrega("avisa", &avisa);
     return r;
 }
 
-json pide(const char* linea) {
+json pide(std::string_view linea) {
     return AtiendeLinea(linea, 1, rutinasDePrueba());
+}
+
+std::string error(const json& r) {
+    return r.contains("error") ? r["error"].get<std::string>() : std::string();
+}
+
+// The responses to a stream of request lines.
+std::vector<json> procesa(const std::string& entrada) {
+    std::istringstream in(entrada);
+    std::ostringstream out;
+    Procesa(in, out, rutinasDePrueba());
+    std::istringstream lineas(out.str());
+    std::vector<json> respuestas;
+    for (std::string l; std::getline(lineas, l);)
+        respuestas.push_back(json::parse(l));
+    return respuestas;
+}
+
+std::string anidado(int niveles) {
+    return R"({"fn":"doble","args":)" + std::string(niveles - 1, '[') + std::string(niveles - 1, ']') + "}";
 }
 
 } // namespace
@@ -81,7 +122,7 @@ TEST(Lote, ErrorsNameTheRoutineAndWhatItExpects) {
         {R"({"fn":"doble","args":["a"],"today":"31/05/2024"})", "YYYY-MM-DD"},
         {R"({"fn":"doble","args":["a"],"answers":"1"})", "answers"},
         {R"({"args":[]})", "\"fn\""},
-        {R"(not json)", "line 1: not valid JSON"},
+        {R"(not json)", "line 1: not valid JSON at byte offset 1"},
     };
     for (const auto& c : casos) {
         const json r = pide(c.linea);
@@ -117,4 +158,181 @@ TEST(Lote, ConfigAppliesToOneRequestOnly) {
     EXPECT_EQ(AtiendeLinea(R"({"fn":"AliasNotarioActual","args":[],"config":{"sNotario":"2"}})", 4)["result"],
               "DBNOTARIO2");
     EXPECT_EQ(Config.GetsNotario(), QStringLiteral("1"));
+}
+
+TEST(Lote, DeepNestingIsRefusedBeforeAnyCopyAndTheStreamGoesOn) {
+    // Brackets inside strings, escaped quotes included, are text and do not nest.
+    const std::string corchetes = R"(\"[)" + std::string(100, '[') + std::string(100, '{');
+    const struct {
+        std::string linea;
+        const char* error; // what the response's error holds
+    } casos[] = {
+        {anidado(kAnidamientoMaximo), "fit none of"},
+        {anidado(kAnidamientoMaximo + 1), "line 1: nested deeper than 64 levels"},
+        {anidado(100000), "nested deeper than"},
+        {R"({"fn":"doble","args":[")" + corchetes + R"("]})", ""},
+    };
+    for (const auto& c : casos) {
+        const auto r = procesa(c.linea + "\n" + R"({"fn":"doble","args":["x"]})" + "\n");
+        ASSERT_EQ(r.size(), 2u) << c.linea.substr(0, 80);
+        EXPECT_NE(error(r[0]).find(c.error), std::string::npos)
+            << c.linea.substr(0, 80) << ": " << error(r[0]);
+        if (!*c.error) {
+            EXPECT_EQ(r[0]["result"], "\"[" + corchetes.substr(3) + "\"[" + corchetes.substr(3));
+        }
+        EXPECT_EQ(r[1]["result"], "xx");
+    }
+}
+
+TEST(Lote, OverlongLineIsRefusedAndTheStreamGoesOn) {
+    const std::string peticion = R"({"fn":"doble","args":["ab"]})";
+    const std::string justa = peticion + std::string(kLineaMaxima - peticion.size(), ' ');
+    const auto r = procesa(justa + "\n" + justa + " \n" + peticion + "\n" + justa + "x");
+    ASSERT_EQ(r.size(), 4u);
+    EXPECT_EQ(r[0]["result"], "abab");
+    EXPECT_NE(error(r[1]).find("line 2: longer than 1048576 bytes"), std::string::npos) << error(r[1]);
+    EXPECT_EQ(r[2]["result"], "abab");
+    EXPECT_NE(error(r[3]).find("line 4: longer than"), std::string::npos) << "a last line without newline";
+}
+
+TEST(Lote, ErrorMessagesListAFewArgumentsThenEllipsis) {
+    std::string muchos = R"({"fn":"doble","args":[1)";
+    for (int i = 0; i < 100000; ++i)
+        muchos += ",1";
+    muchos += "]}";
+    const std::string nombreLargo = R"({"fn":")" + std::string(100000, 'N') + R"(","args":[]})";
+    const std::string claveLarga =
+        R"({"fn":"doble","args":["a"],"config":{")" + std::string(100000, 'k') + R"(":1}})";
+    for (const auto& linea : {muchos, nombreLargo, claveLarga}) {
+        const std::string e = error(pide(linea));
+        EXPECT_LT(e.size(), 300u) << e.substr(0, 300);
+        EXPECT_NE(e.find("..."), std::string::npos) << e;
+    }
+    EXPECT_NE(error(pide(muchos)).find("(integer, integer, integer, integer, integer, integer, ...)"),
+              std::string::npos);
+}
+
+TEST(Lote, OutOfRangeIntegersAreRefusedNotWrapped) {
+    const struct {
+        const char* linea;
+        const char* contiene;
+    } casos[] = {
+        {R"({"fn":"NumeroDeNotarios","args":[],"config":{"nCuantos":4294967301}})", "from -2147483648 to"},
+        {R"({"fn":"NumeroDeNotarios","args":[],"config":{"nCuantos":-2147483649}})", "from -2147483648 to"},
+        {R"({"fn":"NumeroDeNotarios","args":[],"config":{"nCuantos":18446744073709551615}})",
+         "takes an integer"},
+        {R"({"fn":"NumeroDeNotarios","args":[],"answers":[4294967302]})", "4294967302 is not a modal result"},
+        {R"({"fn":"NumeroDeNotarios","args":[],"answers":[12345]})", "12345 is not a modal result (0 to 11)"},
+        {R"({"fn":"NumeroDeNotarios","args":[],"answers":[1,-1]})", "answers[1]: -1 is not a modal result"},
+        {R"({"fn":"NumeroDeNotarios","args":[],"answers":[1.0]})", "answers[0]: 1.0 is not a modal result"},
+    };
+    for (const auto& c : casos) {
+        const json r = AtiendeLinea(c.linea, 1);
+        EXPECT_NE(error(r).find(c.contiene), std::string::npos) << error(r) << " for " << c.linea;
+        EXPECT_TRUE(r["result"].is_null());
+    }
+}
+
+TEST(Lote, AnswersLeaveATraceInEveryDialog) {
+    // An entry: the box's kind, the answer the routine got (null for a box that asks nothing) and
+    // whether it was Escape's for want of an answer.
+    using Entrada = std::tuple<std::string, json, bool>;
+    const struct {
+        const char* linea;
+        json resultado;
+        std::vector<Entrada> dialogos;
+        const char* error;
+    } casos[] = {
+        {R"({"fn":"pregunta","args":[1]})", 0, {{"Mensaje_Error", nullptr, false}, {"NoSi", 2, true}}, ""},
+        {R"({"fn":"pregunta","args":[1],"answers":[7]})",
+         0,
+         {{"Mensaje_Error", nullptr, false}, {"NoSi", 2, false}},
+         ""},
+        {R"({"fn":"pregunta","args":[2],"answers":[6]})",
+         1,
+         {{"Mensaje_Error", nullptr, false}, {"NoSi", 1, false}, {"NoSi", 2, true}},
+         ""},
+        {R"({"fn":"pregunta","args":[1],"answers":[1,1,2]})",
+         nullptr,
+         {{"Mensaje_Error", nullptr, false}, {"NoSi", 1, false}},
+         "2 answers left unused"},
+        {R"({"fn":"pregunta","args":[0],"answers":[0]})",
+         nullptr,
+         {{"Mensaje_Error", nullptr, false}},
+         "1 answer left unused"},
+    };
+    for (const auto& c : casos) {
+        const json r = pide(c.linea);
+        EXPECT_EQ(r["result"], c.resultado) << c.linea;
+        if (*c.error)
+            EXPECT_NE(error(r).find(c.error), std::string::npos) << error(r) << " for " << c.linea;
+        else
+            EXPECT_FALSE(r.contains("error")) << r.dump();
+        ASSERT_EQ(r["dialogs"].size(), c.dialogos.size()) << r.dump();
+        for (size_t i = 0; i < c.dialogos.size(); ++i) {
+            const json& d = r["dialogs"][i];
+            EXPECT_EQ(d["kind"], std::get<0>(c.dialogos[i])) << c.linea;
+            EXPECT_EQ(d.value("answer", json("none")), std::get<1>(c.dialogos[i]))
+                << c.linea << " dialog " << i;
+            EXPECT_EQ(d.value("defaulted", json()), std::get<2>(c.dialogos[i])) << c.linea << " dialog " << i;
+        }
+    }
+}
+
+TEST(Lote, LenientDetailsAreRefused) {
+    const struct {
+        std::string linea;
+        const char* contiene; // "" when the request must be answered
+    } casos[] = {
+        {std::string(R"({"fn":"doble","args":["a"]})") + '\0' + "junk", "not valid JSON at byte offset 27"},
+        {std::string(R"({"fn":"doble","args":["a)") + '\0' + R"("]})", "not valid JSON at byte offset 24"},
+        {R"({"fn":"doble","args":["a"],"today":"2024/05/31"})", "YYYY-MM-DD"},
+        {R"({"fn":"doble","args":["a"],"today":"2024-05-31junk"})", "YYYY-MM-DD"},
+        {R"({"fn":"doble","args":["a"],"today":"2024-5-31"})", "YYYY-MM-DD"},
+        {R"({"fn":"doble","args":["a"],"today":"2024-02-30"})", "YYYY-MM-DD"},
+        {R"({"fn":"doble","args":["a"],"today":"2024-02-29"})", ""},
+        {R"({"fn":"doble","args":["a"]} x)", "not valid JSON at byte offset 28"},
+        {R"({"fn":"mitad","args":[1e999]})", "line 1: not valid JSON (number overflow parsing '1e999')"},
+        {R"({"fn":"doble","args":["a"])", "not valid JSON at byte offset 26"},
+    };
+    for (const auto& c : casos) {
+        const json r = pide(c.linea);
+        if (*c.contiene)
+            EXPECT_NE(error(r).find(c.contiene), std::string::npos) << error(r) << " for " << c.linea;
+        else
+            EXPECT_EQ(r["result"], "aa") << r.dump();
+    }
+}
+
+TEST(Lote, WarningsLoggedWhileARequestRunsAreReportedWithIt) {
+    const auto r = procesa(R"({"fn":"avisa","args":["La tabla X.DBF está dañada"]})"
+                           "\n"
+                           R"({"fn":"avisa","args":[""]})"
+                           "\n");
+    ASSERT_EQ(r.size(), 2u);
+    EXPECT_EQ(r[0].value("warnings", json()), json::array({"La tabla X.DBF está dañada"}));
+    EXPECT_FALSE(r[1].contains("warnings")) << "no warning, no list; information lines are not warnings";
+}
+
+TEST(Lote, DamagedTableIsToldApartFromNotFoundByTheWarnings) {
+    OficinaPrueba o;
+    const QDir muestra(prueba::OficinaMuestra());
+    for (QDirIterator it(muestra.path(), QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+        const QString destino = o.ruta(muestra.relativeFilePath(it.next()));
+        QDir().mkpath(QFileInfo(destino).absolutePath());
+        QFile::remove(destino);
+        ASSERT_TRUE(QFile::copy(it.filePath(), destino));
+    }
+    o.recarga();
+    const char* peticion = R"({"fn":"BusquedaMunicipio","args":["28","999"]})";
+    const json noEsta = AtiendeLinea(peticion, 1);
+    EXPECT_EQ(noEsta["result"], "");
+    EXPECT_FALSE(noEsta.contains("warnings")) << noEsta.dump();
+
+    QFile municipios(o.ruta(QStringLiteral("DATOS/MUNICIPI.DBF")));
+    ASSERT_TRUE(municipios.resize(5000));
+    const json danada = AtiendeLinea(peticion, 2);
+    EXPECT_EQ(danada["result"], "");
+    ASSERT_EQ(danada.value("warnings", json()).size(), 1u) << danada.dump();
+    EXPECT_NE(danada["warnings"][0].get<std::string>().find("MUNICIPI.DBF"), std::string::npos);
 }

@@ -1,6 +1,7 @@
 // The fee calculator page: amounts typed the Spanish way, the scale choices handed to ARANCEL_C, and the
 // VAT check answered through the scripted message service.
 #include "companion/dialogo.h"
+#include "companion/editimporte.h"
 #include "companion/mensajes.h"
 #include "configuracion_arancel.h"
 #include "protocol/aranceles.h"

@@ -1,6 +1,7 @@
 #include "tests/support/modal.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
@@ -22,6 +23,13 @@ void AlAbrirseModal(std::function<void(QWidget*)> accion, int plazoMs) {
             w->activateWindow();
             if (!QTest::qWaitForWindowActive(w)) qWarning("the modal dialog never became the active window");
             accion(w);
+            // A dialog the action did not close would block the test for ever: it fails instead.
+            QTimer::singleShot(plazoMs, w, [w] {
+                if (auto* d = qobject_cast<QDialog*>(w); d && d->isVisible()) {
+                    qWarning("the modal dialog was still open after the action: closed with result -1");
+                    d->done(-1);
+                }
+            });
         } else if (reloj->elapsed() > plazoMs) {
             timer->stop();
             timer->deleteLater();

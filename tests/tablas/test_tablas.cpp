@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 #include <gtest/gtest.h>
+#include <memory>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -378,6 +379,34 @@ TEST(TablasPorAlias, NamesResolveWithoutRegardToCase) {
     EXPECT_EQ(
         CreaTablaSinExcepcion(QStringLiteral("DB"), QStringLiteral("TIPO_INT"), QStringLiteral("NO_HAY")),
         nullptr);
+}
+
+// The path of a table named by alias is kept between calls: loading another office (or restoring the
+// previous configuration) must send the same alias and name to that office's folder.
+TEST(TablasPorAlias, AnotherOfficeResolvesItsOwnFolders) {
+    const auto oficinaCon = [](int filas) {
+        auto o = std::make_unique<prueba::OficinaPrueba>(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
+        QDir().mkpath(o->ruta(QStringLiteral("DATOS")));
+        const QString ruta = o->ruta(QStringLiteral("DATOS/TABLA.DBF"));
+        CreaFicheroDbf(ruta, kCampos);
+        auto tb = TTabla::AbreRuta(ruta);
+        for (int i = 0; i < filas; ++i) {
+            tb->Append();
+            tb->SetInteger(QStringLiteral("CODIGO"), i);
+            tb->Post();
+        }
+        return o;
+    };
+    const auto filas = [] {
+        return CreaTabla(QStringLiteral("DB"), QStringLiteral("TABLA.DBF"))->RecordCount();
+    };
+    const auto una = oficinaCon(1);
+    EXPECT_EQ(filas(), 1);
+    {
+        const auto otra = oficinaCon(2);
+        EXPECT_EQ(filas(), 2);
+    }
+    EXPECT_EQ(filas(), 1) << "the first office's configuration is back";
 }
 
 } // namespace

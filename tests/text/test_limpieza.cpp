@@ -140,6 +140,38 @@ TEST(Alineacion, PaddingAndCutting) {
             << c.nombre << "(\"" << c.texto << "\", " << c.ancho << ')';
 }
 
+// Fault 3: StrCeros(0, INT_MIN) overflowed a signed subtraction, passed the width guard and wrote 2 GB of
+// zeros. Every padding routine answers any width at once, however negative or large.
+TEST(Alineacion, Fault3ExtremeWidthsAnswerAtOnce) {
+    constexpr int kMin = std::numeric_limits<int>::min();
+    const struct {
+        qint64 valor;
+        int ancho;
+        const char* esperado;
+    } ceros[] = {{0, kMin, "0"},
+                 {-5, kMin, "-5"},
+                 {7, kMin + 1, "7"},
+                 {-7, -1, "-7"},
+                 {std::numeric_limits<qint64>::min(), kMin, "-9223372036854775808"},
+                 {-7, 2, "-7"},
+                 {-7, 4, "-007"}};
+    for (const auto& c : ceros)
+        EXPECT_EQ(StrCeros(c.valor, c.ancho), QLatin1String(c.esperado)) << c.valor << " width " << c.ancho;
+    const struct {
+        QString (*rutina)(const QString&, int);
+        const char* nombre;
+        const char* esperado;
+    } rutinas[] = {{&StrCentra, "StrCentra", "AB"},
+                   {&JustificaDer, "JustificaDer", ""},
+                   {&JustificaIzq, "JustificaIzq", "AB"},
+                   {&AlineaDecha, "AlineaDecha", "AB"},
+                   {&AlineaIzda, "AlineaIzda", "AB"}};
+    for (const auto& r : rutinas)
+        for (int ancho : {kMin, kMin + 1})
+            EXPECT_EQ(r.rutina(QStringLiteral("AB"), ancho), QLatin1String(r.esperado))
+                << r.nombre << ' ' << ancho;
+}
+
 TEST(Alineacion, WidthBeyondTheMaximumLeavesTheText) {
     const struct {
         QString (*rutina)(const QString&, int);
