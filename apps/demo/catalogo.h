@@ -37,6 +37,7 @@ private:
 void RegistraDialogosFrame(CatalogoDemo& c);
 void RegistraDialogosProtocolo(CatalogoDemo& c);
 void RegistraDialogosIdent(CatalogoDemo& c);
+void RegistraDialogosDocumentos(CatalogoDemo& c);
 
 /// Every subsystem's dialogs, in the order of the library's parts.
 CatalogoDemo RegistraTodos();

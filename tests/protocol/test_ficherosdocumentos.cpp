@@ -88,6 +88,9 @@ TEST_F(Documentos, NotaryImages) {
     Config.SetCarpetaImagenes(QStringLiteral("\\\\SERVIDOR\\IMAGENES\\"));
     EXPECT_EQ(FicheroSello(QStringLiteral("2")), QStringLiteral("\\\\SERVIDOR\\IMAGENES\\SELLO2.PNG"));
     EXPECT_EQ(FicheroFirma(QStringLiteral("2")), QStringLiteral("C:\\WORDZEB\\IMAGENES\\FIRMA2.PNG"));
+    // No images folder configured: the bare name, which the document program will not find.
+    Config.SetCarpetaImagenes(QString());
+    EXPECT_EQ(FicheroSello(QStringLiteral("2")), QStringLiteral("SELLO2.PNG"));
 }
 
 TEST_F(Documentos, TheThreeBisFamiliesStayApart) {
@@ -295,18 +298,36 @@ TEST_F(Documentos, FoldersTheFileSystemRefusesStillGiveTheirPath) {
     EXPECT_TRUE(mensajes.mostrados().isEmpty()) << "the caller meets it when writing the file";
 }
 
-// Holds a file against deletion the way this machine allows: a folder without write permission for an
-// ordinary user; for root, whom permissions do not stop, the file's immutable attribute.
+#ifdef Q_OS_LINUX
+// Sets or clears the immutable attribute of a file or folder: nothing inside an immutable folder can be
+// created, renamed or deleted, and an immutable file cannot be deleted, even by root.
+bool ponInmutable(const QString& ruta, bool poner) {
+    const int fd = open(QFile::encodeName(ruta).constData(), O_RDONLY);
+    if (fd < 0) return false;
+    int flags = 0;
+    bool hecho = ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
+    if (hecho) {
+        flags = poner ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
+        hecho = ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
+    }
+    close(fd);
+    return hecho;
+}
+#endif
+
+// Holds a file against deletion, or a whole folder read-only, the way this machine allows: a folder
+// without write permission for an ordinary user; for root, whom permissions do not stop, the immutable
+// attribute of the file or folder itself.
 class Retencion {
 public:
-    explicit Retencion(const QString& fichero)
-        : m_fichero(fichero) {
+    enum Que { Fichero, Carpeta };
+    explicit Retencion(const QString& ruta, Que que = Fichero) {
 #ifdef Q_OS_LINUX
         if (geteuid() == 0) {
-            m_soloFichero = cambiaInmutable(true);
-            m_activa = m_soloFichero;
+            m_inmutable = ruta;
+            m_activa = ponInmutable(ruta, true);
         } else {
-            m_carpeta = QFileInfo(fichero).absolutePath();
+            m_carpeta = que == Carpeta ? ruta : QFileInfo(ruta).absolutePath();
             m_activa = chmod(QFile::encodeName(m_carpeta).constData(), 0555) == 0;
         }
 #endif
@@ -317,14 +338,15 @@ public:
     bool activa() const {
         return m_activa;
     }
+    /// Whether only the file is held (the rest of its folder stays writable).
     bool soloElFichero() const {
-        return m_soloFichero;
+        return !m_inmutable.isEmpty();
     }
     void suelta() {
 #ifdef Q_OS_LINUX
         if (!m_activa) return;
-        if (m_soloFichero)
-            cambiaInmutable(false);
+        if (!m_inmutable.isEmpty())
+            ponInmutable(m_inmutable, false);
         else
             chmod(QFile::encodeName(m_carpeta).constData(), 0755);
         m_activa = false;
@@ -332,22 +354,8 @@ public:
     }
 
 private:
-#ifdef Q_OS_LINUX
-    bool cambiaInmutable(bool poner) {
-        const int fd = open(QFile::encodeName(m_fichero).constData(), O_RDONLY);
-        if (fd < 0) return false;
-        int flags = 0;
-        bool hecho = ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
-        if (hecho) {
-            flags = poner ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
-            hecho = ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
-        }
-        close(fd);
-        return hecho;
-    }
-#endif
-    QString m_fichero, m_carpeta;
-    bool m_activa = false, m_soloFichero = false;
+    QString m_inmutable, m_carpeta;
+    bool m_activa = false;
 };
 
 // A clerk who answers each "Eliminar anexos" question through `responde`.
@@ -507,6 +515,36 @@ TEST_F(DocumentosUnidos, AFailedCopyUndoesTheCallsCopiesAndMovesNothing) {
     EXPECT_FALSE(QFileInfo::exists(general(QStringLiteral("0013.jpg"))));
     EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3);
     EXPECT_FALSE(QFileInfo::exists(disco(QStringLiteral("EXP/INCORPORADOS"))));
+}
+
+// A read-only folder of joined documents: nothing copied into it, the clerk told, the dossier's images
+// kept; a read-only move-to folder: the images are copied and stay in the dossier's folder.
+TEST_F(DocumentosUnidos, ReadOnlyDestinationsLoseNothing) {
+    {
+        Retencion soloLectura(general(), Retencion::Carpeta);
+        if (!soloLectura.activa()) GTEST_SKIP() << "no way to make a folder read-only here";
+        mensajes.respuestas({6});
+        PasaImagenesADU(QStringLiteral("EXP\\DU"), QStringLiteral("EXP\\INCORPORADOS"));
+        ASSERT_EQ(mensajes.mostrados().size(), 2);
+        EXPECT_EQ(mensajes.mostrados()[1].kind, QStringLiteral("Mensaje_Error"));
+        EXPECT_EQ(mensajes.mostrados()[1].text,
+                  QStringLiteral("No se ha podido copiar la imagen EXP\\DU\\A.JPG en "
+                                 "C:\\NODRIM\\DOCUMENTOSUNIDOS\\0013.jpg"));
+    }
+    EXPECT_EQ(ficheros(general()).size(), 3);
+    EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3);
+    EXPECT_FALSE(QFileInfo::exists(disco(QStringLiteral("EXP/INCORPORADOS"))));
+
+    QDir().mkpath(disco(QStringLiteral("EXP/INCORPORADOS")));
+    Retencion soloLectura(disco(QStringLiteral("EXP/INCORPORADOS")), Retencion::Carpeta);
+    ASSERT_TRUE(soloLectura.activa());
+    mensajes.limpia();
+    mensajes.respuestas({6});
+    PasaImagenesADU(QStringLiteral("EXP\\DU"), QStringLiteral("EXP\\INCORPORADOS"));
+    EXPECT_EQ(mensajes.mostrados().size(), 1);
+    EXPECT_EQ(lee(general(QStringLiteral("0013.jpg"))), "a");
+    EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3) << "the images stay where they were";
+    EXPECT_TRUE(ficheros(disco(QStringLiteral("EXP/INCORPORADOS"))).isEmpty());
 }
 
 } // namespace
