@@ -64,9 +64,11 @@ public:
         m_tabla->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
         m_tabla->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
         m_tabla->horizontalHeader()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
-        m_tabla->setMinimumSize(640, 200);
+        m_tabla->setMinimumSize(640, 300);
         auto* etiquetaTabla = new QLabel(QStringLiteral("&Ficheros y carpetas:"), this);
         etiquetaTabla->setBuddy(m_tabla);
+        m_tabla->setAccessibleName(
+            QStringLiteral("Ficheros y carpetas")); // a grid takes no name from a buddy
 
         auto* consultar = new QPushButton(QStringLiteral("&Consultar"), this);
         consultar->setObjectName(QStringLiteral("BConsultar"));
