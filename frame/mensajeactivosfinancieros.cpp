@@ -1,6 +1,7 @@
 #include "frame/mensajeactivosfinancieros.h"
 
 #include "companion/dialogo.h"
+#include "companion/modal.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -121,7 +122,7 @@ void TFMensajeActivosFinancieros::reject() {
 int MuestraActivosFinancieros(int tipo, QWidget* owner) {
     TFMensajeActivosFinancieros forma(owner);
     forma.CambiaTipoMensaje(tipo);
-    return forma.exec();
+    return EjecutaModal(forma);
 }
 
 } // namespace nod

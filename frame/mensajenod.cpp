@@ -2,6 +2,7 @@
 
 #include "companion/dialogo.h"
 #include "companion/foco.h"
+#include "companion/modal.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -251,7 +252,7 @@ int MuestraMensajePerson(const PeticionMensajePerson& p, QWidget* owner) {
     forma->CambiaTipoMensaje(p.tipo, p.boton1, p.boton2);
     forma->CambiaMensaje1(p.mensaje1);
     forma->CambiaMensaje2(p.mensaje2);
-    const int resultado = forma->exec();
+    const int resultado = EjecutaModal(*forma);
     delete forma;
     return resultado;
 }

@@ -1,6 +1,7 @@
 #include "frame/qtmensajes.h"
 
 #include "companion/dialogo.h"
+#include "companion/modal.h"
 #include "frame/cajamensaje.h"
 #include "frame/mensajeactivosfinancieros.h"
 #include "frame/mensajenod.h"
@@ -21,7 +22,7 @@ QWidget* propietario() {
 
 int caja(TCajaMensaje::Tipo tipo, const QString& texto, const QString& titulo, bool focoEnSi = true) {
     TCajaMensaje m(tipo, texto, titulo, focoEnSi, propietario());
-    return m.exec();
+    return EjecutaModal(m);
 }
 
 } // namespace

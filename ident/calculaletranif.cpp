@@ -4,6 +4,7 @@
 #include "companion/documentos.h"
 #include "companion/filtroteclas.h"
 #include "companion/foco.h"
+#include "companion/modal.h"
 #include "ident/nif.h"
 
 #include <QGridLayout>
@@ -229,7 +230,7 @@ void TFCalculaLetraNIF::Valida() {
 
 void ICalculaLetraNif(QWidget* owner) {
     TFCalculaLetraNIF f(owner);
-    f.exec();
+    EjecutaModal(f);
 }
 
 } // namespace nod

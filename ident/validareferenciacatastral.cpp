@@ -4,6 +4,7 @@
 #include "companion/dialogo.h"
 #include "companion/esperadialogo.h"
 #include "companion/mensajes.h"
+#include "companion/modal.h"
 #include "frame/shell.h"
 #include "ident/catastro.h"
 #include "ident/editrefcatastral.h"
@@ -207,7 +208,7 @@ void TFValidaReferenciaCatastral::Catastro() {
 
 void IValidaReferenciaCatastral(QWidget* owner) {
     TFValidaReferenciaCatastral f(owner);
-    f.exec();
+    EjecutaModal(f);
 }
 
 } // namespace nod

@@ -117,6 +117,18 @@ bool retencionComun(TDateTime fecha, double p, QString& mensaje) {
 
 } // namespace
 
+QString NombreImpuestoIndirecto() {
+    switch (territorio()) {
+    case Territorio::Igic:
+        return QStringLiteral("IGIC");
+    case Territorio::Ipsi:
+        return QStringLiteral("IPSI");
+    case Territorio::Iva:
+        break;
+    }
+    return QStringLiteral("IVA");
+}
+
 bool CompruebaIVA(TDateTime fecha, double porcentaje) {
     const Territorio t = territorio();
     const Vigente v = vigente(t, fecha);

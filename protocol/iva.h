@@ -30,6 +30,10 @@ bool CompruebaIVA(TDateTime fecha, double porcentaje);
 /// m == "Compruebe que la retención a aplicar no sería del 15%".
 bool CompruebaRetencion(TDateTime fechaA, TDateTime fechaB, double porcentaje, QString& mensaje);
 
+/// The name of the office's indirect tax, as labels print it: "IVA", "IGIC" in the Canary Islands,
+/// "IPSI" in Ceuta and Melilla (territories as above).
+QString NombreImpuestoIndirecto();
+
 /// True when the office charges VAT on a cash basis (`CriterioFacturacion` 3) and the date's year is 2014
 /// or later. Example: IVA_Por_Caja(31/12/2013) is false whatever the criterion.
 bool IVA_Por_Caja(TDateTime fecha);

@@ -4,6 +4,7 @@
 #include "companion/fechas.h"
 #include "companion/filtroteclas.h"
 #include "companion/hoy.h"
+#include "companion/modal.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -168,7 +169,7 @@ bool PreguntaNumeroFacturaForm(QString& serie, int& ano, int& numero, QString& b
     FPreguntaNumeroFactura = &f;
     if (!titulo.isEmpty()) f.setWindowTitle(titulo);
     f.PonValores(serie, ano, numero, bis);
-    const bool aceptada = f.exec() == 1;
+    const bool aceptada = EjecutaModal(f) == 1;
     FPreguntaNumeroFactura = nullptr;
     if (!aceptada) return false;
     serie = f.Serie();

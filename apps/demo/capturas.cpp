@@ -27,8 +27,13 @@ public:
 
 private:
     void mira() {
-        if (m_hecho) return;
         QWidget* w = QApplication::activeModalWidget();
+        if (m_hecho) {
+            // A routine that asks again after its first box (a confirmation followed by "cancelled")
+            // gets each further box closed as Escape would, without a picture.
+            if (auto* d = qobject_cast<QDialog*>(w)) d->reject();
+            return;
+        }
         if (!w)
             for (QWidget* t : QApplication::topLevelWidgets())
                 if (t != m_principal && t->isVisible() && t->isWindow() && !t->inherits("QMenu")) {

@@ -8,6 +8,7 @@ CatalogoDemo RegistraTodos() {
     RegistraDialogosIdent(c);
     RegistraDialogosProtocolo(c);
     RegistraDialogosDocumentos(c);
+    RegistraDialogosPreguntas(c);
     return c;
 }
 

@@ -38,6 +38,7 @@ void RegistraDialogosFrame(CatalogoDemo& c);
 void RegistraDialogosProtocolo(CatalogoDemo& c);
 void RegistraDialogosIdent(CatalogoDemo& c);
 void RegistraDialogosDocumentos(CatalogoDemo& c);
+void RegistraDialogosPreguntas(CatalogoDemo& c);
 
 /// Every subsystem's dialogs, in the order of the library's parts.
 CatalogoDemo RegistraTodos();

@@ -6,11 +6,13 @@
 
 #include <QDate>
 #include <QtGlobal>
+#include <deque>
 #include <istream>
 #include <limits>
 #include <memory>
 #include <optional>
 #include <ostream>
+#include <utility>
 
 namespace nod::lote {
 
@@ -139,21 +141,46 @@ bool esResultadoModal(const json& r) {
                                   : r.get<std::int64_t>() >= 0 && r.get<std::int64_t>() <= 11;
 }
 
+// A form's answer: {"set": {...}, "press": "..."}, both optional, nothing else.
+bool esRespuestaFormulario(const json& r) {
+    if (!r.is_object()) return false;
+    for (const auto& [clave, valor] : r.items())
+        if (!(clave == "set" && valor.is_object()) && !(clave == "press" && valor.is_string())) return false;
+    return true;
+}
+
 // The request's "answers", taken in order by the dialogs the routine shows: one queue for every kind of
 // dialog, so that a script lists its answers in the order the clerk would give them. Message boxes take
-// modal results; an entry of another kind where a box asks is an error of the request.
+// modal results and forms objects; an entry of the other kind where a dialog asks is an error of the
+// request.
 class Respuestas {
 public:
     /// Empty when `lista` (the "answers" value, or null when there is none) can be used, else what is wrong.
     std::string carga(const json* lista) {
         if (!lista) return {};
-        if (!lista->is_array()) return "\"answers\" must be an array of modal results (0 to 11)";
+        if (!lista->is_array())
+            return "\"answers\" must be an array of modal results (0 to 11) and form answers";
         for (std::size_t i = 0; i < lista->size(); ++i)
-            if (!esResultadoModal((*lista)[i]))
+            if (!esResultadoModal((*lista)[i]) && !esRespuestaFormulario((*lista)[i]))
                 return "answers[" + std::to_string(i) + "]: " + cita((*lista)[i]) +
-                       " is not a modal result (0 to 11)";
+                       " is not a modal result (0 to 11) nor a form answer {\"set\": {...}, \"press\": "
+                       "\"...\"}";
         m_lista = lista;
         return {};
+    }
+
+    /// The next answer, for a form; null when none is left (or the next one is for a message box).
+    const json* paraFormulario() {
+        if (sinUsar() == 0) return nullptr;
+        const json& r = (*m_lista)[m_siguiente];
+        if (!r.is_object()) {
+            m_error = "answers[" + std::to_string(m_siguiente) +
+                      "]: a form asks for {\"set\": {...}, \"press\": \"...\"}, not " + cita(r);
+            m_siguiente = m_lista->size();
+            return nullptr;
+        }
+        ++m_siguiente;
+        return &r;
     }
 
     /// The next answer, for a message box of the given kind; nullopt when none is left.
@@ -233,6 +260,26 @@ json dialogosDe(const ServicioMensajesGuionado& guion) {
     return dialogos;
 }
 
+// The forms of a request in the order of the dialogs: each goes after the message boxes shown before it.
+json dialogosConFormularios(json cajas, const std::deque<std::pair<std::size_t, json>>& formularios) {
+    if (formularios.empty()) return cajas;
+    json todos = json::array();
+    std::size_t f = 0;
+    for (std::size_t i = 0; i <= cajas.size(); ++i) {
+        for (; f < formularios.size() && formularios[f].first == i; ++f)
+            todos.push_back(formularios[f].second);
+        if (i < cajas.size()) todos.push_back(std::move(cajas[i]));
+    }
+    return todos;
+}
+
+Reenvio& reenvio() {
+    static Reenvio r;
+    return r;
+}
+
+thread_local PeticionEnCurso* t_peticion = nullptr;
+
 const json* miembro(const json& objeto, const char* nombre) {
     const auto it = objeto.find(nombre);
     return it == objeto.end() ? nullptr : &*it;
@@ -281,6 +328,35 @@ json demasiadoLarga(long numeroLinea) {
 
 } // namespace
 
+struct PeticionEnCurso::Estado {
+    Respuestas& respuestas;
+    const ServicioMensajesGuionado& guion;
+    std::deque<std::pair<std::size_t, json>> formularios; // by the number of boxes shown before each
+    std::string fallo;
+};
+
+PeticionEnCurso* PeticionEnCurso::Actual() {
+    return t_peticion;
+}
+
+const json* PeticionEnCurso::siguienteParaFormulario() {
+    return m_estado->respuestas.paraFormulario();
+}
+
+json& PeticionEnCurso::anotaFormulario(json entrada) {
+    return m_estado->formularios
+        .emplace_back(std::size_t(m_estado->guion.mostrados().size()), std::move(entrada))
+        .second;
+}
+
+void PeticionEnCurso::falla(std::string motivo) {
+    if (m_estado->fallo.empty()) m_estado->fallo = std::move(motivo);
+}
+
+Reenvio FijaReenvio(Reenvio r) {
+    return std::exchange(reenvio(), std::move(r));
+}
+
 std::string Firmas(const std::string& nombre, const std::vector<Sobrecarga>& formas) {
     std::string s;
     for (const auto& f : formas)
@@ -293,7 +369,11 @@ json Atiende(const json& peticion, const Rutinas& rutinas) {
     if (!fnJson || !fnJson->is_string()) return error("a request is an object with \"fn\" naming a routine");
     const std::string& fn = fnJson->get_ref<const std::string&>();
     const auto* formas = rutinas.busca(fn);
-    if (!formas) return error("unknown routine \"" + recorta(fn) + "\"");
+    if (!formas) {
+        if (const Reenvio& r = reenvio())
+            if (std::optional<json> respuesta = r(peticion)) return std::move(*respuesta);
+        return error("unknown routine \"" + recorta(fn) + "\"");
+    }
 
     static const json sinArgumentos = json::array();
     const json* argsJson = miembro(peticion, "args");
@@ -324,6 +404,10 @@ json Atiende(const json& peticion, const Rutinas& rutinas) {
         [&respuestas](const QString& kind) { return respuestas.paraMensaje(kind); });
     ServicioMensajesInstalado instalado(guion);
 
+    PeticionEnCurso actual;
+    PeticionEnCurso::Estado estado{respuestas, guion, {}, {}};
+    actual.m_estado = &estado;
+    PeticionEnCurso* const exterior = std::exchange(t_peticion, &actual);
     json resultado;
     json out = json::array();
     std::string fallo;
@@ -334,13 +418,16 @@ json Atiende(const json& peticion, const Rutinas& rutinas) {
     } catch (...) {
         fallo = fn + ": unexpected failure";
     }
+    t_peticion = exterior;
+    // An answer of the wrong kind explains the form or box that then found none.
     if (fallo.empty() && !respuestas.error().empty()) fallo = fn + ": " + respuestas.error();
+    if (fallo.empty() && !estado.fallo.empty()) fallo = fn + ": " + recorta(estado.fallo, kLargoMensaje);
     if (const auto n = respuestas.sinUsar(); fallo.empty() && n > 0)
         fallo = fn + ": " + std::to_string(n) + (n == 1 ? " answer" : " answers") + " left unused";
 
     json respuesta = fallo.empty() ? json{{"result", std::move(resultado)}, {"out", std::move(out)}}
                                    : error(std::move(fallo));
-    respuesta["dialogs"] = dialogosDe(guion);
+    respuesta["dialogs"] = dialogosConFormularios(dialogosDe(guion), estado.formularios);
     if (json a = std::move(avisos).avisos(); !a.is_null()) respuesta["warnings"] = std::move(a);
     return respuesta;
 }

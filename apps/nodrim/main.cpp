@@ -5,9 +5,13 @@
 //                                        parameter (21 as an integer, 2.5, true, text as it stands)
 //   nodrim --help                        the routines and their argument types
 //
+// Routines that show forms live in the form layer, nodrim-formularios beside this program, started the
+// first time a request names one (README, "Forms in batch").
+//
 // Exit status: 0 done; 1 a call that failed, an office folder that does not exist, or standard input or
 // output that could not be read or written; 2 a command line that cannot be understood.
 
+#include "apps/nodrim/capaformularios.h"
 #include "apps/nodrim/descriptor.h"
 #include "apps/nodrim/lote.h"
 #include "companion/config.h"
@@ -42,6 +46,10 @@ int ayuda(std::ostream& os) {
           "Routines:\n";
     for (const auto& [nombre, formas] : lote::TodasLasRutinas().todas())
         os << "  " << lote::Firmas(nombre, formas) << '\n';
+    const QString formularios = lote::CapaFormularios(lote::ProgramaCapaFormularios(), {}).Ayuda();
+    if (!formularios.isEmpty())
+        os << "\nRoutines that show forms (answered by the objects of \"answers\"):\n"
+           << formularios.toStdString();
     return 0;
 }
 
@@ -200,6 +208,10 @@ int main(int argc, char** argv) {
     const auto carpeta = carpetaOficina(orden);
     if (!carpeta) return kFallo;
     Config.Carga(*carpeta); // its warnings go to the log (standard error)
+    // A routine this program does not hold may be one that shows a form: the form layer answers it.
+    lote::CapaFormularios capa(lote::ProgramaCapaFormularios(), Config.CarpetaOficina());
+    lote::FijaReenvio(
+        [&capa](const json& peticion) -> std::optional<json> { return capa.Atiende(peticion); });
 
     lote::BufferDescriptor bufferSalida(STDOUT_FILENO, lote::BufferDescriptor::Sentido::Escritura);
     std::ostream salida(&bufferSalida);

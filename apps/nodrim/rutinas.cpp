@@ -11,6 +11,7 @@ const Rutinas& TodasLasRutinas() {
         RegistraRutinasGeo(r);
         RegistraRutinasProtocolo(r);
         RegistraRutinasDocumentos(r);
+        RegistraRutinasPreguntas(r);
         return r;
     }();
     return rutinas;

@@ -6,9 +6,9 @@
 //     rutinas.agrega("AliasNotario", &AliasNotario);
 //     rutinas.agrega("PesetasEurosNod", qOverload<double>(&PesetasEurosNod)); // one overload of several
 //
-// JSON types: integer for int/qint64, number (integer or float) for double and date-times, boolean,
-// string, and a one-character string for a character. Overloads are chosen by argument count, then by
-// the best match of JSON types (an exact type beats an integer passed where a float is expected).
+// JSON types: integer for int/qint64 and colours, number (integer or float) for double and date-times,
+// boolean, string, and a one-character string for a character. Overloads are chosen by argument count, then
+// by the best match of JSON types (an exact type beats an integer passed where a float is expected).
 
 #include <QChar>
 #include <QString>
@@ -53,6 +53,18 @@ template <> struct Conversor<long long> {
 };
 template <> struct Conversor<long> : Conversor<long long> {
     static long desde(const json& j) { return long(j.get<long long>()); }
+};
+
+/// A colour as the suite stores it (`TColor`): a whole number from 0 to 4294967295.
+template <> struct Conversor<unsigned int> {
+    static constexpr const char* nombre = "integer";
+    static int puntua(const json& j) {
+        if (!j.is_number_integer()) return 0;
+        if (j.is_number_unsigned()) return j.get<unsigned long long>() <= UINT32_MAX ? 2 : 0;
+        return j.get<long long>() >= 0 && j.get<long long>() <= UINT32_MAX ? 2 : 0;
+    }
+    static unsigned int desde(const json& j) { return unsigned(j.get<unsigned long long>()); }
+    static json hacia(unsigned int v) { return v; }
 };
 
 template <> struct Conversor<double> {
@@ -154,5 +166,6 @@ void RegistraRutinasIdent(Rutinas& r);
 void RegistraRutinasGeo(Rutinas& r);
 void RegistraRutinasProtocolo(Rutinas& r);
 void RegistraRutinasDocumentos(Rutinas& r);
+void RegistraRutinasPreguntas(Rutinas& r);
 
 } // namespace nod::lote

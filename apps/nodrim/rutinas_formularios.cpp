@@ -1,0 +1,99 @@
+// The routines that show forms, offered to scripts by the form layer (nodrim-formularios). An owner
+// argument is left out (a script has no window to own the form); colours are integers.
+#include "apps/nodrim/formularios.h"
+#include "companion/config.h"
+#include "companion/modal.h"
+#include "ident/calculaletranif.h"
+#include "ident/validareferenciacatastral.h"
+#include "prompts/preguntadatos.h"
+#include "prompts/preguntas.h"
+#include "protocol/preguntanumerofactura.h"
+
+namespace nod::lote {
+
+void RegistraRutinasFormularios(Rutinas& r) {
+    // Dates and periods.
+    r.agrega("PreguntaDesdeElDia", &PreguntaDesdeElDia);
+    r.agrega("PreguntaDesdeHastaElDia",
+             qOverload<int, TDateTime&, TDateTime&, int>(&PreguntaDesdeHastaElDia));
+    r.agrega("PreguntaDesdeHastaElDia",
+             qOverload<TDateTime&, TDateTime&, int, TColor, TColor>(&PreguntaDesdeHastaElDia));
+    r.agrega("PreguntaDesdeHastaElDiaTitul", &PreguntaDesdeHastaElDiaTitul);
+    r.agrega("PreguntaFecha", &PreguntaFecha);
+    r.agrega("PreguntaDesdeHastaCuando", &PreguntaDesdeHastaCuando);
+    r.agrega("PreguntaDesdeHastaFactura", &PreguntaDesdeHastaFactura);
+    r.agrega("PreguntaMesAno", qOverload<int&, int&, const QString&, TColor, TColor>(&PreguntaMesAno));
+    r.agrega("PreguntaMesAno", qOverload<int&, int&, int, const QString&>(&PreguntaMesAno));
+    r.agrega("PreguntaMesAnoSerie", &PreguntaMesAnoSerie);
+    r.agrega("PreguntaTrimAno", &PreguntaTrimAno);
+    r.agrega("PreguntaSemestreAno", &PreguntaSemestreAno);
+    r.agrega("PreguntaAno",
+             qOverload<QString&, const QString&, const QString&, TColor, TColor>(&PreguntaAno));
+    r.agrega("PreguntaAno", qOverload<int&, const QString&, const QString&, TColor, TColor>(&PreguntaAno));
+    r.agrega("PreguntaIndiceModeloAntiguo", &PreguntaIndiceModeloAntiguo);
+
+    // Numbers and amounts.
+    r.agrega("PreguntaNumAno", &PreguntaNumAno);
+    r.agrega("PreguntaNumeroMinuta", &PreguntaNumeroMinuta);
+    r.agrega("PreguntaNumFecha", &PreguntaNumFecha);
+    r.agrega("PreguntaCantidad", &PreguntaCantidad);
+    r.agrega("PreguntaCantidadMaxMin", &PreguntaCantidadMaxMin);
+    r.agrega("PreguntaCuantia", &PreguntaCuantia);
+    r.agrega("PreguntaCuantiaOtorgante", &PreguntaCuantiaOtorgante);
+    r.agrega("PreguntaPorcentaje", &PreguntaPorcentaje);
+    r.agrega("PreguntaXDias", &PreguntaXDias);
+    r.agrega("PreguntaNumCopiasPlusvalia", &PreguntaNumCopiasPlusvalia);
+    r.agrega("PreguntaTurnoPolizas", &PreguntaTurnoPolizas);
+
+    // Invoicing and listings.
+    r.agrega("PreguntaNumeroFactura", qOverload<QString&, QString&>(&PreguntaNumeroFactura));
+    r.agrega("PreguntaNumeroFactura", qOverload<QString&, QString&, QString&>(&PreguntaNumeroFactura));
+    r.agrega("PreguntaNumeroFacturaSerie", &PreguntaNumeroFacturaSerie);
+    r.agrega("PreguntaBalanMensaEspecial", &PreguntaBalanMensaEspecial);
+    r.agrega("PreguntaBalanMensualCobro", &PreguntaBalanMensualCobro);
+    r.agrega("PreguntaMoneda", &PreguntaMoneda);
+    r.agrega("PreguntaSerieGastos", &PreguntaSerieGastos);
+    r.agrega("PreguntaSerieAno", &PreguntaSerieAno);
+
+    // Choices and texts.
+    r.agrega("PreguntaTexto", &PreguntaTexto);
+    r.agrega("PreguntaOficial", &PreguntaOficial);
+    r.agrega(
+        "PreguntaNotario", +[](QString& notario) { return PreguntaNotario(nullptr, notario); });
+    r.agrega(
+        "PreguntaProfesionJuridica", +[](int& codigo) { return PreguntaProfesionJuridica(nullptr, codigo); });
+    r.agrega("PreguntaSexoClientes", &PreguntaSexoClientes);
+    r.agrega("PreguntaModeloCarta", &PreguntaModeloCarta);
+    r.agrega("PreguntaReparacionCliente", &PreguntaReparacionCliente);
+    r.agrega("PreguntaCheckBox", &PreguntaCheckBox);
+    r.agrega("PreguntaSerieCliente", &PreguntaSerieCliente);
+    r.agrega("PreguntaSerieInteresado", &PreguntaSerieInteresado);
+    r.agrega("PreguntaRefCatastral", &PreguntaRefCatastral);
+    r.agrega("PreguntaFichero", &PreguntaFichero);
+    r.agrega("PreguntaClave", &PreguntaClave);
+
+    // Any kind of the data prompt as it stands, for the kinds no routine asks: the modal result.
+    r.agrega(
+        "MuestraPreguntaDatos", +[](const QString& tipo) {
+            TFPreguntaDatos f(nullptr, tipo);
+            return EjecutaModal(f);
+        });
+
+    // The other forms of the library.
+    r.agrega(
+        "PreguntaNumeroFacturaForm",
+        +[](QString& serie, int& ano, int& numero, QString& bis, const QString& titulo) {
+            return PreguntaNumeroFacturaForm(serie, ano, numero, bis, titulo);
+        });
+    r.agrega(
+        "ICalculaLetraNif", +[] { ICalculaLetraNif(nullptr); });
+    // The reference travels in the configuration (`RefCatastralActual`); here in and out as an argument.
+    r.agrega(
+        "IValidaReferenciaCatastral", +[](QString& referencia) {
+            Config.SetRefCatastralActual(referencia);
+            IValidaReferenciaCatastral(nullptr);
+            referencia = Config.GetRefCatastralActual();
+        });
+}
+
+} // namespace nod::lote

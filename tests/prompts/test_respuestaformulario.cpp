@@ -1,0 +1,130 @@
+// Answering a form without a clerk: what the form reports, values entered through its handlers, and a
+// clear refusal naming the control for every answer that does not fit.
+#include "companion/hoy.h"
+#include "companion/pideclave.h"
+#include "companion/respuestaformulario.h"
+#include "prompts/preguntadatos.h"
+#include "tests/support/oficina_prueba.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace nod;
+
+namespace {
+
+struct Hoy {
+    explicit Hoy(int a, int m, int d) { FijaAhora(EncodeDate(a, m, d)); }
+    ~Hoy() { FijaAhora(std::nullopt); }
+};
+
+void muestra(QDialog& f) {
+    f.show();
+    QApplication::setActiveWindow(&f);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
+}
+
+QVariant valor(const FormularioMostrado& m, const char* control) {
+    for (const ValorControl& v : m.valores)
+        if (v.control == QLatin1String(control)) return v.valor;
+    return {};
+}
+
+TEST(RespuestaFormulario, DescribesTheVisiblePanelAndItsValuesAsShown) {
+    Hoy hoy(2024, 3, 10);
+    TFPreguntaDatos f(nullptr, QStringLiteral("TrimestralSinNif"));
+    muestra(f);
+    const FormularioMostrado m = DescribeFormulario(f);
+    EXPECT_EQ(m.titulo, QStringLiteral("Indique el trimestre y el año."));
+    EXPECT_EQ(m.panel, QStringLiteral("pnlTrimestralSinNif"));
+    EXPECT_EQ(valor(m, "cbTrimestre2"), QVariant(QStringLiteral("CUARTO")));
+    EXPECT_EQ(valor(m, "seAno12"), QVariant(QStringLiteral("2023")));
+    EXPECT_EQ(valor(m, "rbModeloApaisado"), QVariant(true));
+    EXPECT_EQ(valor(m, "CBExclusion"), QVariant(true));
+    EXPECT_EQ(valor(m, "ELetraNIF"), QVariant(QString()));
+    EXPECT_FALSE(valor(m, "seAno").isValid()); // controls of other panels do not exist
+    EXPECT_EQ(m.valores.size(), 6);
+}
+
+TEST(RespuestaFormulario, ValuesGoInThroughTheHandlers) {
+    Hoy hoy(2024, 3, 10);
+    TFPreguntaDatos f(nullptr, QStringLiteral("TrimestralSinNif"));
+    muestra(f);
+    const QString e = RespondeFormulario(f, {{{QStringLiteral("cbTrimestre2"), 1},
+                                              {QStringLiteral("seAno12"), QStringLiteral("05")},
+                                              {QStringLiteral("CBExclusion"), false},
+                                              {QStringLiteral("ELetraNIF"), QStringLiteral("x9")}},
+                                             {}});
+    EXPECT_TRUE(e.isEmpty()) << e.toStdString();
+    EXPECT_EQ(f.result(), 1);
+    EXPECT_EQ(f.cbTrimestre2->currentText(), QStringLiteral("SEGUNDO"));
+    EXPECT_EQ(f.seAno12->value(), 2005);                 // completed on leaving the field
+    EXPECT_EQ(f.ELetraNIF->text(), QStringLiteral("x")); // one character: the second key is refused
+}
+
+TEST(RespuestaFormulario, AnswersThatDoNotFitAreRefusedNamingTheControl) {
+    prueba::OficinaPrueba oficina; // no invoice table: "&Aceptar" of the invoice number is disabled
+    struct Caso {
+        const char* tipo;
+        RespuestaFormulario r;
+        const char* error;
+    } casos[] = {
+        {"MesAño",
+         {{{QStringLiteral("cbMez"), 1}}, {}},
+         "the form \"Indique el mes y el año.\" has no control \"cbMez\""},
+        {"MesAño",
+         {{{QStringLiteral("seAno4"), true}}, {}},
+         "control \"seAno4\" takes a string or an integer, not a boolean"},
+        {"MesAño",
+         {{{QStringLiteral("cbMes"), QStringLiteral("Enero")}}, {}},
+         "control \"cbMes\" has no item \"Enero\""},
+        {"MesAño", {{{QStringLiteral("cbMes"), 12}}, {}}, "control \"cbMes\" has no item 12"},
+        {"MesAño",
+         {{}, QStringLiteral("btnNada")},
+         "the form \"Indique el mes y el año.\" has no button \"btnNada\""},
+        {"MesAño", {{{QStringLiteral("btnAceptar"), true}}, {}}, "control \"btnAceptar\" takes no value"},
+        {"SerieGastos",
+         {{{QStringLiteral("rbSerieR"), false}}, {}},
+         "radio button \"rbSerieR\" is cleared by choosing another one"},
+        {"DesdeDia",
+         {{{QStringLiteral("dtpDesdeFecha"), QStringLiteral("15/03/2024")}}, {}},
+         "control \"dtpDesdeFecha\" takes a date \"YYYY-MM-DD\", not a string"},
+        {"Texto",
+         {{{QStringLiteral("eTexto"), 12}}, {}},
+         "control \"eTexto\" takes a string, not an integer"},
+        {"PideNumeroFactura", {{}, {}}, "button \"btnAceptar\" is disabled"},
+        {"PideNumeroFactura",
+         {{{QStringLiteral("ENUMEROFAC"), 7}}, {}},
+         "control \"ENUMEROFAC\" is disabled"},
+        {"CantidadMaxMin",
+         {{{QStringLiteral("lblCantidad"), QStringLiteral("1")}}, {}},
+         "control \"lblCantidad\" takes no value"},
+        {"Cantidad",
+         {{{QStringLiteral("FECantidadMaxima"), 5}}, {}},
+         "control \"FECantidadMaxima\" is not shown"},
+    };
+    for (const Caso& c : casos) {
+        TFPreguntaDatos f(nullptr, QString::fromUtf8(c.tipo));
+        muestra(f);
+        const QString e = RespondeFormulario(f, c.r);
+        EXPECT_TRUE(e.startsWith(QString::fromUtf8(c.error))) << c.tipo << ": " << e.toStdString();
+        EXPECT_TRUE(f.isVisible()) << c.tipo; // nothing pressed
+    }
+}
+
+TEST(RespuestaFormulario, APasswordIsNeverReported) {
+    TFPideClave f;
+    f.setWindowTitle(QStringLiteral("Facturación"));
+    muestra(f);
+    ASSERT_TRUE(RespondeFormulario(
+                    f, {{{QStringLiteral("EClave"), QStringLiteral("ZEB")}}, QStringLiteral("BBCancelar")})
+                    .isEmpty());
+    EXPECT_EQ(f.EClave->text(), QStringLiteral("ZEB"));
+    EXPECT_EQ(valor(DescribeFormulario(f), "EClave"), QVariant(QString()));
+    EXPECT_EQ(f.result(), 2);
+}
+
+} // namespace
