@@ -4,6 +4,7 @@
 #include "apps/demo/catalogo.h"
 #include "companion/config.h"
 #include "companion/dialogo.h"
+#include "companion/modal.h"
 #include "companion/rficheros.h"
 #include "frame/notarios.h"
 #include "protocol/carpetasdocumentos.h"
@@ -195,7 +196,7 @@ private:
 
 QString ficherosDeEscritura(QWidget* owner) {
     FicherosDeEscritura d(owner);
-    d.exec();
+    EjecutaModal(d);
     return QStringLiteral("documento \"%1\"").arg(d.nombreDocumento());
 }
 

@@ -3,6 +3,7 @@
 #include "apps/demo/catalogo.h"
 #include "companion/dialogo.h"
 #include "companion/editimporte.h"
+#include "companion/modal.h"
 #include "protocol/calculadorahonorarios.h"
 #include "protocol/calculametros.h"
 #include "protocol/conversormoneda.h"
@@ -53,26 +54,26 @@ QString calculadoraHonorarios(QWidget* owner) {
 QString respHipotec(QWidget* owner) {
     TFRespHipotec f(owner);
     f.Principal_E = 150000;
-    if (f.exec() != 1) return QStringLiteral("salir");
+    if (EjecutaModal(f) != 1) return QStringLiteral("salir");
     return QStringLiteral("total %1 € (%2 pts.)").arg(f.ETotal_E->text(), f.ETotal->text());
 }
 
 QString fincasRegistrales(QWidget* owner) {
     TFMasDatosFincasRegistrales f(owner, 202401234.1, QStringLiteral("COMPRAVENTA DE VIVIENDA Y GARAJE"),
                                   QStringLiteral("28079-12345|28079-12346|Madrid 4, finca 7.001"));
-    if (f.exec() != 1) return QStringLiteral("cancelado");
+    if (EjecutaModal(f) != 1) return QStringLiteral("cancelado");
     return QStringLiteral("fincas \"%1\"").arg(f.Fincas);
 }
 
 QString conversorMoneda(QWidget* owner) {
     TFConversorMoneda f(owner);
-    f.exec();
+    EjecutaModal(f);
     return QStringLiteral("%1 pts. = %2 €").arg(f.ePesetas->text(), f.eEuros->text());
 }
 
 QString calculaMetros(QWidget* owner) {
     TFCalculaMetrosCuadrados f(owner, QStringLiteral("2"), QStringLiteral("35"), QStringLiteral("12"));
-    f.exec();
+    EjecutaModal(f);
     return f.Tag == 1 ? QStringLiteral("%1 m2").arg(f.EMetros->text()) : QStringLiteral("cancelado");
 }
 
