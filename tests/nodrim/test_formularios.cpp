@@ -381,7 +381,7 @@ TEST(Formularios, TheFormsOfADeed) {
          falla("EPrincipal")},
         {"FincasAceptar",
          pide("TFMasDatosFincasRegistrales", {202401234.1, "COMPRAVENTA", " B|a|A| "}, {fija({})}),
-         sale({"A|B|a"}, 1)},
+         sale({"a|A|B"}, 1)}, // the list sorts as the clerk reads, "a" before "A"
         {"FincasCancelar",
          pide("TFMasDatosFincasRegistrales", {202401234.1, "COMPRAVENTA", "B|A"}, {fija({}, "BBCancelar")}),
          sale({"B|A"}, 2)},
