@@ -33,4 +33,11 @@ public:
     using ErrorNod::ErrorNod;
 };
 
+/// A mail or fax that could not be sent: the message (Spanish, for the clerk) says what was refused or
+/// failed and what, if anything, did go out. Nothing is sent half-way without this saying so.
+class ErrorEnvio : public ErrorNod {
+public:
+    using ErrorNod::ErrorNod;
+};
+
 } // namespace nod

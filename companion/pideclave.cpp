@@ -1,10 +1,9 @@
 #include "companion/pideclave.h"
 
-#include "companion/foco.h"
+#include "companion/dialogo.h"
 #include "companion/modal.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -35,10 +34,8 @@ TFPideClave::TFPideClave(QWidget* owner)
     BBCancelar->setObjectName(QStringLiteral("BBCancelar"));
     auto* botones = new QHBoxLayout;
     botones->addStretch();
-    for (QPushButton* b : {BBAceptar, BBCancelar}) {
-        b->setAutoDefault(false); // Enter moves to the next control
+    for (QPushButton* b : {BBAceptar, BBCancelar})
         botones->addWidget(b);
-    }
     auto* capa = new QVBoxLayout(this);
     capa->addWidget(LPregunta);
     capa->addWidget(EClave);
@@ -46,11 +43,11 @@ TFPideClave::TFPideClave(QWidget* owner)
     capa->addLayout(botones);
     capa->setSizeConstraint(QLayout::SetFixedSize);
 
-    for (QWidget* w : std::initializer_list<QWidget*>{EClave, BBAceptar, BBCancelar})
-        w->installEventFilter(this);
     connect(BBAceptar, &QPushButton::clicked, this, [this] { done(1); });
     connect(BBCancelar, &QPushButton::clicked, this, &TFPideClave::reject);
     EClave->setFocus();
+    // Enter moves to the next control, Escape and "&Cancelar" give 2, the field shows it has the focus.
+    AplicaConvencionesDialogo(this, {.marcaFoco = MarcaFoco::Campos});
 }
 
 bool TFPideClave::Coincide(const QString& esperada) const {
@@ -64,26 +61,6 @@ bool TFPideClave::Coincide(const QString& esperada) const {
         diferencia |= unsigned(a ^ b);
     }
     return diferencia == 0;
-}
-
-void TFPideClave::reject() {
-    done(2);
-}
-
-bool TFPideClave::eventFilter(QObject* o, QEvent* e) {
-    auto* w = static_cast<QWidget*>(o);
-    if (e->type() == QEvent::KeyPress) {
-        const int k = static_cast<QKeyEvent*>(e)->key();
-        if (k == Qt::Key_Return || k == Qt::Key_Enter) {
-            focusNextChild();
-            return true;
-        }
-    } else if (e->type() == QEvent::FocusIn && o == EClave) {
-        TomaFocoControl(w);
-    } else if (e->type() == QEvent::FocusOut && o == EClave) {
-        DejaFocoControl(w);
-    }
-    return QDialog::eventFilter(o, e);
 }
 
 bool PideClave(const QString& titulo, const QString& pregunta, const QString& esperada, QWidget* owner) {

@@ -26,11 +26,6 @@ public:
     /// Whether the typed text is exactly `esperada` (case counts). The whole text is always compared,
     /// so the time taken does not tell how much of it was right.
     bool Coincide(const QString& esperada) const;
-
-    void reject() override; // Escape and "&Cancelar" give 2
-
-protected:
-    bool eventFilter(QObject* o, QEvent* e) override;
 };
 
 /// Shows the dialog with the caption `titulo` and the prompt `pregunta` and returns true exactly when

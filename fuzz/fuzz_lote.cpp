@@ -10,6 +10,7 @@
 // modes, and at the end it says how many forms it called. The routines run on a temporary copy of the
 // sample office, with a temporary folder of their own (tools/fuzz.sh also starts it in a scratch folder).
 #include "apps/nodrim/lote.h"
+#include "comms/pasarela.h"
 #include "companion/config.h"
 #include "fuzz/semillas.h"
 
@@ -18,7 +19,10 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QTcpServer>
 #include <QTemporaryDir>
+#include <QUrl>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <fuzzer/FuzzedDataProvider.h>
@@ -75,9 +79,18 @@ json valorDe(const std::string& tipo, FuzzedDataProvider& datos) {
 }
 
 // A configuration value of the right type for one request, now and then.
+// The hosts the routines talk to stay on a closed port of 127.0.0.1 (`preparaOficina`): never drawn.
+bool esDireccionDeRed(std::string_view nombre) {
+    static constexpr std::string_view kRed[] = {"ServidorCatastro", "WebConsultaCatastro", "ServidorCorreo",
+                                                "PuertoCorreo",     "ServidorFAX",         "PortalFabricante",
+                                                "WebFabricante"};
+    return std::find(std::begin(kRed), std::end(kRed), nombre) != std::end(kRed);
+}
+
 void configuracion(json& peticion, FuzzedDataProvider& datos) {
     const auto descriptores = TConfig::Descriptores();
     const auto& d = descriptores[datos.ConsumeIntegral<std::uint16_t>() % descriptores.size()];
+    if (esDireccionDeRed(d.nombre)) return;
     json v;
     switch (d.tipo) {
     case TConfig::Tipo::Entero:
@@ -196,6 +209,18 @@ void preparaOficina() {
     QDir().mkpath(temporales);
     qputenv("TMPDIR", QFile::encodeName(temporales));
     Config.Carga(oficina);
+    // Nothing leaves the machine: every host is a port of 127.0.0.1 where nothing listens, and no program
+    // is started.
+    QTcpServer libre;
+    libre.listen(QHostAddress::LocalHost);
+    const QString cerrado = QStringLiteral("http://127.0.0.1:%1").arg(libre.serverPort());
+    libre.close();
+    for (const char* nombre :
+         {"ServidorCatastro", "WebConsultaCatastro", "ServidorFAX", "PortalFabricante", "WebFabricante"})
+        TConfig::BuscaDescriptor(QString::fromLatin1(nombre))->escribe(Config, cerrado);
+    Config.SetServidorCorreo(QStringLiteral("127.0.0.1"));
+    Config.SetPuertoCorreo(int(QUrl(cerrado).port()));
+    FijaLanzadorPrograma([](const QString&) { return false; });
 }
 
 } // namespace

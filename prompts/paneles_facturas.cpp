@@ -22,7 +22,8 @@ QWidget* TFPreguntaDatos::construyeSeriesAno() {
     gbSeriesAno = NuevoPanel(this, "gbSeriesAno", QStringLiteral("Indique el año y la serie."),
                              QStringLiteral("AñoSerie"), QStringLiteral(" Serie "));
     seAno2 = Ano(gbSeriesAno, "seAno2", 2000);
-    rbSerieA = Radio(gbSeriesAno, "rbSerieA", QStringLiteral("Serie &A"), true);
+    // Alt+A accepts in every prompt, so series A is reached with the arrows or its own click.
+    rbSerieA = Radio(gbSeriesAno, "rbSerieA", QStringLiteral("Serie A"), true);
     rbSerieB = Radio(gbSeriesAno, "rbSerieB", QStringLiteral("Serie &B"));
     rbSerieC = Radio(gbSeriesAno, "rbSerieC", QStringLiteral("Serie &C"));
     rbSerieD = Radio(gbSeriesAno, "rbSerieD", QStringLiteral("Serie &D"));

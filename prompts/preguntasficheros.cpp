@@ -1,6 +1,7 @@
 #include "prompts/preguntasficheros.h"
 
 #include "companion/config.h"
+#include "companion/dialogo.h"
 #include "companion/modal.h"
 #include "companion/pideclave.h"
 
@@ -47,6 +48,8 @@ bool PreguntaFichero(const QString& titulo, QString& fichero, const QString& car
     d.setLabelText(QFileDialog::Accept, QStringLiteral("&Abrir"));
     d.setLabelText(QFileDialog::Reject, QStringLiteral("&Cancelar"));
     if (!fichero.isEmpty()) d.selectFile(fichero);
+    // Enter opens the chosen file, as in every file dialog; Escape gives the suite's cancel result.
+    AplicaConvencionesDialogo(&d, {.enter = ReglaEnter::BotonPorDefecto});
     if (EjecutaModal(d) != QDialog::Accepted) return false;
     const QStringList elegidos = d.selectedFiles();
     if (elegidos.isEmpty()) return false;

@@ -9,6 +9,7 @@ CatalogoDemo RegistraTodos() {
     RegistraDialogosProtocolo(c);
     RegistraDialogosDocumentos(c);
     RegistraDialogosPreguntas(c);
+    RegistraDialogosComms(c);
     return c;
 }
 

@@ -39,6 +39,7 @@ void RegistraDialogosProtocolo(CatalogoDemo& c);
 void RegistraDialogosIdent(CatalogoDemo& c);
 void RegistraDialogosDocumentos(CatalogoDemo& c);
 void RegistraDialogosPreguntas(CatalogoDemo& c);
+void RegistraDialogosComms(CatalogoDemo& c);
 
 /// Every subsystem's dialogs, in the order of the library's parts.
 CatalogoDemo RegistraTodos();

@@ -119,7 +119,7 @@ void RegistraDialogosPreguntas(CatalogoDemo& c) {
             PreguntaNumeroMinuta(n, a, QStringLiteral("Minuta"), QStringLiteral("Nº de minuta:"), false);
         return si(r) + QStringLiteral(", minuta %1 de %2").arg(n).arg(a);
     });
-    rutina(c, "pregunta_numero_factura", "PreguntaNumeroFactura", [] {
+    rutina(c, "rutina_pregunta_numero_factura", "PreguntaNumeroFactura", [] {
         QString s, n, b;
         const bool r = PreguntaNumeroFactura(s, n, b);
         return si(r) + QStringLiteral(", serie ") + texto(s) + QStringLiteral(", número ") + texto(n) +

@@ -131,7 +131,7 @@ std::optional<json> comoTipo(const std::string& palabra, std::string tipo) {
     if (tipo == "string" || tipo == "character") return json(palabra);
     const json j = json::parse(palabra, nullptr, false);
     const bool encaja = (tipo == "integer" && j.is_number_integer()) || (tipo == "number" && j.is_number()) ||
-                        (tipo == "boolean" && j.is_boolean());
+                        (tipo == "boolean" && j.is_boolean()) || (tipo == "array of strings" && j.is_array());
     return encaja ? std::optional<json>(j) : std::nullopt;
 }
 

@@ -12,6 +12,7 @@ const Rutinas& TodasLasRutinas() {
         RegistraRutinasProtocolo(r);
         RegistraRutinasDocumentos(r);
         RegistraRutinasPreguntas(r);
+        RegistraRutinasComms(r);
         return r;
     }();
     return rutinas;

@@ -7,11 +7,13 @@
 //     rutinas.agrega("PesetasEurosNod", qOverload<double>(&PesetasEurosNod)); // one overload of several
 //
 // JSON types: integer for int/qint64 and colours, number (integer or float) for double and date-times,
-// boolean, string, and a one-character string for a character. Overloads are chosen by argument count, then
-// by the best match of JSON types (an exact type beats an integer passed where a float is expected).
+// boolean, string, a one-character string for a character, and an array of strings (or null for none) for
+// a string list. Overloads are chosen by argument count, then by the best match of JSON types (an exact
+// type beats an integer passed where a float is expected).
 
 #include <QChar>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <map>
 #include <nlohmann/json.hpp>
@@ -86,6 +88,30 @@ template <> struct Conversor<QString> {
     static int puntua(const json& j) { return j.is_string() ? 2 : 0; }
     static QString desde(const json& j) { return QString::fromStdString(j.get_ref<const std::string&>()); }
     static json hacia(const QString& v) { return v.toStdString(); }
+};
+
+template <> struct Conversor<QStringList> {
+    static constexpr const char* nombre = "array of strings";
+    static int puntua(const json& j) {
+        if (j.is_null()) return 1; // no list
+        if (!j.is_array()) return 0;
+        for (const auto& e : j)
+            if (!e.is_string()) return 0;
+        return 2;
+    }
+    static QStringList desde(const json& j) {
+        QStringList r;
+        if (j.is_array())
+            for (const auto& e : j)
+                r.append(QString::fromStdString(e.get<std::string>()));
+        return r;
+    }
+    static json hacia(const QStringList& v) {
+        json r = json::array();
+        for (const QString& s : v)
+            r.push_back(s.toStdString());
+        return r;
+    }
 };
 
 template <> struct Conversor<QChar> {
@@ -167,5 +193,6 @@ void RegistraRutinasGeo(Rutinas& r);
 void RegistraRutinasProtocolo(Rutinas& r);
 void RegistraRutinasDocumentos(Rutinas& r);
 void RegistraRutinasPreguntas(Rutinas& r);
+void RegistraRutinasComms(Rutinas& r);
 
 } // namespace nod::lote

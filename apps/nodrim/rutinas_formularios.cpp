@@ -1,6 +1,8 @@
 // The routines that show forms, offered to scripts by the form layer (nodrim-formularios). An owner
 // argument is left out (a script has no window to own the form); colours are integers.
 #include "apps/nodrim/formularios.h"
+#include "comms/editormail.h"
+#include "comms/preguntadatosmovilcorreo.h"
 #include "companion/config.h"
 #include "companion/modal.h"
 #include "ident/calculaletranif.h"
@@ -140,6 +142,14 @@ void RegistraRutinasFormularios(Rutinas& r) {
             metros = f.MetrosCuadrados;
             return f.Tag;
         });
+
+    // Mail: the client's mobile and address (both in and out), and the mail editor, whose "BBEnviar" sends
+    // through the office's SMTP server.
+    r.agrega(
+        "PreguntaDatosMovilCorreo", +[](const QString& nombre, QString& movil, QString& correo) {
+            return PreguntaDatosMovilCorreo(nullptr, nombre, movil, correo);
+        });
+    r.agrega("MuestraEmail", &MuestraEmail);
 }
 
 } // namespace nod::lote

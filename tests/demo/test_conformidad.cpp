@@ -27,6 +27,7 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace nod {
@@ -171,7 +172,13 @@ TEST_P(Conformidad, SharedConventions) {
             if (copia.enter == ReglaEnter::SiguienteControl) {
                 EXPECT_EQ(pulsado.size(), 0) << boton << ": Enter pressed the button";
                 EXPECT_TRUE(w->isVisible()) << boton << ": Enter closed the dialog";
-                EXPECT_NE(QApplication::focusWidget(), b) << boton << ": Enter did not move the focus";
+                // A form left with one control that takes the focus (the others disabled) has nowhere to go.
+                const bool otroControl = std::ranges::any_of(w->findChildren<QWidget*>(), [&](QWidget* c) {
+                    return c != b && c->window() == w && c->isEnabled() && c->isVisibleTo(w) &&
+                           (c->focusPolicy() & Qt::TabFocus);
+                });
+                if (otroControl)
+                    EXPECT_NE(QApplication::focusWidget(), b) << boton << ": Enter did not move the focus";
             } else {
                 EXPECT_EQ(pulsado.size(), 1) << boton << ": Enter did not press the focused button";
             }

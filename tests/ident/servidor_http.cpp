@@ -31,25 +31,46 @@ ServidorHttp::ServidorHttp() {
                 p.cuerpo = buffer->mid(fin + 4, largo);
                 buffer->clear();
                 m_peticiones.append(p);
-                if (m_modo == Modo::Cierra)
-                    s->abort();
-                else if (m_modo == Modo::Responde) {
-                    QTimer::singleShot(m_retrasoMs, s, [s, r = m_respuesta] {
-                        s->write(r);
-                        s->disconnectFromHost();
-                    });
-                }
+                atiende(s, p);
             });
         }
     });
 }
 
-void ServidorHttp::respondeCon(const QByteArray& cuerpo, int estado, int retrasoMs) {
+void ServidorHttp::atiende(QTcpSocket* s, const PeticionHttp& p) {
+    if (m_modo == Modo::Cierra) {
+        s->abort();
+        return;
+    }
+    if (m_modo == Modo::Calla) return;
+    RespuestaHttp r = m_respuesta;
+    if (!m_cola.empty()) {
+        r = m_cola.front();
+        m_cola.pop_front();
+    } else if (auto it = m_porRuta.constFind(p.ruta.split('?').front()); it != m_porRuta.cend()) {
+        r = *it;
+    }
+    QByteArray cabecera = "HTTP/1.1 " + QByteArray::number(r.estado) + (r.estado < 300 ? " OK" : " Error") +
+                          "\r\nContent-Type: " + r.tipo +
+                          "\r\nConnection: close\r\nContent-Length: " + QByteArray::number(r.cuerpo.size()) +
+                          "\r\n";
+    for (const auto& [nombre, valor] : r.cabeceras)
+        cabecera += nombre + ": " + valor + "\r\n";
+    cabecera += "\r\n" + (r.corta ? r.cuerpo.left(r.cuerpo.size() / 2) : r.cuerpo);
+    QTimer::singleShot(r.retrasoMs, s, [s, bytes = std::move(cabecera), corta = r.corta] {
+        s->write(bytes);
+        if (corta) {
+            s->flush();
+            s->abort();
+        } else {
+            s->disconnectFromHost();
+        }
+    });
+}
+
+void ServidorHttp::respondeCon(const RespuestaHttp& r) {
     m_modo = Modo::Responde;
-    m_retrasoMs = retrasoMs;
-    m_respuesta = "HTTP/1.1 " + QByteArray::number(estado) + (estado == 200 ? " OK" : " Error") +
-                  "\r\nContent-Type: text/xml; charset=utf-8\r\nConnection: close\r\nContent-Length: " +
-                  QByteArray::number(cuerpo.size()) + "\r\n\r\n" + cuerpo;
+    m_respuesta = r;
 }
 
 quint16 ServidorHttp::puertoCerrado() {

@@ -1,0 +1,265 @@
+// Fax jobs against a real HTTP server on 127.0.0.1 standing for the fax service: what is posted (numbers,
+// account, documents, the job options of the initialisation file), which account and file are used, and
+// how refusals, dropped connections and silence are reported.
+#include "comms/correo.h"
+#include "comms/maininterfax.h"
+#include "companion/errores.h"
+#include "tests/comms/apoyo.h"
+#include "tests/ident/servidor_http.h"
+#include "tests/support/oficina_prueba.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace nod {
+namespace {
+
+using prueba::RespuestaHttp;
+
+RespuestaHttp aceptado(const QByteArray& id) {
+    RespuestaHttp r;
+    r.estado = 201;
+    r.tipo = "application/json";
+    r.cabeceras = {{"Location", "https://rest.interfax.net/outbound/faxes/" + id}};
+    return r;
+}
+
+RespuestaHttp rechazado(int estado, const QByteArray& json) {
+    RespuestaHttp r;
+    r.estado = estado;
+    r.cuerpo = json;
+    r.tipo = "application/json";
+    return r;
+}
+
+class FaxTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        Config.SetServidorFAX(servidor.base());
+        Config.SetEsperaFAXMs(1000);
+        Config.SetsUsuarioFAX(QStringLiteral("notaria_cfg"));
+        Config.SetsPasswordFAX(QStringLiteral("clave_cfg"));
+        servidor.respondeCon(aceptado("1"));
+    }
+    QString documento(const QString& nombre, const QByteArray& contenido) {
+        return prueba::EscribeFichero(QDir(carpeta.path()).filePath(nombre), contenido);
+    }
+    QString fax(const QStringList& docs, const QStringList& numeros, const QString& usuario = {},
+                const QString& password = {}, const QString& ini = {}, QStringList* ids = nullptr) {
+        try {
+            const QStringList r = EnviarFAXInterFax(nullptr, docs, numeros, password, usuario, ini);
+            if (ids) *ids = r;
+            return {};
+        } catch (const ErrorEnvio& e) {
+            return e.mensaje();
+        }
+    }
+
+    prueba::OficinaPrueba oficina;
+    prueba::ServidorHttp servidor;
+    QTemporaryDir carpeta;
+};
+
+TEST_F(FaxTest, EachRecipientGetsTheDocumentsWithTheGivenAccount) {
+    QByteArray pdf = "%PDF-1.4\n";
+    for (int i = 0; i < 256; ++i)
+        pdf += char(i);
+    const QString a = documento(QStringLiteral("escritura.pdf"), pdf);
+    const QString b = documento(QStringLiteral("anexo Núñez.txt"), "Anexo\r\n");
+    servidor.encola(aceptado("1001"));
+    servidor.encola(aceptado("1002"));
+    QStringList ids;
+    ASSERT_EQ(fax({a, b}, {QStringLiteral("+34 91 555-12-12"), QStringLiteral("(0034) 93.555.00.00")},
+                  QStringLiteral("usuario"), QStringLiteral("clave ñ"), {}, &ids),
+              QString());
+    EXPECT_EQ(ids, QStringList({QStringLiteral("1001"), QStringLiteral("1002")}));
+
+    ASSERT_EQ(servidor.peticiones().size(), 2);
+    const QByteArray rutas[] = {"/outbound/faxes?faxNumber=%2B34915551212",
+                                "/outbound/faxes?faxNumber=0034935550000"};
+    for (int i = 0; i < 2; ++i) {
+        const prueba::PeticionHttp& p = servidor.peticiones()[i];
+        EXPECT_EQ(p.metodo, "POST");
+        EXPECT_EQ(p.ruta, rutas[i]);
+        EXPECT_EQ(p.cabeceras.value("authorization"), "Basic " + QByteArray("usuario:clave ñ").toBase64());
+        EXPECT_TRUE(p.cabeceras.value("content-type").startsWith("multipart/mixed; boundary="));
+        EXPECT_TRUE(p.cuerpo.contains(pdf)) << "the document byte for byte";
+        EXPECT_TRUE(p.cuerpo.contains("Content-Type: application/pdf"));
+        EXPECT_TRUE(p.cuerpo.contains("filename=\"escritura.pdf\""));
+        EXPECT_TRUE(p.cuerpo.contains("filename=\"anexo N__ez.txt\"")) << "names beyond ASCII are replaced";
+        EXPECT_TRUE(p.cuerpo.contains("Anexo\r\n"));
+        EXPECT_LT(p.cuerpo.indexOf(pdf), p.cuerpo.indexOf("Anexo\r\n")) << "documents in order";
+    }
+}
+
+// Without a user the office's account and "CONFIG\VARIOS.INI" are used; a file given is read instead.
+TEST_F(FaxTest, AccountAndInitialisationFileFollowTheirRules) {
+    oficina.escribe(
+        QStringLiteral("CONFIG/VARIOS.INI"),
+        QStringLiteral("[INTERFAX]\nCSID=NOTARIA MADRID\nCabecera=Notaría de Pruebas\nReintentos=3\n"));
+    oficina.escribe(QStringLiteral("otro.ini"), QStringLiteral("[interfax]\ncsid=OTRA\nReintentos=9\n"));
+    oficina.escribe(QStringLiteral("C/FAX.INI"), QStringLiteral("[INTERFAX]\nCSID=UNIDAD C\n"));
+    const QString doc = documento(QStringLiteral("a.pdf"), "%PDF");
+    struct Caso {
+        const char* nombre;
+        QString usuario, password, ini;
+        QByteArray autorizacion, consulta;
+    };
+    const QByteArray cfg = "Basic " + QByteArray("notaria_cfg:clave_cfg").toBase64();
+    const Caso casos[] = {
+        {"no user, no file",
+         {},
+         QStringLiteral("ignorada"),
+         {},
+         cfg,
+         "faxNumber=915551212&csid=NOTARIA%20MADRID&pageHeader=Notar%C3%ADa%20de%20Pruebas&retriesToPerform="
+         "3"},
+        {"a user of its own",
+         QStringLiteral("otro"),
+         QStringLiteral("x"),
+         {},
+         "Basic " + QByteArray("otro:x").toBase64(),
+         "faxNumber=915551212&csid=NOTARIA%20MADRID&pageHeader=Notar%C3%ADa%20de%20Pruebas&retriesToPerform="
+         "3"},
+        {"a relative file, retries out of range",
+         {},
+         {},
+         oficina.ruta(QStringLiteral("otro.ini")),
+         cfg,
+         "faxNumber=915551212&csid=OTRA"},
+        {"a drive-C file", {}, {}, QStringLiteral("C:\\FAX.INI"), cfg, "faxNumber=915551212&csid=UNIDAD%20C"},
+        {"a file that does not exist",
+         {},
+         {},
+         QStringLiteral("CONFIG\\NOEXISTE.INI"),
+         cfg,
+         "faxNumber=915551212"},
+    };
+    for (const Caso& c : casos) {
+        const qsizetype antes = servidor.peticiones().size();
+        EXPECT_EQ(fax({doc}, {QStringLiteral("915551212")}, c.usuario, c.password, c.ini), QString())
+            << c.nombre;
+        ASSERT_EQ(servidor.peticiones().size(), antes + 1) << c.nombre;
+        const prueba::PeticionHttp& p = servidor.peticiones().last();
+        EXPECT_EQ(p.cabeceras.value("authorization"), c.autorizacion) << c.nombre;
+        EXPECT_EQ(p.ruta, "/outbound/faxes?" + c.consulta) << c.nombre;
+    }
+}
+
+TEST_F(FaxTest, WrongInputSendsNothing) {
+    const QString doc = documento(QStringLiteral("a.pdf"), "%PDF");
+    struct Caso {
+        const char* nombre;
+        QStringList docs, numeros;
+        std::function<void()> prepara;
+        const char* mensaje;
+    };
+    const Caso casos[] = {
+        {"a number with letters",
+         {doc},
+         {QStringLiteral("915551212"), QStringLiteral("91-ABC")},
+         {},
+         "«91-ABC» no es un número de fax válido"},
+        {"a number too short", {doc}, {QStringLiteral("12")}, {}, "«12» no es un número de fax válido"},
+        {"a plus inside", {doc}, {QStringLiteral("91+5551212")}, {}, "no es un número de fax válido"},
+        {"missing document",
+         {doc, QStringLiteral("/no/existe.pdf")},
+         {QStringLiteral("915551212")},
+         {},
+         "«/no/existe.pdf»"},
+        {"no documents", {}, {QStringLiteral("915551212")}, {}, "ningún documento"},
+        {"no recipients", {doc}, {}, {}, "ningún número"},
+        {"no account",
+         {doc},
+         {QStringLiteral("915551212")},
+         [] { Config.SetsUsuarioFAX({}); },
+         "No se ha configurado la cuenta del servicio de fax"},
+        {"no service address",
+         {doc},
+         {QStringLiteral("915551212")},
+         [] { Config.SetServidorFAX(QStringLiteral("rest")); },
+         "«rest» no es válida"},
+    };
+    for (const Caso& c : casos) {
+        SetUp();
+        if (c.prepara) c.prepara();
+        const QString error = fax(c.docs, c.numeros);
+        EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << c.nombre << ": " << error.toStdString();
+    }
+    EXPECT_TRUE(servidor.peticiones().isEmpty());
+}
+
+// A job stops at the first recipient that fails; the message names what went, what failed and why, and
+// what was not tried.
+TEST_F(FaxTest, FailuresSayWhatWasSentAndWhatWasNot) {
+    const QString doc = documento(QStringLiteral("a.pdf"), "%PDF");
+    const QStringList tres = {QStringLiteral("911111111"), QStringLiteral("922222222"),
+                              QStringLiteral("933333333")};
+    struct Caso {
+        const char* nombre;
+        std::function<void(prueba::ServidorHttp&)> prepara;
+        const char* mensaje;
+        qsizetype peticiones;
+    };
+    const Caso casos[] = {
+        {"account refused",
+         [](prueba::ServidorHttp& s) {
+             s.encola(rechazado(401, R"({"code":-1003,"message":"Authentication error"})"));
+         },
+         "No se ha podido enviar el fax al 911111111 (HTTP 401: Authentication error). No se ha enviado a: "
+         "922222222, 933333333.",
+         1},
+        {"second number refused",
+         [](prueba::ServidorHttp& s) {
+             s.encola(aceptado("7"));
+             s.encola(rechazado(400, R"({"code":-112,"message":"Invalid fax number"})"));
+         },
+         "No se ha podido enviar el fax al 922222222 (HTTP 400: Invalid fax number). Sí se ha enviado a: "
+         "911111111. No se ha enviado a: 933333333.",
+         2},
+        {"last one answers an error page",
+         [](prueba::ServidorHttp& s) {
+             s.encola(aceptado("7"));
+             s.encola(aceptado("8"));
+             s.encola(rechazado(503, "<html><body>Service Unavailable</body></html>"));
+         },
+         "al 933333333 (HTTP 503: <html><body>Service Unavailable</body></html>). Sí se ha enviado a: "
+         "911111111, 922222222.",
+         3},
+        // Qt's HTTP client sends a request once more when the connection closes without an answer.
+        {"dropped connection", [](prueba::ServidorHttp& s) { s.cierra(); },
+         "No se ha podido enviar el fax al 911111111 (el servidor ha cerrado la conexión sin responder). No "
+         "se ha "
+         "enviado a: 922222222, 933333333.",
+         2},
+        {"silence", [](prueba::ServidorHttp& s) { s.calla(); },
+         "No se ha podido enviar el fax al 911111111 (sin respuesta en 1 s)", 1},
+        {"nobody listening",
+         [](prueba::ServidorHttp&) {
+             Config.SetServidorFAX(
+                 QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado()));
+         },
+         "No se ha podido enviar el fax al 911111111 (conexión rechazada)", 0},
+    };
+    prueba::RegistroCapturado registro;
+    for (const Caso& c : casos) {
+        prueba::ServidorHttp propio;
+        Config.SetServidorFAX(propio.base());
+        propio.respondeCon(aceptado("1"));
+        c.prepara(propio);
+        const QString error = fax({doc}, tres);
+        EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << c.nombre << ": " << error.toStdString();
+        EXPECT_FALSE(error.contains(QStringLiteral("clave_cfg"))) << c.nombre;
+        EXPECT_EQ(propio.peticiones().size(), c.peticiones) << c.nombre;
+    }
+    // Neither the account's password nor its encoded form reaches the log.
+    const QString todo = registro.texto();
+    EXPECT_TRUE(todo.contains(QStringLiteral("922222222")));
+    EXPECT_FALSE(todo.contains(QStringLiteral("clave_cfg")));
+    EXPECT_FALSE(todo.contains(QString::fromLatin1(QByteArray("notaria_cfg:clave_cfg").toBase64())));
+}
+
+} // namespace
+} // namespace nod

@@ -1,0 +1,130 @@
+// The mail forms answered through the real `nodrim batch` and its form layer, as a script answers them:
+// the client's mobile and address (its key filter and what comes back out), and the mail editor sending
+// to a real SMTP server on 127.0.0.1.
+#include "tests/comms/servidor_correo.h"
+
+#include <QJsonArray>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+using json = nlohmann::json;
+
+namespace nod {
+namespace {
+
+// One `nodrim batch` on the sample office for every request; one response per line.
+std::vector<json> ejecuta(const std::vector<json>& peticiones) {
+    QByteArray entrada;
+    for (const json& p : peticiones)
+        entrada += QByteArray::fromStdString(p.dump()) + '\n';
+    QProcess p;
+    QProcessEnvironment e = QProcessEnvironment::systemEnvironment();
+    e.remove(QStringLiteral("NODRIM_DIR"));
+    p.setProcessEnvironment(e);
+    p.start(QStringLiteral(NODRIM_EXE), {QStringLiteral("batch"), QStringLiteral("--office"),
+                                         QStringLiteral(NOD_SOURCE_DIR "/sample-office")});
+    p.write(entrada);
+    p.closeWriteChannel();
+    EXPECT_TRUE(p.waitForFinished(120000));
+    EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
+    std::vector<json> respuestas;
+    for (const QByteArray& linea : p.readAllStandardOutput().split('\n'))
+        if (!linea.isEmpty()) respuestas.push_back(json::parse(linea.toStdString()));
+    return respuestas;
+}
+
+TEST(FormulariosComms, MobileAndMailFormAnsweredFromAScript) {
+    const auto pide = [](json respuesta, const char* movil = "", const char* correo = "ana@example.es") {
+        return json{{"fn", "PreguntaDatosMovilCorreo"},
+                    {"args", {"GARCÍA LÓPEZ, ANA", movil, correo}},
+                    {"answers", {std::move(respuesta)}}};
+    };
+    struct Caso {
+        const char* nombre;
+        json peticion;
+        json resultado, out; // out: null when the request must fail
+        const char* error = "";
+    };
+    const std::vector<Caso> casos = {
+        // Letters, blanks and the plus sign are swallowed by the mobile field as keys; digits and points
+        // stay.
+        {"typed through the key filter",
+         pide({{"set", {{"MEMovil", "+34 600a12.34"}, {"ECorreo", "ana.garcia@example.es"}}}}),
+         true,
+         {"3460012.34", "ana.garcia@example.es"}},
+        {"accepted as it came", pide(json::object(), "600123456"), true, {"600123456", "ana@example.es"}},
+        {"cancelled: both left as they came",
+         pide({{"set", {{"MEMovil", "611"}}}, {"press", "BBCancelar"}}, "600123456"),
+         false,
+         {"600123456", "ana@example.es"}},
+        {"a control the form does not have", pide({{"set", {{"EMovil", "6"}}}}), nullptr, nullptr, "EMovil"},
+    };
+    std::vector<json> peticiones;
+    for (const Caso& c : casos)
+        peticiones.push_back(c.peticion);
+    const std::vector<json> r = ejecuta(peticiones);
+    ASSERT_EQ(r.size(), casos.size());
+    for (std::size_t i = 0; i < casos.size(); ++i) {
+        SCOPED_TRACE(casos[i].nombre);
+        if (casos[i].out.is_null()) {
+            ASSERT_TRUE(r[i].contains("error")) << r[i].dump();
+            EXPECT_NE(r[i]["error"].get<std::string>().find(casos[i].error), std::string::npos)
+                << r[i].dump();
+            continue;
+        }
+        ASSERT_FALSE(r[i].contains("error")) << r[i].dump();
+        EXPECT_EQ(r[i]["result"], casos[i].resultado);
+        EXPECT_EQ(r[i]["out"], casos[i].out);
+    }
+    // The form as it opened: its caption, and what it showed before the script typed.
+    const json& f = r[0]["dialogs"][0];
+    EXPECT_EQ(f["kind"], "form");
+    EXPECT_EQ(f["title"], "Datos del Cliente, Movil y Correo");
+    EXPECT_EQ(f["values"]["MEMovil"], "");
+    EXPECT_EQ(f["values"]["ECorreo"], "ana@example.es");
+}
+
+TEST(FormulariosComms, MailEditorSendsFromAScript) {
+    prueba::ServidorCorreo servidor;
+    ASSERT_NE(servidor.puerto(), 0) << servidor.error().toStdString();
+    const json correo = {{"ServidorCorreo", "127.0.0.1"},
+                         {"PuertoCorreo", servidor.puerto()},
+                         {"SeguridadCorreo", "NINGUNA"},
+                         {"RemitenteCorreo", "notaria@example.es"},
+                         {"EsperaCorreoMs", 3000}};
+    const auto editor = [&](json respuestas) {
+        return json{{"fn", "MuestraEmail"},
+                    {"args", {"ana@example.es"}},
+                    {"config", correo},
+                    {"answers", std::move(respuestas)}};
+    };
+    const std::vector<json> r = ejecuta({
+        editor({{{"set",
+                  {{"ECC", "luis@example.es"}, {"EAsunto", "Copia simple nº 7"}, {"MCuerpo", "Adjunta."}}},
+                 {"press", "BBEnviar"}}}),
+        // Closed without sending.
+        editor({{{"set", {{"EAsunto", "Borrador"}}}, {"press", "BBCerrar"}}}),
+        // Without a subject the editor asks, and the script's next answer (6, yes) sends it anyway.
+        editor({{{"set", {{"MCuerpo", "Sin asunto"}}}, {"press", "BBEnviar"}}, 6}),
+    });
+    ASSERT_EQ(r.size(), 3u);
+    EXPECT_FALSE(r[0].contains("error")) << r[0].dump();
+    EXPECT_EQ(r[0]["dialogs"][0]["values"]["EPara"], "ana@example.es");
+    EXPECT_FALSE(r[1].contains("error")) << r[1].dump();
+    ASSERT_FALSE(r[2].contains("error")) << r[2].dump();
+    EXPECT_EQ(r[2]["dialogs"][1]["kind"], "Mensaje_SiNo");
+    EXPECT_EQ(r[2]["dialogs"][1]["text"], "Mensaje sin asunto\n¿Desea enviarlo de todas formas?");
+    EXPECT_EQ(r[2]["dialogs"][1]["answer"], 1); // Mensaje_SiNo answers 1 for yes
+
+    const QList<QJsonObject> m = servidor.mensajes();
+    ASSERT_EQ(m.size(), 2);
+    EXPECT_EQ(m[1][u"subject"].toString(), QString());
+    EXPECT_EQ(m[0][u"subject"].toString(), QStringLiteral("Copia simple nº 7"));
+    EXPECT_EQ(m[0][u"to"].toArray(), QJsonArray{QStringLiteral("ana@example.es")});
+    EXPECT_EQ(m[0][u"cc"].toArray(), QJsonArray{QStringLiteral("luis@example.es")});
+}
+
+} // namespace
+} // namespace nod

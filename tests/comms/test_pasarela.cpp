@@ -1,0 +1,509 @@
+// The web gateway's files against a real HTTP server on 127.0.0.1 standing for the maker's portal: which
+// files are checked and where, the questions, wait message and errors of each routine, where downloads go,
+// and that a failed download never leaves a partial file; the set-up program, the initialisation file, the
+// XML cutter, the updating workstation and the connection test.
+#include "comms/conexion.h"
+#include "comms/descarga.h"
+#include "comms/pasarela.h"
+#include "companion/equipo.h"
+#include "companion/mensajes.h"
+#include "tests/comms/apoyo.h"
+#include "tests/ident/servidor_http.h"
+#include "tests/support/oficina_prueba.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <iostream>
+
+namespace nod {
+namespace {
+
+using prueba::RespuestaHttp;
+
+const QByteArray kRuta = "/modules/Programas/NODRIM/Actualizaciones/Download/08tecnico01/";
+
+RespuestaHttp fichero(const QByteArray& contenido, const QByteArray& tipo = "application/octet-stream") {
+    RespuestaHttp r;
+    r.cuerpo = contenido;
+    r.tipo = tipo;
+    return r;
+}
+
+QByteArray lee(const QString& ruta) {
+    QFile f(ruta);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
+}
+
+void escribe(const QString& ruta, const QByteArray& contenido) {
+    prueba::EscribeFichero(ruta, contenido);
+}
+
+// Dialogs as "kind|title|text".
+QStringList vistos(const ServicioMensajesGuionado& g) {
+    QStringList r;
+    for (const DialogoMostrado& d : g.mostrados())
+        r.append(d.kind + u'|' + d.title + u'|' + d.text);
+    return r;
+}
+
+QStringList textos(std::initializer_list<const char*> l) {
+    QStringList r;
+    for (const char* t : l)
+        r.append(QString::fromUtf8(t));
+    return r;
+}
+
+const QStringList kLibrerias = textos({"PasarelaWebCGN.dll", "Base64.dll", "CGZipLibrary.dll", "msxml4.dll",
+                                       "msxml4a.dll", "msxml4r.dll", "Unzip32.dll", "zip32.dll"});
+const QStringList kConfiguracion =
+    textos({"conf/cgn_config.xml", "conf/cgn_config.xsd", "xsd_forms/common.xsd"});
+const QStringList kEnviosUnicos = textos({"templates/acta_1.7.xml", "templates/parte_1.7.xml",
+                                          "xsd/ACTA_NOTARIO-1.7dll.xsd", "xsd/PARTE_NOTARIO-1.7dll.xsd"});
+
+const QString kPreguntaFicheros = QStringLiteral("Mensaje_SiNo|Alguno de los ficheros de la Pasarela Web no "
+                                                 "encontrados|No se han encontrado alguno de los "
+                                                 "ficheros de la Pasarela Web\n¿Descargar los ficheros para "
+                                                 "enviar Partes y Actas? Asegúrese de estar conectado");
+const QString kErrorFicheros =
+    QStringLiteral("Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
+                   "descargar alguno de los ficheros de instalación de la Pasarela Web");
+const QString kEsperaFicheros = QStringLiteral("Descargando ficheros del Portal de Zeb Soft...");
+
+class PasarelaTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        FijaCarpetaPrograma(programa.path());
+        Config.SetPortalFabricante(servidor.base());
+        Config.SetEsperaDescargaMs(1000);
+        RespuestaHttp noEsta;
+        noEsta.estado = 404;
+        noEsta.cuerpo = "<html>Not found</html>";
+        noEsta.tipo = "text/html";
+        servidor.respondeCon(noEsta);
+        for (const QString& f : kEnviosUnicos)
+            servidor.respondeEn(kRuta + f.toLatin1(), fichero("contenido de " + f.toLatin1(), "text/xml"));
+    }
+    void TearDown() override { FijaCarpetaPrograma({}); }
+
+    // Every entry the gateway needs, in the program folder.
+    void instalaTodo(const QStringList& menos = {}) {
+        for (const QStringList* grupo : {&kLibrerias, &kConfiguracion, &kEnviosUnicos})
+            for (const QString& f : *grupo)
+                if (!menos.contains(f)) escribe(QDir(programa.path()).filePath(f), "x");
+    }
+    QString base(const QString& relativa) const { return oficina.ruta(relativa); }
+
+    prueba::OficinaPrueba oficina;
+    QTemporaryDir programa;
+    prueba::ServidorHttp servidor;
+    ServicioMensajesGuionado guion;
+    ServicioMensajesInstalado instalado{guion};
+};
+
+TEST_F(PasarelaTest, EverythingPresentIsTrueWithoutAWord) {
+    instalaTodo();
+    EXPECT_TRUE(CompruebaFicherosPasarela());
+    EXPECT_TRUE(guion.mostrados().isEmpty());
+    EXPECT_TRUE(servidor.peticiones().isEmpty());
+}
+
+// Any library or configuration entry missing gives false silently, even with the single-sending files
+// missing too: nothing is offered for download.
+TEST_F(PasarelaTest, AMissingLibraryOrConfigurationEntryFailsSilently) {
+    QStringList entradas = kLibrerias + kConfiguracion;
+    entradas << QStringLiteral("conf") << QStringLiteral("xsd_forms");
+    for (const QString& falta : entradas) {
+        QTemporaryDir otro;
+        FijaCarpetaPrograma(otro.path());
+        for (const QStringList* grupo : {&kLibrerias, &kConfiguracion})
+            for (const QString& f : *grupo)
+                if (f != falta && !f.startsWith(falta + u'/')) escribe(QDir(otro.path()).filePath(f), "x");
+        EXPECT_FALSE(CompruebaFicherosPasarela()) << falta.toStdString();
+    }
+    EXPECT_TRUE(guion.mostrados().isEmpty());
+    EXPECT_TRUE(servidor.peticiones().isEmpty());
+}
+
+TEST_F(PasarelaTest, AFolderWhereAFileShouldBeDoesNotCount) {
+    instalaTodo({QStringLiteral("Base64.dll")});
+    QDir(programa.path()).mkdir(QStringLiteral("Base64.dll"));
+    EXPECT_FALSE(CompruebaFicherosPasarela());
+}
+
+TEST_F(PasarelaTest, MissingSingleSendingFilesAreDownloadedIntoTheBaseFolder) {
+    instalaTodo({kEnviosUnicos[2]});
+    guion.respuestas({6});
+    EXPECT_TRUE(CompruebaFicherosPasarela());
+    QStringList pedidas;
+    for (const prueba::PeticionHttp& p : servidor.peticiones())
+        pedidas.append(QString::fromLatin1(p.ruta));
+    QStringList esperadas;
+    for (const QString& f : kEnviosUnicos)
+        esperadas.append(QString::fromLatin1(kRuta) + f);
+    EXPECT_EQ(pedidas, esperadas);
+    for (const QString& f : kEnviosUnicos)
+        EXPECT_EQ(lee(base(f)), "contenido de " + f.toLatin1()) << f.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(QDir(programa.path()).filePath(kEnviosUnicos[2])))
+        << "downloads go to the base folder, not the program folder";
+    const QStringList d = vistos(guion);
+    ASSERT_GE(d.size(), 7);
+    EXPECT_EQ(d[0], kPreguntaFicheros);
+    EXPECT_EQ(d[1], QStringLiteral("MuestraMensaje||") + kEsperaFicheros);
+    EXPECT_EQ(d[2], QStringLiteral("CambiaMensaje||") + kEsperaFicheros);
+    EXPECT_EQ(d[3], QStringLiteral("CambiaMensaje||") + kEsperaFicheros +
+                        QStringLiteral("\ntemplates\\acta_1.7.xml"));
+    EXPECT_EQ(d.last(), QStringLiteral("CambiaMensaje||") + kEsperaFicheros +
+                            QStringLiteral("\nxsd\\PARTE_NOTARIO-1.7dll.xsd"));
+    EXPECT_FALSE(guion.esperaVisible());
+}
+
+// Each failure stops the downloads after it, shows the Part's error and leaves no partial file; what was
+// downloaded before stays.
+TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
+    struct Caso {
+        const char* nombre;
+        std::deque<int> respuestas;
+        int falla;               // index of the file that fails; -1 none asked
+        RespuestaHttp respuesta; // what the portal answers for it
+        bool calla = false;
+    };
+    RespuestaHttp html =
+        fichero("<!DOCTYPE html><html><body>Inicie sesión</body></html>", "text/html; charset=utf-8");
+    RespuestaHttp htmlSinTipo =
+        fichero("\xef\xbb\xbf  <HTML><body>Acceso</body></HTML>", "application/octet-stream");
+    RespuestaHttp noEsta = fichero("no", "text/plain");
+    noEsta.estado = 404;
+    RespuestaHttp cortada = fichero(QByteArray(64 * 1024, 'x'), "text/xml");
+    cortada.corta = true;
+    const Caso casos[] = {
+        {"answered no", {7}, -1, {}},
+        {"Escape", {}, -1, {}},
+        {"second template not found", {6}, 1, noEsta},
+        {"first schema cut short", {6}, 2, cortada},
+        {"portal answers its login page", {6}, 0, html},
+        {"a page without its type", {6}, 3, htmlSinTipo},
+        {"portal silent", {6}, 0, {}, true},
+    };
+    for (const Caso& c : casos) {
+        prueba::OficinaPrueba propia;
+        prueba::ServidorHttp portal;
+        Config.SetPortalFabricante(portal.base());
+        Config.SetEsperaDescargaMs(500);
+        RespuestaHttp por404;
+        por404.estado = 404;
+        portal.respondeCon(por404);
+        for (qsizetype i = 0; i < kEnviosUnicos.size(); ++i)
+            portal.respondeEn(kRuta + kEnviosUnicos[i].toLatin1(),
+                              i == c.falla ? c.respuesta : fichero("bien " + kEnviosUnicos[i].toLatin1()));
+        if (c.calla) portal.calla();
+        guion.limpia();
+        guion.respuestas(c.respuestas);
+
+        EXPECT_FALSE(CompruebaFicherosPasarelaParaEnviosUnicos()) << c.nombre;
+        EXPECT_EQ(vistos(guion).last(), kErrorFicheros) << c.nombre;
+        EXPECT_EQ(portal.peticiones().size(), c.falla + 1) << c.nombre;
+        QStringList esperado;
+        for (int i = 0; i < c.falla; ++i)
+            esperado.append(kEnviosUnicos[i]);
+        QStringList hay;
+        const QDir raiz(propia.ruta());
+        for (const QString& carpeta : {QStringLiteral("templates"), QStringLiteral("xsd")})
+            for (const QString& f :
+                 QDir(raiz.filePath(carpeta)).entryList(QDir::Files | QDir::Hidden | QDir::System))
+                hay.append(carpeta + u'/' + f);
+        EXPECT_EQ(hay, esperado) << c.nombre << " (no temporary file left either)";
+        for (const QString& f : esperado)
+            EXPECT_EQ(lee(raiz.filePath(f)), "bien " + f.toLatin1()) << c.nombre;
+        EXPECT_FALSE(guion.esperaVisible()) << c.nombre;
+    }
+}
+
+TEST_F(PasarelaTest, SetUpProgramIsFetchedAfreshEveryTime) {
+    const QString setup = base(QStringLiteral("PasarelaSetup.exe"));
+    const QString pregunta = QStringLiteral(
+        "Mensaje_SiNo|Ficheros de la Pasarela Web no encontrados|No se han encontrado los ficheros de la "
+        "Pasarela "
+        "Web\n¿Desea descargar ahora el fichero de Instalación? Asegúrese de que está conectado");
+    const QString error = QStringLiteral("Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
+                                         "descargar el fichero de instalación de la Pasarela Web");
+    servidor.respondeEn(kRuta + "PasarelaSetup.exe", fichero("MZ nuevo"));
+
+    escribe(setup, "MZ viejo");
+    guion.respuestas({6});
+    EXPECT_TRUE(DescargaFicherosPasarela());
+    EXPECT_EQ(lee(setup), "MZ nuevo");
+    ASSERT_EQ(servidor.peticiones().size(), 1);
+    EXPECT_EQ(servidor.peticiones()[0].ruta, kRuta + "PasarelaSetup.exe");
+    EXPECT_EQ(vistos(guion).value(0), pregunta);
+    EXPECT_EQ(vistos(guion).value(1),
+              QStringLiteral("MuestraMensaje||Descargando fichero del Portal de Zeb Soft..."));
+    EXPECT_FALSE(vistos(guion).contains(error));
+
+    guion.limpia();
+    guion.respuestas({7});
+    EXPECT_FALSE(DescargaFicherosPasarela());
+    EXPECT_EQ(vistos(guion), QStringList({pregunta, error}));
+    EXPECT_FALSE(QFileInfo::exists(setup)) << "the old program was deleted before asking";
+
+    guion.limpia();
+    guion.respuestas({6});
+    servidor.respondeEn(kRuta + "PasarelaSetup.exe", fichero("MZ", "text/html"));
+    EXPECT_FALSE(DescargaFicherosPasarela());
+    EXPECT_EQ(vistos(guion).last(), error);
+    EXPECT_FALSE(QFileInfo::exists(setup));
+}
+
+// A set-up "program" that is a folder with something in it cannot be deleted (by root either): kept, and
+// nothing is asked.
+TEST_F(PasarelaTest, SetUpProgramThatCannotBeDeletedIsKept) {
+    escribe(base(QStringLiteral("PasarelaSetup.exe/dentro")), "x");
+    EXPECT_TRUE(DescargaFicherosPasarela());
+    EXPECT_TRUE(guion.mostrados().isEmpty());
+    EXPECT_TRUE(servidor.peticiones().isEmpty());
+}
+
+TEST_F(PasarelaTest, InstalaPasarelaStartsTheSetUpOnlyWhenPresentAndWanted) {
+    QStringList lanzados;
+    bool arranca = true;
+    FijaLanzadorPrograma([&](const QString& p) {
+        lanzados.append(p);
+        return arranca;
+    });
+    const QString setup = base(QStringLiteral("PasarelaSetup.exe"));
+    const QString pregunta =
+        QStringLiteral("Mensaje_SiNo|Pasarela Web no instalada|No tiene instalada la Pasarela "
+                       "Web\n¿Desea instalar la Pasarela Web?");
+
+    InstalaPasarela();
+    EXPECT_EQ(vistos(guion),
+              QStringList{QStringLiteral("Mensaje_Error|Fichero de instalación no encontrado|No se ha "
+                                         "encontrado el fichero de instalación de la Pasarela Web")});
+    escribe(setup, "MZ");
+    guion.limpia();
+    guion.respuestas({7});
+    InstalaPasarela();
+    EXPECT_EQ(vistos(guion), QStringList{pregunta});
+    EXPECT_TRUE(lanzados.isEmpty());
+
+    guion.limpia();
+    guion.respuestas({6});
+    InstalaPasarela();
+    EXPECT_EQ(vistos(guion), QStringList{pregunta});
+    EXPECT_EQ(lanzados, QStringList{setup});
+
+    arranca = false;
+    guion.limpia();
+    guion.respuestas({6});
+    InstalaPasarela();
+    EXPECT_TRUE(vistos(guion).last().startsWith(QStringLiteral("Mensaje_Error|Pasarela Web no instalada|")));
+    FijaLanzadorPrograma(nullptr);
+}
+
+TEST_F(PasarelaTest, GatewayIniIsWrittenOnceAndNeverOverwritten) {
+    const QString ruta = oficina.ruta(QStringLiteral("C/PasarelaWeb.ini"));
+    EXPECT_EQ(CompruebaPasarelaWebIni(), ruta);
+    EXPECT_EQ(lee(ruta), "[Parameters]\r\nNIVEL_LOG=2\r\nFICHERO_LOG=C:\\PasarelaWeb.log\r\n"
+                         "PROXY_SERVER=<CURRENT_USER>\r\nCONNECTOR_TIMEOUT=120000\r\n");
+    escribe(ruta, "[Parameters]\r\nNIVEL_LOG=5\r\n");
+    EXPECT_EQ(CompruebaPasarelaWebIni(), ruta);
+    EXPECT_EQ(lee(ruta), "[Parameters]\r\nNIVEL_LOG=5\r\n");
+    EXPECT_TRUE(guion.mostrados().isEmpty());
+}
+
+// A drive-root folder that cannot take the file: read-only (not for root, who writes anyway), a file
+// standing where the folder should be, or a folder of the kernel's that refuses even root.
+TEST_F(PasarelaTest, GatewayIniThatCannotBeWrittenIsReported) {
+    struct Caso {
+        const char* nombre;
+        std::function<bool(const QString& raiz)> prepara; // false: skip
+    };
+    const Caso casos[] = {
+        {"read-only folder",
+         [](const QString& raiz) {
+             QDir().mkpath(raiz);
+             QFile::setPermissions(raiz, QFile::ReadOwner | QFile::ExeOwner);
+             QFile prueba(raiz + QStringLiteral("/sonda"));
+             if (prueba.open(QIODevice::WriteOnly)) { // root: permissions do not bind
+                 prueba.remove();
+                 return false;
+             }
+             return true;
+         }},
+        {"a file in place of the folder",
+         [](const QString& raiz) {
+             QFile f(raiz);
+             return f.open(QIODevice::WriteOnly) && f.write("x") == 1;
+         }},
+        {"a folder not even root may write (the kernel's /sys)",
+         [](const QString&) {
+             Config.SetUnidadC(QStringLiteral("/sys"));
+             return QFileInfo(QStringLiteral("/sys")).isDir();
+         }},
+    };
+    for (const Caso& c : casos) {
+        prueba::OficinaPrueba propia;
+        guion.limpia();
+        const QString raiz = propia.ruta(QStringLiteral("C"));
+        if (!c.prepara(raiz)) {
+            std::cout << "[ skipped  ] " << c.nombre << ": running as root\n";
+            continue;
+        }
+        const QString ini = Config.RutaUnidadC(QStringLiteral("C:\\PasarelaWeb.ini"));
+        EXPECT_EQ(CompruebaPasarelaWebIni(), ini) << c.nombre;
+        QFile::setPermissions(raiz, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        ASSERT_EQ(guion.mostrados().size(), 1) << c.nombre;
+        EXPECT_EQ(guion.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
+        EXPECT_TRUE(guion.mostrados()[0].text.startsWith(
+            QStringLiteral("No se ha podido crear el fichero de configuración de la Pasarela Web")))
+            << c.nombre;
+        EXPECT_FALSE(QFileInfo(ini).isFile()) << c.nombre;
+    }
+}
+
+TEST(DameContenidoXML, CutsBetweenTheFirstTags) {
+    const struct {
+        const char *texto, *inicio, *fin, *resultado;
+    } casos[] = {
+        {"<a>1</a>", "<a>", "</a>", "1"},
+        {"<a>1", "<a>", "</a>", ""},
+        {"1</a>", "<a>", "</a>", ""},
+        {"<r><a>uno</a><a>dos</a></r>", "<a>", "</a>", "uno"},
+        {"</a><a>1</a>", "<a>", "</a>", ""}, // the end tag is searched from the beginning
+        {"<a></a>", "<a>", "</a>", ""},
+        {"<id>ñandú</id>", "<id>", "</id>", "ñandú"},
+        {"<a>1</a>", "", "</a>", ""},
+        {"<a>1</a>", "<a>", "", ""},
+        {"xax", "xa", "ax", ""}, // the end tag overlaps the start tag
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(DameContenidoXML(QString::fromUtf8(c.texto), QString::fromUtf8(c.inicio),
+                                   QString::fromUtf8(c.fin)),
+                  QString::fromUtf8(c.resultado))
+            << c.texto;
+}
+
+TEST(PuedeActualizarEsteEquipo, TodosOnlyInCapitalsElseTheComputerName) {
+    prueba::OficinaPrueba oficina;
+    const QString equipo = DameNombreEquipo();
+    ASSERT_FALSE(equipo.isEmpty());
+    ASSERT_NE(equipo.toUpper(), QStringLiteral("TODOS"));
+    const struct {
+        QString valor;
+        bool puede;
+    } casos[] = {
+        {QStringLiteral("TODOS"), true},  {QStringLiteral("todos"), false},
+        {QStringLiteral("Todos"), false}, {QStringLiteral(" TODOS"), false},
+        {equipo.toLower(), true},         {equipo.toUpper(), true},
+        {equipo + u'x', false},           {{}, false},
+    };
+    for (const auto& c : casos) {
+        Config.SetUsuarioParaActualizar(c.valor);
+        EXPECT_EQ(PuedeActualizarEsteEquipo(), c.puede) << c.valor.toStdString();
+    }
+}
+
+class ConexionTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        Config.SetWebFabricante(servidor.base() + QStringLiteral("/"));
+        Config.SetEsperaConexionMs(500);
+        FijaEstadoConexion([this] { return sistema; });
+    }
+    void TearDown() override { FijaEstadoConexion(nullptr); }
+
+    prueba::OficinaPrueba oficina;
+    prueba::ServidorHttp servidor;
+    bool sistema = true;
+};
+
+TEST_F(ConexionTest, AsksTheSiteFromTheNetworkWithTheSuitesAgent) {
+    servidor.respondeCon(fichero(QByteArray(200000, 'x'), "text/html"));
+    EXPECT_TRUE(TieneConexionAInternet());
+    ASSERT_EQ(servidor.peticiones().size(), 1);
+    const prueba::PeticionHttp& p = servidor.peticiones()[0];
+    EXPECT_EQ(p.metodo, "GET");
+    EXPECT_EQ(p.ruta, "/");
+    EXPECT_EQ(p.cabeceras.value("user-agent"), "InetURL:/1.0");
+    EXPECT_EQ(p.cabeceras.value("cache-control"), "no-cache");
+    EXPECT_EQ(p.cabeceras.value("pragma"), "no-cache");
+}
+
+TEST_F(ConexionTest, ReachingTheSiteIsWhatCounts) {
+    struct Caso {
+        const char* nombre;
+        std::function<void()> prepara;
+        bool conectado;
+        int peticiones;
+    };
+    const Caso casos[] = {
+        {"any answer, even an error page", [this] { servidor.respondeCon("no", 404); }, true, 1},
+        {"system reports no network", [this] { sistema = false; }, false, 0},
+        {"nobody listening",
+         [] {
+             Config.SetWebFabricante(
+                 QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado()));
+         },
+         false, 0},
+        {"connection closed unanswered", [this] { servidor.cierra(); }, false, -1},
+        {"no answer in time", [this] { servidor.calla(); }, false, 1},
+        {"not an address", [] { Config.SetWebFabricante(QStringLiteral("zebsoft")); }, false, 0},
+    };
+    for (const Caso& c : casos) {
+        SetUp();
+        sistema = true;
+        const qsizetype antes = servidor.peticiones().size();
+        c.prepara();
+        EXPECT_EQ(TieneConexionAInternet(), c.conectado) << c.nombre;
+        if (c.peticiones >= 0) {
+            EXPECT_EQ(servidor.peticiones().size() - antes, c.peticiones) << c.nombre;
+        }
+    }
+}
+
+TEST(DescargarFichero, ReportsProgressAndKeepsTheOldFileOnFailure) {
+    prueba::OficinaPrueba oficina;
+    Config.SetEsperaDescargaMs(1000);
+    prueba::ServidorHttp servidor;
+    QTemporaryDir carpeta;
+    const QString destino = QDir(carpeta.path()).filePath(QStringLiteral("datos.bin"));
+    const QByteArray contenido(300 * 1024, 'z');
+    servidor.respondeEn("/datos.bin", fichero(contenido));
+    qint64 ultimo = -1, total = -1;
+    EXPECT_TRUE(
+        DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"), destino, [&](qint64 r, qint64 t) {
+            ultimo = r;
+            total = t;
+        }));
+    EXPECT_EQ(lee(destino), contenido);
+    EXPECT_EQ(ultimo, contenido.size());
+    EXPECT_EQ(total, contenido.size());
+
+    RespuestaHttp cortada = fichero(QByteArray(300 * 1024, 'n'));
+    cortada.corta = true;
+    servidor.respondeEn("/datos.bin", cortada);
+    EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"), destino));
+    EXPECT_EQ(lee(destino), contenido) << "the old file stays whole";
+    EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden),
+              QStringList{QStringLiteral("datos.bin")});
+
+    EXPECT_FALSE(DescargarFichero(QStringLiteral("ftp://127.0.0.1/datos.bin"), destino));
+    EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"),
+                                  QDir(carpeta.path()).filePath(QStringLiteral("no/existe/datos.bin"))));
+}
+
+TEST(DescargarFichero, AWebPageIsWelcomeWhenAPageIsWanted) {
+    prueba::OficinaPrueba oficina;
+    prueba::ServidorHttp servidor;
+    QTemporaryDir carpeta;
+    servidor.respondeCon(fichero("<html>hola</html>", "text/html"));
+    EXPECT_TRUE(DescargarFichero(servidor.base() + QStringLiteral("/ayuda.html"),
+                                 QDir(carpeta.path()).filePath(QStringLiteral("ayuda.html"))));
+    EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/ayuda.html"),
+                                  QDir(carpeta.path()).filePath(QStringLiteral("ayuda.xml"))));
+}
+
+} // namespace
+} // namespace nod
