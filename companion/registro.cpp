@@ -8,6 +8,7 @@ Q_LOGGING_CATEGORY(lcTexto, "nod.texto")
 Q_LOGGING_CATEGORY(lcIdent, "nod.ident")
 Q_LOGGING_CATEGORY(lcProtocolo, "nod.protocolo")
 Q_LOGGING_CATEGORY(lcComms, "nod.comms")
+Q_LOGGING_CATEGORY(lcFicheros, "nod.ficheros")
 
 QString TextoVisible(QStringView texto, qsizetype maximo) {
     const bool corta = maximo >= 0 && texto.size() > maximo;

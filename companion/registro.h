@@ -12,6 +12,7 @@ Q_DECLARE_LOGGING_CATEGORY(lcTexto)
 Q_DECLARE_LOGGING_CATEGORY(lcIdent)
 Q_DECLARE_LOGGING_CATEGORY(lcProtocolo)
 Q_DECLARE_LOGGING_CATEGORY(lcComms)
+Q_DECLARE_LOGGING_CATEGORY(lcFicheros)
 
 /// A text as a message can quote it whole: control characters (a NUL would end the line for whoever
 /// reads the log) written as "\xNN", and, with `maximo` >= 0, cut after that many characters with "…".

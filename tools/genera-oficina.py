@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Generates the tables of the sample office (sample-office/) from committed and packaged sources.
+"""Generates the tables and images of the sample office (sample-office/) from committed and packaged sources.
 
     /usr/bin/python3 tools/genera-oficina.py [OFFICE_FOLDER]
 
@@ -20,6 +20,8 @@ import struct
 import sys
 
 AQUI = os.path.dirname(os.path.abspath(__file__))
+sys.path.insert(0, AQUI)
+from imagenes_oficina import escribe_imagenes  # noqa: E402
 FECHA_TABLAS = (2024, 1, 1)  # "last update" written in every header, so that runs give the same bytes
 
 
@@ -606,6 +608,7 @@ def main():
     for carpeta, fichero, generador in TABLAS:
         campos, filas = generador()
         escribe_dbf(os.path.join(oficina, carpeta, fichero), campos, filas)
+    escribe_imagenes(oficina)
 
 
 if __name__ == "__main__":

@@ -7,6 +7,7 @@ CatalogoDemo RegistraTodos() {
     RegistraDialogosFrame(c);
     RegistraDialogosIdent(c);
     RegistraDialogosProtocolo(c);
+    RegistraDialogosDocumentos(c);
     RegistraDialogosPreguntas(c);
     RegistraDialogosComms(c);
     RegistraDialogosMantenimiento(c);

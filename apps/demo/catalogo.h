@@ -37,6 +37,7 @@ private:
 void RegistraDialogosFrame(CatalogoDemo& c);
 void RegistraDialogosProtocolo(CatalogoDemo& c);
 void RegistraDialogosIdent(CatalogoDemo& c);
+void RegistraDialogosDocumentos(CatalogoDemo& c);
 void RegistraDialogosPreguntas(CatalogoDemo& c);
 void RegistraDialogosComms(CatalogoDemo& c);
 void RegistraDialogosMantenimiento(CatalogoDemo& c);

@@ -1,9 +1,15 @@
-// The protocol family in the demo: the invoice-number form and the fee calculator page.
+// The protocol family in the demo: the invoice-number form, the fee calculator page, the mortgage
+// liability, currency and area calculators and the registered properties of an entry.
 #include "apps/demo/catalogo.h"
 #include "companion/dialogo.h"
 #include "companion/editimporte.h"
+#include "companion/modal.h"
 #include "protocol/calculadorahonorarios.h"
+#include "protocol/calculametros.h"
+#include "protocol/conversormoneda.h"
+#include "protocol/masdatosfincasregistrales.h"
 #include "protocol/preguntanumerofactura.h"
+#include "protocol/responsabilidadhipotecaria.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -45,6 +51,32 @@ QString calculadoraHonorarios(QWidget* owner) {
         .arg(pagina->LHonorarioEscritura->text(), pagina->LHonorarioPoliza->text(), pagina->LTotal->text());
 }
 
+QString respHipotec(QWidget* owner) {
+    TFRespHipotec f(owner);
+    f.Principal_E = 150000;
+    if (EjecutaModal(f) != 1) return QStringLiteral("salir");
+    return QStringLiteral("total %1 € (%2 pts.)").arg(f.ETotal_E->text(), f.ETotal->text());
+}
+
+QString fincasRegistrales(QWidget* owner) {
+    TFMasDatosFincasRegistrales f(owner, 202401234.1, QStringLiteral("COMPRAVENTA DE VIVIENDA Y GARAJE"),
+                                  QStringLiteral("28079-12345|28079-12346|Madrid 4, finca 7.001"));
+    if (EjecutaModal(f) != 1) return QStringLiteral("cancelado");
+    return QStringLiteral("fincas \"%1\"").arg(f.Fincas);
+}
+
+QString conversorMoneda(QWidget* owner) {
+    TFConversorMoneda f(owner);
+    EjecutaModal(f);
+    return QStringLiteral("%1 pts. = %2 €").arg(f.ePesetas->text(), f.eEuros->text());
+}
+
+QString calculaMetros(QWidget* owner) {
+    TFCalculaMetrosCuadrados f(owner, QStringLiteral("2"), QStringLiteral("35"), QStringLiteral("12"));
+    EjecutaModal(f);
+    return f.Tag == 1 ? QStringLiteral("%1 m2").arg(f.EMetros->text()) : QStringLiteral("cancelado");
+}
+
 } // namespace
 
 void RegistraDialogosProtocolo(CatalogoDemo& c) {
@@ -52,6 +84,12 @@ void RegistraDialogosProtocolo(CatalogoDemo& c) {
              preguntaNumeroFactura);
     c.agrega("Protocolo", "calculadora_honorarios", "Calculadora de honorarios (aranceles e IVA)",
              calculadoraHonorarios);
+    c.agrega("Protocolo", "resp_hipotec", "TFRespHipotec: responsabilidad hipotecaria", respHipotec);
+    c.agrega("Protocolo", "fincas_registrales", "TFMasDatosFincasRegistrales: fincas registrales",
+             fincasRegistrales);
+    c.agrega("Protocolo", "conversor_moneda", "TFConversorMoneda: calculadora de euros-pesetas",
+             conversorMoneda);
+    c.agrega("Protocolo", "calcula_metros", "TFCalculaMetrosCuadrados: metros cuadrados", calculaMetros);
 }
 
 } // namespace nod::demo

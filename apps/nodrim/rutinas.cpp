@@ -10,6 +10,7 @@ const Rutinas& TodasLasRutinas() {
         RegistraRutinasIdent(r);
         RegistraRutinasGeo(r);
         RegistraRutinasProtocolo(r);
+        RegistraRutinasDocumentos(r);
         RegistraRutinasPreguntas(r);
         RegistraRutinasComms(r);
         RegistraRutinasMantenimiento(r);

@@ -191,6 +191,7 @@ void RegistraRutinasTexto(Rutinas& r);
 void RegistraRutinasIdent(Rutinas& r);
 void RegistraRutinasGeo(Rutinas& r);
 void RegistraRutinasProtocolo(Rutinas& r);
+void RegistraRutinasDocumentos(Rutinas& r);
 void RegistraRutinasPreguntas(Rutinas& r);
 void RegistraRutinasComms(Rutinas& r);
 void RegistraRutinasMantenimiento(Rutinas& r);

@@ -11,7 +11,11 @@
 #include "maintenance/seleccionmodorevisioncodcliente.h"
 #include "prompts/preguntadatos.h"
 #include "prompts/preguntas.h"
+#include "protocol/calculametros.h"
+#include "protocol/conversormoneda.h"
+#include "protocol/masdatosfincasregistrales.h"
 #include "protocol/preguntanumerofactura.h"
+#include "protocol/responsabilidadhipotecaria.h"
 
 #include <QDialog>
 
@@ -99,6 +103,48 @@ void RegistraRutinasFormularios(Rutinas& r) {
             Config.SetRefCatastralActual(referencia);
             IValidaReferenciaCatastral(nullptr);
             referencia = Config.GetRefCatastralActual();
+        });
+
+    // The forms of a deed, by their class names: the caller's values in, what the caller reads from the
+    // form once it has closed out (var parameters); the result is the modal result, or the area form's
+    // `Tag`. One answer presses one button, so the calculators' "=" and "&Convertir", which leave the
+    // form open, are the clerk's: a script gets back the figures it typed and the last surface computed.
+    r.agrega(
+        "TFRespHipotec", +[](double principalEuros, double& totalEuros, double& totalPesetas) {
+            TFRespHipotec f(nullptr);
+            f.Principal_E = principalEuros;
+            const int resultado = EjecutaModal(f);
+            totalEuros = f.ETotal_E->Valor();
+            totalPesetas = f.ETotal->Valor();
+            return resultado;
+        });
+    r.agrega(
+        "TFMasDatosFincasRegistrales", +[](double codigo, const QString& concepto, QString& fincas) {
+            TFMasDatosFincasRegistrales f(nullptr, codigo, concepto, fincas);
+            const int resultado = EjecutaModal(f);
+            fincas = f.Fincas;
+            return resultado;
+        });
+    r.agrega(
+        "TFConversorMoneda", +[](QString& pesetas, QString& euros) {
+            TFConversorMoneda f(nullptr);
+            f.ePesetas->setText(pesetas);
+            f.eEuros->setText(euros);
+            const int resultado = EjecutaModal(f);
+            pesetas = f.ePesetas->text();
+            euros = f.eEuros->text();
+            return resultado;
+        });
+    r.agrega(
+        "TFCalculaMetrosCuadrados",
+        +[](QString& hectareas, QString& areas, QString& centiareas, double& metros) {
+            TFCalculaMetrosCuadrados f(nullptr, hectareas, areas, centiareas);
+            EjecutaModal(f);
+            hectareas = f.EHectareas->text();
+            areas = f.EAreas->text();
+            centiareas = f.ECentiAreas->text();
+            metros = f.MetrosCuadrados;
+            return f.Tag;
         });
 
     // Mail: the client's mobile and address (both in and out), and the mail editor, whose "BBEnviar" sends

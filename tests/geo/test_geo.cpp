@@ -229,7 +229,7 @@ TEST(OficinaMuestra, GeneratorGivesTheCommittedTables) {
              {QStringLiteral(NOD_SOURCE_DIR "/tools/genera-oficina.py"), dir.path()});
     ASSERT_TRUE(py.waitForFinished(120000));
     ASSERT_EQ(py.exitCode(), 0) << py.readAllStandardError().toStdString();
-    // The tables of every database folder, by their path inside the office.
+    // The tables of every database folder, by their path inside the office: the same set as committed.
     const auto tablas = [](const QString& oficina) {
         QStringList l;
         QDirIterator it(oficina, {QStringLiteral("*.dbf"), QStringLiteral("*.DBF")}, QDir::Files,
@@ -239,13 +239,19 @@ TEST(OficinaMuestra, GeneratorGivesTheCommittedTables) {
         l.sort();
         return l;
     };
-    const QStringList generadas = tablas(dir.path());
-    ASSERT_EQ(generadas, tablas(prueba::OficinaMuestra()));
-    for (const QString& t : generadas) {
-        QFile nueva(dir.filePath(t)), comprometida(prueba::OficinaMuestra() + QLatin1Char('/') + t);
-        ASSERT_TRUE(nueva.open(QIODevice::ReadOnly) && comprometida.open(QIODevice::ReadOnly)) << t.toStdString();
-        EXPECT_TRUE(nueva.readAll() == comprometida.readAll()) << t.toStdString();
+    ASSERT_EQ(tablas(dir.path()), tablas(prueba::OficinaMuestra()));
+    // Every file it writes (tables, and the notaries' images) as committed, byte for byte.
+    int comparadas = 0;
+    for (QDirIterator it(dir.path(), QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+        const QString relativa = QDir(dir.path()).relativeFilePath(it.next());
+        QFile nueva(dir.filePath(relativa)),
+            comprometida(prueba::OficinaMuestra() + QLatin1Char('/') + relativa);
+        ASSERT_TRUE(nueva.open(QIODevice::ReadOnly) && comprometida.open(QIODevice::ReadOnly))
+            << relativa.toStdString();
+        EXPECT_TRUE(nueva.readAll() == comprometida.readAll()) << relativa.toStdString();
+        ++comparadas;
     }
+    EXPECT_GT(comparadas, tablas(dir.path()).size()) << "the images are written too";
 }
 
 } // namespace

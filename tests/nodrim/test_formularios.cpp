@@ -365,4 +365,36 @@ TEST(Formularios, AnswersThatDoNotFitFailTheRequestAndTheStreamGoesOn) {
     ejecutaCasos(casos);
 }
 
+// The forms of a deed by their class names: the mortgage calculator's handlers run as the figures are
+// typed, the registered properties come back encoded in their sorted order, the calculators' fields keep
+// their key filters and hand back what was typed; a figure typed into the column of the other currency is
+// refused.
+TEST(Formularios, TheFormsOfADeed) {
+    const std::vector<Caso> casos = {
+        {"RespHipotec",
+         pide("TFRespHipotec", {100000, 0, 0}, {fija({{"EInteresesOrd", "5"}, {"EAno1", "2"}})}),
+         [](const json& r) {
+             sale({110000.0, 16638600.0 + 1663860.0}, 1)(r);
+             EXPECT_EQ(formulario(r)["title"], "Responsabilidad Hipotecaria");
+         }},
+        {"RespHipotecPesetasDisabled", pide("TFRespHipotec", {100000, 0, 0}, {fija({{"EPrincipal", "5"}})}),
+         falla("EPrincipal")},
+        {"FincasAceptar",
+         pide("TFMasDatosFincasRegistrales", {202401234.1, "COMPRAVENTA", " B|a|A| "}, {fija({})}),
+         sale({"a|A|B"}, 1)}, // the list sorts as the clerk reads, "a" before "A"
+        {"FincasCancelar",
+         pide("TFMasDatosFincasRegistrales", {202401234.1, "COMPRAVENTA", "B|A"}, {fija({}, "BBCancelar")}),
+         sale({"B|A"}, 2)},
+        {"ConversorMoneda", pide("TFConversorMoneda", {"", ""}, {fija({{"eEuros", "1.000,5x"}}, "BtnSalir")}),
+         sale({"", "1000,5"}, 2)},
+        {"CalculaMetrosAceptar",
+         pide("TFCalculaMetrosCuadrados", {"2", "35", "12", 0}, {fija({{"EAreas", "40"}})}),
+         sale({"2", "40", "12", 0.0}, 1)},
+        {"CalculaMetrosCancelar",
+         pide("TFCalculaMetrosCuadrados", {"2", "35", "12", 0}, {fija({}, "BBCancelar")}),
+         sale({"2", "35", "12", 0.0}, 0)},
+    };
+    ejecutaCasos(casos);
+}
+
 } // namespace
