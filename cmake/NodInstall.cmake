@@ -13,13 +13,13 @@ install(TARGETS nodrutinas_core nodrutinas_widgets EXPORT NodRutinasTargets
 
 # The headers of every folder that holds a subsystem library, under include/nodrutinas/<subsystem>/, so
 # that `#include <text/letras.h>` reads as it does inside the tree; private headers (*_p.h) stay out.
-set(carpetas "")
+set(NOD_PUBLIC_HEADER_DIRS "")
 foreach(lib IN LISTS NOD_CORE_LIBRARIES NOD_UI_LIBRARIES)
     get_target_property(carpeta ${lib} SOURCE_DIR)
-    list(APPEND carpetas ${carpeta})
+    list(APPEND NOD_PUBLIC_HEADER_DIRS ${carpeta})
 endforeach()
-list(REMOVE_DUPLICATES carpetas)
-foreach(carpeta IN LISTS carpetas)
+list(REMOVE_DUPLICATES NOD_PUBLIC_HEADER_DIRS)
+foreach(carpeta IN LISTS NOD_PUBLIC_HEADER_DIRS)
     file(RELATIVE_PATH subsistema ${PROJECT_SOURCE_DIR} ${carpeta})
     install(DIRECTORY ${carpeta}/ DESTINATION ${NOD_INCLUDEDIR}/${subsistema} COMPONENT development
             FILES_MATCHING PATTERN "*.h" PATTERN "*.def" PATTERN "*_p.h" EXCLUDE)
@@ -46,6 +46,8 @@ foreach(destino nodrutinas_core nodrutinas_widgets)
     endforeach()
 endforeach()
 list(REMOVE_DUPLICATES NOD_QT_COMPONENTS)
+list(REMOVE_DUPLICATES NOD_PC_REQUIRES_nodrutinas_core)
+list(REMOVE_DUPLICATES NOD_PC_REQUIRES_nodrutinas_widgets)
 list(JOIN NOD_QT_COMPONENTS " " NOD_QT_COMPONENTS)
 
 install(EXPORT NodRutinasTargets NAMESPACE NodRutinas:: DESTINATION ${NOD_CMAKEDIR} COMPONENT development)
@@ -59,8 +61,12 @@ install(FILES ${PROJECT_BINARY_DIR}/NodRutinasConfig.cmake ${PROJECT_BINARY_DIR}
 
 # pkg-config files, relative to their own folder so that a staged or unpacked tree works as well.
 file(RELATIVE_PATH NOD_PC_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" NOD_PC_PREFIX "${NOD_PC_PREFIX}")
+set(NOD_PC_DESCRIPTION_core "Routines of the Nodrim notary's office suite (Qt Core only)")
+set(NOD_PC_DESCRIPTION_widgets "Dialogs of the Nodrim notary's office suite")
 foreach(componente core widgets)
     set(NOD_PC_NAME nodrutinas-${componente})
+    set(NOD_PC_DESCRIPTION ${NOD_PC_DESCRIPTION_${componente}})
     list(JOIN NOD_PC_REQUIRES_nodrutinas_${componente} " " NOD_PC_REQUIRES)
     if(componente STREQUAL "widgets")
         string(PREPEND NOD_PC_REQUIRES "nodrutinas-core = ${PROJECT_VERSION} ")

@@ -44,11 +44,15 @@ grep -q 'NodRutinas has no component "Informes"' "$B/consumidor-falta.log" ||
 rm -rf "$C-falta"
 echo "consumer: built with find_package against \"$P\", ran; an unknown component is refused"
 
-pc=$(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --cflags --libs nodrutinas-widgets) ||
-    falla "pkg-config does not know nodrutinas-widgets"
-for palabra in "-I$P/include/nodrutinas" "-L$libdir" -lnodrutinas-widgets -lnodrutinas-core -lQt6Widgets; do
-    case " $pc " in *" $palabra "*) ;; *) falla "pkg-config --cflags --libs nodrutinas-widgets lacks $palabra: $pc" ;; esac
+export PKG_CONFIG_PATH="$libdir/pkgconfig"
+libs=$(pkg-config --libs nodrutinas-widgets) || falla "pkg-config does not know nodrutinas-widgets"
+for palabra in -lnodrutinas-widgets -lnodrutinas-core -lQt6Widgets -lQt6Core; do
+    case " $libs " in *" $palabra "*) ;; *) falla "pkg-config --libs nodrutinas-widgets lacks $palabra: $libs" ;; esac
 done
+[ -f "$(pkg-config --variable=includedir nodrutinas-core)/nodrutinas/text/letras.h" ] &&
+    [ -f "$(pkg-config --variable=libdir nodrutinas-core)/libnodrutinas-core.so" ] ||
+    falla "the folders of nodrutinas-core.pc do not hold the headers and the library"
+echo "pkg-config: nodrutinas-widgets gives $libs"
 
 # 2. Debian packages.
 rm -f "$B"/*.deb
