@@ -108,9 +108,8 @@ std::optional<QString> carpetaOficina(const Orden& orden) {
     if (!orden.office && entorno.isEmpty()) {
         const QString ejemplo = CarpetaOficinaDeEjemplo();
         if (QFileInfo(ejemplo).isDir()) return ejemplo;
-        fallo("no office folder: none was named with --office or $NODRIM_DIR, and the sample office is not "
-              "at " +
-              QDir::toNativeSeparators(ejemplo).toStdString());
+        const std::string donde = QDir::toNativeSeparators(ejemplo).toStdString();
+        fallo("no office folder: none named with --office or $NODRIM_DIR, and no sample office at " + donde);
         return std::nullopt;
     }
     const QString carpeta = orden.office ? *orden.office : entorno;

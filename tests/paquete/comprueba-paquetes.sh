@@ -49,8 +49,9 @@ libs=$(pkg-config --libs nodrutinas-widgets) || falla "pkg-config does not know 
 for palabra in -lnodrutinas-widgets -lnodrutinas-core -lQt6Widgets -lQt6Core; do
     case " $libs " in *" $palabra "*) ;; *) falla "pkg-config --libs nodrutinas-widgets lacks $palabra: $libs" ;; esac
 done
-[ -f "$(pkg-config --variable=includedir nodrutinas-core)/nodrutinas/text/letras.h" ] &&
-    [ -f "$(pkg-config --variable=libdir nodrutinas-core)/libnodrutinas-core.so" ] ||
+# pkg-config writes a blank of the prefix as "\ ".
+carpeta() { pkg-config --variable="$1" nodrutinas-core | sed 's/\\ / /g'; }
+[ -f "$(carpeta includedir)/nodrutinas/text/letras.h" ] && [ -f "$(carpeta libdir)/libnodrutinas-core.so" ] ||
     falla "the folders of nodrutinas-core.pc do not hold the headers and the library"
 echo "pkg-config: nodrutinas-widgets gives $libs"
 
