@@ -33,7 +33,8 @@ rm -rf "$C"
 cmake -S "$fuentes/consumidor" -B "$C" -G Ninja -DCMAKE_PREFIX_PATH="$P" >"$B/consumidor.log" 2>&1 ||
     { cat "$B/consumidor.log"; falla "the consumer could not be configured against $P"; }
 cmake --build "$C" >>"$B/consumidor.log" 2>&1 || { cat "$B/consumidor.log"; falla "the consumer did not build"; }
-QT_QPA_PLATFORM=offscreen NODRIM_DIR= "$C/consumidor" "$P/share/nodrutinas/sample-office"
+QT_QPA_PLATFORM=offscreen NODRIM_DIR= "$C/consumidor" "$P/share/nodrutinas/sample-office" 2>"$C/salida.log" ||
+    { cat "$C/salida.log"; falla "the consumer did not run as expected"; }
 
 if cmake -S "$fuentes/consumidor" -B "$C-falta" -G Ninja -DCMAKE_PREFIX_PATH="$P" -DNOD_COMPONENTES="Core;Informes" \
     >"$B/consumidor-falta.log" 2>&1; then
@@ -53,7 +54,7 @@ done
 carpeta() { pkg-config --variable="$1" nodrutinas-core | sed 's/\\ / /g'; }
 [ -f "$(carpeta includedir)/nodrutinas/text/letras.h" ] && [ -f "$(carpeta libdir)/libnodrutinas-core.so" ] ||
     falla "the folders of nodrutinas-core.pc do not hold the headers and the library"
-echo "pkg-config: nodrutinas-widgets gives $libs"
+echo "pkg-config: nodrutinas-widgets links$(echo " $libs" | tr ' ' '\n' | grep '^-l' | tr '\n' ' ')"
 
 # 2. Debian packages.
 rm -f "$B"/*.deb

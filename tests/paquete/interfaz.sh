@@ -11,6 +11,9 @@
 #   and AddressSanitizer's indicators of exported variables) fails the check.
 # Prints the number of symbols each library exports.
 set -eu
+# Lists below are one path a line: paths may hold blanks.
+IFS='
+'
 version=$1
 directorios=$2
 shift 2
