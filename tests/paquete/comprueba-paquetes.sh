@@ -54,7 +54,7 @@ done
 carpeta() { pkg-config --variable="$1" nodrutinas-core | sed 's/\\ / /g'; }
 [ -f "$(carpeta includedir)/nodrutinas/text/letras.h" ] && [ -f "$(carpeta libdir)/libnodrutinas-core.so" ] ||
     falla "the folders of nodrutinas-core.pc do not hold the headers and the library"
-echo "pkg-config: nodrutinas-widgets links$(echo " $libs" | tr ' ' '\n' | grep '^-l' | tr '\n' ' ')"
+echo "pkg-config: nodrutinas-widgets links: $(echo " $libs" | tr ' ' '\n' | grep '^-l' | tr '\n' ' ')"
 
 # 2. Debian packages.
 rm -f "$B"/*.deb
