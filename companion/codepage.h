@@ -3,11 +3,13 @@
 // older tools may name code page 850 or 437 in their header. Each page maps every byte to exactly one
 // UTF-16 unit, so lengths and positions survive the round trip.
 
+#include "nod_core_export.h"
+
 #include <QByteArray>
 #include <QString>
 #include <optional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 enum class CodePage { Windows1252, Cp850, Cp437 };
 

@@ -2,10 +2,12 @@
 // Protocol codes as the maker's generic library (unit Rvarias) offers them to the suite's programs:
 // the whole-number packing of a deed's year and number, and the printed number with its bis mark.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <QtGlobal>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// A whole number printed with the picture "#,": thousands grouped with ".", no decimals, and no
 /// mandatory digit, so 0 prints as an empty text. Example: FormateaMiles(1234567) == "1.234.567",

@@ -11,6 +11,9 @@
 #include <cerrno>
 #include <cstring>
 #include <sys/stat.h>
+#if defined(Q_OS_UNIX)
+#include <dlfcn.h>
+#endif
 
 namespace nod {
 
@@ -172,11 +175,32 @@ QString TConfig::RutaUnidadC(const QString& rutaWindows) const {
     return resto.isEmpty() ? QDir::cleanPath(raiz) : QDir::cleanPath(raiz + QLatin1Char('/') + resto);
 }
 
+QString CarpetaOficinaDeEjemplo() {
+    const QString fuentes = QStringLiteral(NOD_SAMPLE_OFFICE);
+#if defined(Q_OS_UNIX)
+    // The file this function lives in: the shared library, or a program that linked it statically.
+    Dl_info info{};
+    if (::dladdr(reinterpret_cast<void*>(&CarpetaOficinaDeEjemplo), &info) == 0 || !info.dli_fname)
+        return fuentes;
+    const QFileInfo fichero(QString::fromLocal8Bit(info.dli_fname));
+    const QString instalada = QDir::cleanPath(fichero.absolutePath() + QLatin1Char('/') +
+                                              QStringLiteral(NOD_SAMPLE_OFFICE_INSTALADA));
+    if (QFileInfo(instalada).isDir()) return instalada;
+    // Built and not installed (the build folder, tests): the sources are at hand.
+    const QString construccion = QDir(QStringLiteral(NOD_BUILD_DIR)).canonicalPath();
+    const QString ruta = fichero.canonicalFilePath();
+    if (!construccion.isEmpty() && ruta.startsWith(construccion + QLatin1Char('/'))) return fuentes;
+    return instalada;
+#else
+    return fuentes;
+#endif
+}
+
 QString CarpetaOficinaPorDefecto(const QString& opcionOffice) {
     if (!opcionOffice.isEmpty()) return opcionOffice;
     const QString entorno = qEnvironmentVariable("NODRIM_DIR");
     if (!entorno.isEmpty()) return entorno;
-    return QStringLiteral(NOD_SAMPLE_OFFICE);
+    return CarpetaOficinaDeEjemplo();
 }
 
 } // namespace nod

@@ -10,13 +10,14 @@
 
 #include "companion/inifile.h"
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 #include <span>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class TConfig {
 public:
@@ -92,8 +93,13 @@ private:
 /// The suite's one configuration object.
 extern TConfig Config;
 
+/// The sample office shipped with the library: installed, share/nodrutinas/sample-office beside the
+/// library's folder (lib/); run from the build folder, the one of the sources. The folder may be missing
+/// (a library installed without it): the path is then the installed one, where it was looked for.
+QString CarpetaOficinaDeEjemplo();
+
 /// The office folder to use: `--office` when given, else $NODRIM_DIR, else the sample office shipped
-/// with the library.
+/// with the library (CarpetaOficinaDeEjemplo).
 QString CarpetaOficinaPorDefecto(const QString& opcionOffice = {});
 
 } // namespace nod

@@ -27,6 +27,8 @@
 // companion/editimporte.h (amounts), companion/esperadialogo.h (waiting on the network),
 // companion/textovisible.h (line breaks and control characters).
 
+#include "nod_widgets_export.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -35,7 +37,7 @@ class QLabel;
 class QStatusBar;
 class QWidget;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// How a dialog answers Enter.
 enum class ReglaEnter {

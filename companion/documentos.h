@@ -6,9 +6,11 @@
 // bare upper-case form and rejects anything else. The routines that already normalised their input call
 // them with false.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The number with blanks, points, hyphens and slashes removed and upper-cased:
 /// PreparaCIFNIF(" b-12.345.674 ") == "B12345674".

@@ -10,10 +10,12 @@
 //     e->Valor();                            // 1500.5; ValorEntero() 1501
 //     new TEditImporte(this, 0);             // whole pesetas: "1.500" is 1500, "1.5" is refused
 
+#include "nod_widgets_export.h"
+
 #include <QLineEdit>
 #include <optional>
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// The amount a clerk typed, read by the rule above, or nothing when the text is not a whole amount yet
 /// ("1.", "1.234.5") or breaks the rule. Blanks are ignored; an empty text is 0. `decimales` is the most

@@ -2,11 +2,13 @@
 // Errors that a routine raises where the suite's routines raise them (a date that cannot be built, a
 // table that cannot be opened). Everything else reports failure by a neutral result.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <exception>
 #include <string>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class ErrorNod : public std::exception {
 public:

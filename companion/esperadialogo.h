@@ -14,6 +14,8 @@
 //         ... show r ...
 //     }
 
+#include "nod_widgets_export.h"
+
 #include <QPointer>
 #include <QString>
 #include <functional>
@@ -22,7 +24,7 @@ class QAbstractButton;
 class QObject;
 class QWidget;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TEsperaDialogo {
 public:

@@ -2,10 +2,11 @@
 // Calendar helpers of the maker's generic library (unit Rvarias) that the routines rely on.
 
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The four-digit year of a date (0 for a serial outside the calendar).
 int Ano(TDateTime fecha);

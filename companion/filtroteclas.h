@@ -9,12 +9,14 @@
 //     EscribeEnMayusculas(ECIF);                                           // anything, in capitals
 //     InstalaFiltroCaracteres(EBis, {[](QChar c) { return c.isLetter(); }, true}); // one letter code
 
+#include "nod_widgets_export.h"
+
 #include <QString>
 #include <functional>
 
 class QLineEdit;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Whether a key always reaches the edit whatever its filter: Delete, Backspace, the arrows, Home, End,
 /// Insert, Page Up/Down, F1 to F35, Tab, Enter, Escape, and keys that type nothing (modifiers alone).

@@ -3,12 +3,13 @@
 // mark when the focus leaves it. Buttons, edits and pickers of every dialog use the same two calls.
 
 #include "companion/mensajes.h"
+#include "nod_widgets_export.h"
 
 #include <QColor>
 
 class QWidget;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// A stored colour (blue in the high byte, red in the low byte) as Qt paints it.
 /// Example: ColorQt(0x0000FF) is pure red, ColorQt(0xFF0000) pure blue.

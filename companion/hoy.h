@@ -2,10 +2,11 @@
 // Today's date and the current time, behind a seam: tests and `nodrim batch` ("today") fix them.
 
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 #include <optional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The current date and time as a serial (the fixed one when set).
 TDateTime Now();

@@ -2,11 +2,13 @@
 // The office's INI files, read as the Windows programs of the suite wrote them: Windows-1252 bytes,
 // "[SECTION]" headers, "key=value" lines, ";" comments, section and key names without regard to case.
 
+#include "nod_core_export.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class IniFile {
 public:

@@ -1,10 +1,12 @@
 #pragma once
 // Catalan numbers in words, written as the suite's Catalan deeds date themselves.
 
+#include "nod_core_export.h"
+
 #include <QChar>
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// `numero` (0 to 999 999 999 999) in Catalan words, upper case unless `minusculas` is 'S'.
 ///

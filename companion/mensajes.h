@@ -7,6 +7,7 @@
 // button (no), 6 yes and 7 no where a box says so.
 
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 #include <QString>
 #include <QVector>
@@ -15,7 +16,7 @@
 #include <functional>
 #include <optional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 using TColor = std::uint32_t; // stored as the suite writes it: blue in the high byte, red in the low byte
 

@@ -1,10 +1,12 @@
 #pragma once
 // Logging categories of the library. Programmers read these; the clerk sees message boxes instead.
 
+#include "nod_core_export.h"
+
 #include <QLoggingCategory>
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 Q_DECLARE_LOGGING_CATEGORY(lcConfig)
 Q_DECLARE_LOGGING_CATEGORY(lcTablas)
 Q_DECLARE_LOGGING_CATEGORY(lcFrame)

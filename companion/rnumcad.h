@@ -2,9 +2,11 @@
 // String and number conversions of the maker's generic library (unit Rnumcad), as the routines of this
 // library rely on them.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// A double with its shortest exact decimal digits, "," as the decimal mark and no thousands separators,
 /// as the suite prints figures: Float_Cad(7.5) == "7,5", Float_Cad(21) == "21", Float_Cad(-0.25) == "-0,25".

@@ -2,10 +2,12 @@
 // Date-times as the suite's tables and programs store them: days since 30 December 1899, with the time
 // of day as the fraction. Dates compare as whole days (the integer part).
 
+#include "nod_core_export.h"
+
 #include <QDate>
 #include <QDateTime>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 using TDateTime = double;
 

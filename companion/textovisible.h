@@ -2,9 +2,11 @@
 // Texts that a caller hands to a box, a label or a wait window, made fit to be shown as they were meant:
 // every kind of line break breaks the line, and no control character reaches the screen as a stray glyph.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// "\r\n", "\r" and "\n" all become "\n", the one break Qt draws:
 /// NormalizaSaltos("uno\rdos\r\ntres\n") == "uno\ndos\ntres\n".

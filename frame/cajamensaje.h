@@ -8,11 +8,13 @@
 // scrolls with the keys), so that the buttons stay on screen whatever its length. The focus sits on a
 // button: Enter presses the focused one, a plain "s", "n" or "a" presses its button, Escape answers 2.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 
 class QPushButton;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TCajaMensaje : public QDialog {
     Q_OBJECT

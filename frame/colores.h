@@ -4,8 +4,9 @@
 // (blue in the high byte, red in the low byte); unknown schemes are silver (0xC0C0C0).
 
 #include "companion/mensajes.h"
+#include "nod_core_export.h"
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Dark end of a scheme. Example: GetMaxColor(1) == 0x8C0000 (a dark blue); GetMaxColor(5) == 0xC0C0C0.
 TColor GetMaxColor(int esquema);

@@ -1,10 +1,12 @@
 #pragma once
 // Running a console (DOS) program through a program-information image, as the suite has always done.
 
+#include "nod_core_export.h"
+
 #include <QByteArray>
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Size of the program-information image.
 constexpr int kTamanoPif = 967;

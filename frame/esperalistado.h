@@ -2,11 +2,13 @@
 // TFEsperaListado: the small progress window shown while a long list or process runs
 // (unit Esperalistado), and the three routines that drive it.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 
 class QProgressBar;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFEsperaListado : public QDialog {
     Q_OBJECT

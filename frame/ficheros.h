@@ -2,10 +2,11 @@
 // Temporary files, temporary tables and files held by other workstations.
 
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Creates an empty, uniquely named file in the system's temporary folder and returns its full name:
 /// the first three characters of `prefijo`, a hexadecimal number and ".tmp" (as Windows names them).

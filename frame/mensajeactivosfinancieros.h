@@ -2,12 +2,14 @@
 // TFMensajeActivosFinancieros: the fixed help box on how the issuer of a financial asset is taken from
 // the parties of a deed (unit Mensajeactivosfinancieros). It answers Yes/No or just OK.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 
 class QPushButton;
 class QTextEdit;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFMensajeActivosFinancieros : public QDialog {
     Q_OBJECT

@@ -20,6 +20,7 @@
 // box lies inside the screen even when centred on an owner near its edge.
 
 #include "companion/mensajes.h"
+#include "nod_widgets_export.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -28,7 +29,7 @@ class QLabel;
 class QPushButton;
 class QWidget;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFMensajeNod : public QDialog {
     Q_OBJECT

@@ -4,10 +4,11 @@
 // dialogs (frame/qtmensajes.h), tests and the command line answer from a script.
 
 #include "companion/mensajes.h"
+#include "nod_core_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Button sets of a message box (`TMensaje`).
 enum TMensaje : int {

@@ -2,10 +2,11 @@
 // The office's notaries and their database aliases.
 
 #include "companion/config.h"
+#include "nod_core_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The base alias (`GetAliasNotario`) followed by the notary number; notary 0 is written as "1", so
 /// notaries 0 and 1 share one alias. Example: AliasNotario(12) == "DBNOTARIO12".

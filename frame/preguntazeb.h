@@ -4,11 +4,13 @@
 // the office's configuration values `WebFabricante` and `CorreoFabricante`, empty unless the office sets
 // them: a link without an address is disabled and says it is not configured.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 
 class QLabel;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFPreguntaZEB : public QDialog {
     Q_OBJECT

@@ -6,13 +6,14 @@
 //     nod::InstalaServicioMensajes(&mensajes);
 
 #include "companion/mensajes.h"
+#include "nod_widgets_export.h"
 
 #include <QDialog>
 #include <QLabel>
 #include <QPointer>
 class QWidget;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class ServicioMensajesQt : public ServicioMensajes {
 public:

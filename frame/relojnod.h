@@ -2,6 +2,8 @@
 // TFRelojNod: the dialog that sets the computer's clock (unit Relojnod). Setting the clock needs a
 // privilege the user may not have; the clock itself is reached through a seam that tests replace.
 
+#include "nod_widgets_export.h"
+
 #include <QDateTime>
 #include <QDialog>
 #include <functional>
@@ -9,7 +11,7 @@
 class QDateEdit;
 class QTimeEdit;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Sets the system's local time; on failure returns false and says why in `motivo`.
 using AjustadorReloj = std::function<bool(const QDateTime& local, QString& motivo)>;

@@ -2,10 +2,12 @@
 // Opening a web page or a "mailto:" link with the desktop's default program. Behind a seam so that tests
 // record what would have been opened instead of starting a browser.
 
+#include "nod_widgets_export.h"
+
 #include <QUrl>
 #include <functional>
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Opens `url` with the desktop's default program; false when nothing could open it.
 bool AbreEnShell(const QUrl& url);

@@ -2,10 +2,12 @@
 // Start-up and shutdown of the library's units. Each unit's start only counts how often it was started
 // and its stop how often it was stopped; nothing is opened at start-up.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <QStringList>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The library's units, in start-up order.
 const QStringList& UnidadesNodRutinas();

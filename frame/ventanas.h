@@ -2,6 +2,8 @@
 // The suite's windows: forms found or created on demand, hiding and showing every form of the program,
 // bringing a window to the front, and where the text caret and the screen's centre are.
 
+#include "nod_widgets_export.h"
+
 #include <QList>
 #include <QObject>
 #include <QPoint>
@@ -12,7 +14,7 @@
 #include <memory>
 #include <optional>
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Creates an object of some class with the given owner (the class reference of the suite's calls).
 using FabricaObjeto = std::function<QObject*(QObject* owner)>;

@@ -2,13 +2,15 @@
 // TFVersionNod: the version box (unit Versionnod): the development environment, the build date, the
 // program's file name, and one grid row per table of the suite's database alias (`GetAliasNodrim`).
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 #include <QStringList>
 
 class QLabel;
 class QTableWidget;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Build date shown by the version box.
 inline constexpr const char* kFechaCompilacion = "21/04/22";

@@ -6,9 +6,11 @@
 // 6 widowed, 7 registered partner. Regime: 1 community of acquisitions ("gananciales"), 2 separation of
 // property, 3 participation. Legal form: 1 ESTADO ... 26 SOCIEDAD LIMITADA LABORAL.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The marital-status words for a code 1..7, feminine when `sexo` is exactly "M" (any other text is the
 /// masculine form), in Catalan when `catalan`; empty for other codes.

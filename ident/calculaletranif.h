@@ -7,6 +7,8 @@
 // mode's button ("&Letra" or "&Valida"), Enter on a button presses it. "&Salir", Escape and the close
 // button give 2.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 
 class QRadioButton;
@@ -15,7 +17,7 @@ class QLabel;
 class QPushButton;
 class QFrame;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFCalculaLetraNIF : public QDialog {
     Q_OBJECT

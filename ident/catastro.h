@@ -8,9 +8,11 @@
 // reference and expand it. Input is trimmed and upper-cased first; only "0".."9" count as digits and only
 // "A".."Z" as letters.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Whether `s` has the shape of an abbreviated urban reference: digits, two letters, digits, a letter,
 /// digits, two letters. Characters after the last two letters are not looked at.

@@ -1,9 +1,11 @@
 #pragma once
 // The CIF check the suite's programs use on the number of a company or other legal person.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Whether `s` (normalised first: no blanks, points or hyphens, upper case) is a valid CIF, or, when it
 /// starts with a digit or "X", a valid NIF or NIE ("X" read as 0). Organisation letters "K", "L", "M" and "N"

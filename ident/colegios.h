@@ -1,9 +1,11 @@
 #pragma once
 // The code of a notarial college (one per region), for the official returns that name it.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Code of the college of region `nombre` (or `alternativo` when `nombre` is empty; the configured college of
 /// the notary, `GetColegio` then `GetColeg2`, when both are empty): an exact region name first, then the

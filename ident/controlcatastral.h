@@ -8,9 +8,11 @@
 // and the sum modulo 23 picks the letter of "MQWERTYUIOPASDFGHJKLBZX". The rule is the same for urban and
 // rustic references.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The two control letters of the first 18 characters of `referencia` (upper case expected): "WX" for
 /// "9872023VH5797S0001". Empty when there are fewer than 18 characters or a character is neither a digit

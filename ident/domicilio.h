@@ -1,9 +1,11 @@
 #pragma once
 // A client's address written on one line for the text of a deed, and the words for floor and stair codes.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class TTabla;
 

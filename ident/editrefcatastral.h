@@ -1,10 +1,12 @@
 #pragma once
 // The edit of a cadastral reference: upper case, at most 20 characters, and able to validate what it holds.
 
+#include "nod_widgets_export.h"
+
 #include <QLineEdit>
 #include <functional>
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Kind of property a reference belongs to.
 enum class TTipoFinca { Urbana, Rustica };

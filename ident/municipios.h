@@ -4,9 +4,11 @@
 // ENT_MENOR (the row is a minor local entity inside the municipality of that code, not the municipality).
 // Every routine opens the table itself; a missing table gives the empty default and a line in the log.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Name of the municipality with province code `provincia` (trimmed) and municipality code `municipio`:
 /// BusquedaMunicipio("28", "079") == "MADRID"; empty when there is none.

@@ -2,9 +2,11 @@
 // The NIF: a national's identity number (DNI) written with its control letter, the number modulo 23 in
 // the table "TRWAGMYFPDXBNJZSQVHLCKE", and grouped by points: 12345678 is written 12.345.678-Z.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The formatted NIF of a bare number of up to 8 digits: NIF("12345678") == "12.345.678-Z",
 /// NIF("123") == "00.000.123-P", NIF("") == "". Anything else comes back as it was (trimmed once it is

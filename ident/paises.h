@@ -5,9 +5,11 @@
 // annex 11, with its code in COD_198). Every routine opens the table itself and closes it before
 // returning; a missing table gives the documented default and a line in the log.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// 1999-list code of a country by its name (trimmed, exact): Cod_PaisBOE("ALEMANIA") == "276" in the
 /// sample office; "999" for a blank or unknown name.

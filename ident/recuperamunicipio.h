@@ -7,12 +7,14 @@
 // `GetEspacioNombresCatastro`, `GetWebConsultaCatastro`); the wait is bounded by `GetEsperaCatastroMs` and
 // an answer larger than `kMaximoRespuestaCatastro` is abandoned.
 
+#include "nod_core_export.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QUrl>
 #include <functional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Largest answer read from the cadastre; a real one is a few kilobytes.
 constexpr qint64 kMaximoRespuestaCatastro = 1 << 20;

@@ -2,9 +2,11 @@
 // Document-type codes of the people and bodies of a deed: 1 NIF, 2 CIF, 3 NIE, 4 passport, any other
 // code an identity document of another kind.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The label of a document-type code: TipoDeDocumento(3) == "N.I.E."; codes other than 1..4 give
 /// "DOCUMENTO DE IDENTIFICACION".

@@ -1,9 +1,11 @@
 #pragma once
 // Courtesy titles of the people of a deed, and the sex they tell.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The sex a courtesy title tells, on the upper-cased title: "DON", "Dº", "Dº." and "D." give "H";
 /// "DOÑA", "Dª" and "Dª." give "M"; anything else "" (DeterminaSexo("Sr.") == "").

@@ -9,6 +9,8 @@
 // leaves the dialog open; "&Cancelar" abandons it and closes the dialog; an answer arriving after either
 // is dropped. Entering a control shows its hint in `SBExplica`; Enter moves to the next control.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 
 class QRadioButton;
@@ -17,7 +19,7 @@ class QPushButton;
 class QStatusBar;
 class QFrame;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TEditRefCatastral;
 

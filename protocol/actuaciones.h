@@ -2,9 +2,11 @@
 // Words for the role of each party of a deed or policy and for the kind of intervention of a person, as the
 // billing screens and the deed texts print them; codes are compared exactly (case-sensitive).
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class TTabla;
 

@@ -11,10 +11,12 @@
 // None of these report errors. An amount that is not a finite number gives a fee of 0, and so does a fee
 // that does not fit the result's integer type; negative amounts go through the scales as they stand.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <QtGlobal>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Deed fee in pesetas: 4 000 up to 1 000 000, then the base fee and rate of the highest bracket the
 /// amount passes, truncated to whole pesetas.

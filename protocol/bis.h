@@ -4,10 +4,12 @@
 //     the capitals "A", "B" and "N" never appear, because the double-letter suffixes give them a meaning;
 //   double letter: 1..26 "a".."z", 27..52 "AA".."AZ", 53..78 "BA".."BZ", 79 "CA", 80 "CB".
 
+#include "nod_core_export.h"
+
 #include <QChar>
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The single-character suffix of a position; the character with code 0 outside 1..80.
 /// Example: DadoNumeroDevuelveBisMasdeUna(27) == 'C', (50) == '!', (81) == QChar(0).

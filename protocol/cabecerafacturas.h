@@ -5,8 +5,9 @@
 // configuration values of the same names (`Fac_1`..`Fac_4`, `Fac_d_1`..`Fac_d_4`, `Fac_g_1`..`Fac_g_4`).
 
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Loads into the configuration the header lines in force on `fecha` for the selected notary: those of the
 /// day itself when the table has rows of that day, else those of the latest earlier day. Rows whose

@@ -9,6 +9,7 @@
 // 1.500,50 €, never 150.050 €; an amount not yet whole ("1.234.5") shows no fee.
 
 #include "companion/editimporte.h"
+#include "nod_widgets_export.h"
 
 #include <QWidget>
 
@@ -19,7 +20,7 @@ class QDoubleSpinBox;
 class QLabel;
 class QPushButton;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TCalculadoraHonorarios : public QWidget {
     Q_OBJECT

@@ -6,9 +6,11 @@
 // with a blank slot, and a blank or a piece of a word gives the slot where it first appears.
 // The word is upper-cased first, accented letters too ("representación" finds "REPRESENTACIÓN").
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Roles of a deed's party: ADQUIRENTE 0, AVALISTA 1, CAUSANTE 2, CEDENTE 3, CESIONARIO 4, COMPRADOR 5,
 /// DONANTE 6, DONATARIO 7, HEREDERO 8, HIPOTECANTE 9, LEGATARIO 10, PRESTAMISTA 11, PRESTATARIO 12,

@@ -5,10 +5,11 @@
 // exactly "CEUTA" or "MELILLA"). Dates compare as whole days; a period "from" a day includes it.
 
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// True when `porcentaje` is exactly the rate in force on `fecha` in the office's territory:
 ///   VAT 16 before 01/07/2010, 18 up to 31/08/2012, 21 from 01/09/2012;

@@ -13,9 +13,11 @@
 // 32-bit integer, except for `CodToNum4`/`CodToNum5`, whose remainder always fits. Packing whose result
 // does not fit a 32-bit code gives 0.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// year × 10 000 + number. Example: EncodeCod4(2008, 15) == 20080015.
 int EncodeCod4(int anno, int numero);

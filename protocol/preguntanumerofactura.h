@@ -8,6 +8,8 @@
 // Modal results: 1 "&Aceptar", 2 "&Cancelar" or Escape. Entering a control shows its hint in the status
 // bar `SBExplica`; fields also take the focus mark (`TomaFocoControl`). Leaving clears both.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 #include <QPointer>
 
@@ -16,7 +18,7 @@ class QLineEdit;
 class QPushButton;
 class QStatusBar;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFPreguntaNumeroFactura : public QDialog {
     Q_OBJECT

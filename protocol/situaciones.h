@@ -2,9 +2,11 @@
 // Texts of the situation codes the suite stores for deeds, master deeds and policies, and the kind letter
 // of an intervention. Codes are compared exactly (case-sensitive, whole text).
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Long text of a deed's situation "1".."6"; any other code: "No hay información anotada".
 /// Example: Situacion("4") == "Terminado, para retirar".

@@ -10,11 +10,12 @@
 // numbers give 0.
 
 #include "companion/errores.h"
+#include "nod_core_export.h"
 
 #include <QString>
 #include <QtGlobal>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The gross-up of a quota met a VAT percentage of 0.
 class EDivisionPorCero : public ErrorNod {

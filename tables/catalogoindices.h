@@ -8,12 +8,13 @@
 // orders by that field alone: most of the suite's tags ("CODIGO", "CODCLIENTE", "FECHA_ENT", "EQUIPO" ...)
 // are of that kind, so only the others are listed.
 
+#include "nod_core_export.h"
 #include "tables/tablas.h"
 
 #include <QStringList>
 #include <optional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The key fields of tag `etiqueta` of the table file `fichero` ("PROVIN.DBF", "provin", a full path ...;
 /// only the base name counts, without regard to case), given the table's fields. nullopt when the tag is

@@ -3,9 +3,11 @@
 // they belong to one open of the file, not to the process, so closing another descriptor of the same file
 // (shapelib's own, for instance) does not drop them, and `FicheroAbierto` sees them with F_OFD_GETLK.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// An open descriptor of a table holding a lock; the lock and the descriptor go when it is destroyed.
 class BloqueoFichero {

@@ -3,13 +3,14 @@
 // fields compare as their bytes in the table's code page without trailing blanks (the machine order of a
 // dBase index without collation); numeric, float, date and logical fields compare as numbers.
 
+#include "nod_core_export.h"
 #include "tables/dbfdatos.h"
 
 #include <QVariant>
 #include <algorithm>
 #include <cstring>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Compares a character field's bytes (trailing blanks dropped) with a text in the table's page: by bytes,
 /// the shorter first on a tie; `parcial`: equal when the field begins with the text.

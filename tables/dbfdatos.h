@@ -9,6 +9,7 @@
 // field whose text does not parse raises ErrorTabla naming the file, the record and the field.
 
 #include "companion/codepage.h"
+#include "nod_core_export.h"
 #include "tables/dbfbloqueo.h"
 #include "tables/tablas.h"
 
@@ -20,7 +21,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Identity of a file on disk: when any of these change, an image of it is stale.
 struct IdentidadFichero {

@@ -4,12 +4,13 @@
 // lock (tables/dbfbloqueo.h) from before shapelib reads the header until the header is written back,
 // so the record count it appends after is the one on disk at that moment, whoever wrote last.
 
+#include "nod_core_export.h"
 #include "tables/dbfbloqueo.h"
 #include "tables/tablas.h"
 
 #include <QByteArray>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Writes the record bytes `registro` (deletion mark included) as record `fila` (from 0), or appends them
 /// when `fila` is -1; returns the record's number. `bloqueo`: the write lock already held by the caller

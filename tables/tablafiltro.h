@@ -10,11 +10,12 @@
 // `kProfundidadMaximaFiltro` deep; the routines' filters are a few dozen characters and one or two
 // levels, and anything beyond is refused with an error instead of exhausting the stack.
 
+#include "nod_core_export.h"
 #include "tables/dbfclaves.h"
 
 #include <memory>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 constexpr qsizetype kLongitudMaximaFiltro = 8192;
 constexpr int kProfundidadMaximaFiltro = 64;

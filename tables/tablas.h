@@ -31,6 +31,7 @@
 #include "companion/codepage.h"
 #include "companion/errores.h"
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 #include <QList>
 #include <QString>
@@ -39,7 +40,7 @@
 #include <memory>
 #include <utility>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// A field of a table: name (upper case, at most 10 characters), dBase type ('C' character, 'N' numeric,
 /// 'F' float, 'L' logical, 'D' date, 'M' memo), width and decimals.

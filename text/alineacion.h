@@ -4,10 +4,11 @@
 // mistake of the caller, not a column: the text comes back unchanged instead of being padded to it.
 
 #include "companion/rnumcad.h"
+#include "nod_core_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Centres `s` in `ancho` characters, the odd blank to the right: StrCentra("AB", 5) == " AB  ".
 /// When `ancho` <= L, `s` comes back unchanged.

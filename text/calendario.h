@@ -3,10 +3,11 @@
 // and quarters.
 
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Days of the month of `fecha`: 31, 30, or 29/28 for February by the leap-year rule; 0 for a serial
 /// outside the calendar. DiasMes(EncodeDate(2024, 2, 10)) == 29.

@@ -3,10 +3,12 @@
 // integer and decimal digits without building strings: the words and figures of amounts are written on
 // every line of an invoice, so they avoid the allocations of going through text.
 
+#include "nod_core_export.h"
+
 #include <QtGlobal>
 #include <string_view>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class Cifras {
 public:

@@ -3,12 +3,14 @@
 // QString once, in one allocation, however many pieces the text is made of. Invoices write an amount in
 // words and figures on every line, so the text is built without intermediate strings.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <algorithm>
 #include <cstring>
 #include <string_view>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class Texto {
 public:

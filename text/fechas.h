@@ -3,10 +3,11 @@
 // words read back.
 
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// A date by a template code "F1".."F8" and an optional third character for the case: 'S' lower,
 /// 'N' upper, 'C' capitalised words (given in either case); any other character, or none, keeps the

@@ -2,9 +2,11 @@
 // Numbers and amounts written by the short format codes of the suite's document templates: the figure
 // with Spanish grouping ("1.234,5"), the words, or both.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// A number by a four-character code: mode (characters 1-2), gender (3) and case (4) as `LetrasNod`
 /// takes them. The figure groups thousands with "." and keeps every decimal digit after ",";

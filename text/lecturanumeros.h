@@ -2,9 +2,11 @@
 // Numbers written in Spanish or Catalan words read back into integers, as dates typed in words are
 // read (see `TraduceFechaNod`).
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Reads thousands, hundreds, tens and units written in words, each word separated by one blank; case
 /// and accents do not matter. Spanish forms: "mil", "ciento"/"cien", "doscientos".."novecientos",

@@ -7,12 +7,14 @@
 // The routines work on 0 to 999 999 999 999; a number outside that range, negative, NaN or infinite
 // gives "" (and so does any part of a decimal that falls outside it).
 
+#include "nod_core_export.h"
+
 #include <QChar>
 #include <QString>
 #include <array>
 #include <string_view>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The words of one gender, each followed by one blank: [1] "UNO " or "UNA ", [2..29] "DOS " ..
 /// "VEINTINUEVE " ([21] by gender: "VEINTIUNA ", "VEINTIÚN ", "VEINTIUNO "), the tens "TREINTA " ..

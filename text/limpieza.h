@@ -2,9 +2,11 @@
 // Cleaning of text typed by users before it is compared or stored: accents, blanks, digits, punctuation
 // and the final backslash of folders. Every routine returns a new string.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Replaces only the upper-case acute vowels (Á É Í Ó Ú) by plain ones; lower-case and grave vowels,
 /// "Ü" and "Ñ" stay: QuitaAcentos("ÁRBOL ácido") == "ARBOL ácido".

@@ -2,10 +2,12 @@
 // Case of generated text: the case character of the suite's format codes ("S" lower, "N" upper,
 // "C" capitalised words).
 
+#include "nod_core_export.h"
+
 #include <QChar>
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// 'S' lower case, 'N' upper case, 'C' `CapitalCase`; any other character returns `s` unchanged:
 /// MayusMinus("quince DE marzo", 'N') == "QUINCE DE MARZO".

@@ -2,9 +2,11 @@
 // Pesetas and euros, and Spanish digit grouping. The rate is the configuration's `PesetasPorEuro`
 // (166.386 by law), read on every call.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Pesetas in euros as text with two decimals and Spanish grouping ("1.000,00"); a result of "0,00"
 /// gives "" so that zero amounts print blank: PesetasEurosNod(166386) == "1.000,00".

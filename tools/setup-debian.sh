@@ -5,10 +5,12 @@ set -eu
 
 PAQUETES="cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev libbenchmark-dev
 nlohmann-json3-dev libshp-dev libcurl4-openssl-dev libicu-dev clang libclang-rt-14-dev xvfb xauth
-locales python3 python3-dbfread python3-stdnum python3-aiosmtpd iso-codes fontconfig fonts-liberation poppler-utils"
+locales python3 python3-dbfread python3-stdnum python3-aiosmtpd iso-codes fontconfig fonts-liberation poppler-utils
+dpkg-dev file"
 
 # The dialogs are designed in "Arial": fonts-liberation serves it with the metric-compatible Liberation Sans,
 # so that texts fit the designed geometry (fontconfig's fc-match checks it).
+# The Debian packages: dpkg-shlibdeps (dpkg-dev) computes their dependencies on the ELF files `file` finds.
 # Tests also run under a Spanish locale, whose decimal comma must never leak into machine formats.
 generar_locale() {
     locale -a 2>/dev/null | grep -qi '^es_ES.utf8$' && return 0

@@ -1,7 +1,8 @@
 #!/bin/sh
 # Builds and runs the whole test suite: the tests under AddressSanitizer and UndefinedBehaviorSanitizer,
 # a bounded fuzzing run of every fuzz target (text parsers, the batch request handler ...), then a
-# release build (benchmarks included) and its tests. CTest's summary line ends the output.
+# release build (benchmarks included), installed, consumed by a project of its own and packaged, and its
+# tests. CTest's summary line ends the output.
 set -eu
 cd "$(dirname "$0")/.."
 tools/setup-debian.sh
@@ -29,6 +30,12 @@ if ! tools/fuzz.sh "${NOD_FUZZ_SECONDS:-60}" >build/fuzz.log 2>&1; then
 fi
 grep '^fuzz_lote: .* routine forms called' build/fuzz.log || true
 
-cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_INSTALL_PREFIX=/usr >/dev/null
 cmake --build build/release -j "$JOBS"
+
+# The release build as programs of the suite get it: installed into a staged prefix and used by a project
+# of its own through find_package, then packaged (.deb) and run from the unpacked packages.
+echo "Installing and packaging the release build (logs: build/release/consumidor.log, cpack.log)"
+sh tests/paquete/comprueba-paquetes.sh build/release
+
 ctest --test-dir build/release -j "$JOBS" --output-on-failure --timeout 600

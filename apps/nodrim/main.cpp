@@ -43,9 +43,8 @@ constexpr char kUso[] = "usage: nodrim batch [--office DIR]\n"
                         "       nodrim --help\n";
 
 int ayuda(std::ostream& os) {
-    os << kUso
-       << "\nOffice folder: --office, else $NODRIM_DIR, else the bundled sample office.\n\n"
-          "Routines:\n";
+    os << kUso << "\nOffice folder: --office, else $NODRIM_DIR, else the bundled sample office ("
+       << QDir::toNativeSeparators(CarpetaOficinaDeEjemplo()).toStdString() << ").\n\nRoutines:\n";
     for (const auto& [nombre, formas] : lote::TodasLasRutinas().todas())
         os << "  " << lote::Firmas(nombre, formas) << '\n';
     const QString formularios = lote::CapaFormularios(lote::ProgramaCapaFormularios(), {}).Ayuda();
@@ -112,11 +111,17 @@ std::optional<std::string> leeOrden(int argc, char** argv, Orden& orden) {
     return std::nullopt;
 }
 
-// The office folder: one named with --office or $NODRIM_DIR must exist; the bundled sample office is the
-// fallback (missing, it gives default values with a warning). nullopt after reporting the problem.
+// The office folder: one named with --office or $NODRIM_DIR, else the bundled sample office; it must
+// exist. nullopt after reporting the problem.
 std::optional<QString> carpetaOficina(const Orden& orden) {
     const QString entorno = qEnvironmentVariable("NODRIM_DIR");
-    if (!orden.office && entorno.isEmpty()) return CarpetaOficinaPorDefecto();
+    if (!orden.office && entorno.isEmpty()) {
+        const QString ejemplo = CarpetaOficinaDeEjemplo();
+        if (QFileInfo(ejemplo).isDir()) return ejemplo;
+        const std::string donde = QDir::toNativeSeparators(ejemplo).toStdString();
+        fallo("no office folder: none named with --office or $NODRIM_DIR, and no sample office at " + donde);
+        return std::nullopt;
+    }
     const QString carpeta = orden.office ? *orden.office : entorno;
     const std::string nombre = "the office folder " + QDir::toNativeSeparators(carpeta).toStdString() +
                                (orden.office ? "" : " (from $NODRIM_DIR)");
