@@ -1,9 +1,11 @@
 #pragma once
 // Whether this workstation can reach the internet, and whether it is the one that downloads updates.
 
+#include "nod_core_export.h"
+
 #include <functional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// True when the system reports a network connection and the maker's web site (`WebFabricante`) answers a
 /// request made with agent name "InetURL:/1.0" and sent to the network, never served from a cache. Any HTTP

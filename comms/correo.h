@@ -2,6 +2,8 @@
 // The mail and fax routines of the suite's programs: sending one message (the e-mail editor's send action
 // and the billing program's invoices), the support desk's "mailto:" link, and fax jobs.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -9,7 +11,7 @@
 
 class QObject;
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The recipients of `lista` ("a@x.es;b@y.es") each preceded by `prefijo`, as the mail component takes
 /// them: the text before each ";" in turn, and the rest after the last one when it is not empty.

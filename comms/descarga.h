@@ -2,11 +2,13 @@
 // DescargarFichero: one file from a web address to a path, as the routines that fetch the web gateway's
 // files use it.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <QtGlobal>
 #include <functional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Called as the bytes arrive: received so far and the total (-1 while the server has not said).
 using ProgresoDescarga = std::function<void(qint64 recibidos, qint64 total)>;

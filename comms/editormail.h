@@ -11,6 +11,8 @@
 // out; a message that could not be sent is reported ("Correo no enviado") and the editor stays open with
 // everything as it was. "&Cerrar" and Escape close it with 2.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 #include <QString>
 #include <QStringList>
@@ -20,7 +22,7 @@ class QListWidget;
 class QPlainTextEdit;
 class QPushButton;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFEditorMail : public QDialog {
     Q_OBJECT

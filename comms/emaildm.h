@@ -2,12 +2,13 @@
 // TDMEmail: the data module of the e-mail editor, whose table of a deed's interested parties
 // (`tbInteresados`) shows each party's client name in the calculated field CLIENTE.
 
+#include "nod_core_export.h"
 #include "tables/tablas.h"
 
 #include <QString>
 #include <memory>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The name of client `codCliente` as the interested parties show it: "APELLIDOS, NOMBRE" from
 /// "CLIENTES.DBF" of the suite's database (`AliasNodrim`, tag "CODIGO"). With one of the two names blank

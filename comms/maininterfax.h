@@ -10,12 +10,14 @@
 // line); a missing file or key leaves the service's defaults. A relative path is read under the office
 // folder ("CONFIG\VARIOS.INI"), "C:\..." under the drive-root folder (`UnidadC`).
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <QStringList>
 
 class QObject;
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Sends `documentos` (file paths) to each fax number of `destinatarios`, in order, with the account
 /// `usuario`/`password`, and returns each fax's identifier.

@@ -8,10 +8,12 @@
 // folder (the office folder); the two may differ, and the downloads still go to the base folder. Nothing
 // here raises: what the clerk must know comes as the questions and errors below.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <functional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The program folder, ending in a separator: the running program's folder, or the one set with
 /// `FijaCarpetaPrograma`.

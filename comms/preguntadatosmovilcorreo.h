@@ -11,6 +11,8 @@
 // the next control. On show the focus goes to the mobile field when it is empty, else to the e-mail field
 // when that is empty, else to the mobile field.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 #include <QString>
 
@@ -18,7 +20,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFPreguntaDatosMovilCorreo : public QDialog {
     Q_OBJECT

@@ -23,11 +23,13 @@
 // addresses, attachments), and SMTP delivers a message whole or not at all, so an error always means that
 // nothing was sent.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <QStringList>
 #include <functional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// How the connection to the SMTP server is protected.
 enum class SeguridadSmtp {

@@ -3,11 +3,13 @@
 // QDialog::exec(); a program without a clerk (`nodrim batch`) or a test installs an executor that
 // answers the form in place (fills its controls, presses a button) and returns the modal result.
 
+#include "nod_widgets_export.h"
+
 #include <functional>
 
 class QDialog;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Shows `d` modally and returns its modal result (1 accept, 2 cancel ...), through the executor installed
 /// with `FijaEjecutorModal`, or `d.exec()` when there is none.

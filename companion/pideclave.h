@@ -6,13 +6,15 @@
 // Keys: Enter moves to the next control (Space or the accelerator presses a button), Escape cancels.
 // Modal results: 1 "&Aceptar", 2 "&Cancelar" or Escape.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 
 class QLabel;
 class QLineEdit;
 class QPushButton;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFPideClave : public QDialog {
     Q_OBJECT

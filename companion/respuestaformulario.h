@@ -8,6 +8,8 @@
 // also a number), typed as keys after selecting what the field held; a list takes the text of one of its
 // items or its index; a check box or radio button true or false; a date field "YYYY-MM-DD".
 
+#include "nod_widgets_export.h"
+
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -15,7 +17,7 @@
 class QAbstractButton;
 class QDialog;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// A control of a form, by its `objectName`, and a value.
 struct ValorControl {

@@ -8,10 +8,12 @@
 // office folder, and "\" is always a separator. Every routine below that touches the disk accepts
 // either form.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <QStringList>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Joins two parts of a suite path with exactly one "\" between them, whatever ends the first part or
 /// starts the second: SlashSep("C:\DATOS\", "\2024") == "C:\DATOS\2024". An empty first part gives the

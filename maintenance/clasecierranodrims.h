@@ -22,12 +22,14 @@
 // lookup included), so windows repaint and the contacted programs of this same process are served.
 // Runs on the user-interface thread.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <memory>
 
 class QObject;
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class TConexionTcp;
 class TTabla;

@@ -8,9 +8,11 @@
 // maintenance routines without using the network (nodrim) do not load Qt Network and its libraries at
 // start-up.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class TConexionTcp {
 public:

@@ -2,10 +2,12 @@
 // This workstation's own network address, as the connection table "CONEXION" records it, behind a seam
 // that tests and programs with a fixed address replace.
 
+#include "nod_core_export.h"
+
 #include <QString>
 #include <optional>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// The workstation's address: the fixed one when set (`FijaDameIP`), else its first IPv4 address that is
 /// not a loopback one on an interface that is up, else "127.0.0.1". Example: "192.168.1.23".

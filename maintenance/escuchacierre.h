@@ -9,12 +9,14 @@
 //
 // Served by the program's event loop; written on the system's sockets (POSIX), as TConexionTcp is.
 
+#include "nod_core_export.h"
+
 #include <QObject>
 #include <QString>
 
 class QSocketNotifier;
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class TEscuchaCierre : public QObject {
     Q_OBJECT

@@ -15,6 +15,7 @@
 // Support and live in the maintenance dialogs' library.
 
 #include "maintenance/revisioncodcliente.h"
+#include "nod_core_export.h"
 
 #include <QDate>
 #include <QString>
@@ -23,7 +24,7 @@ class QPagedPaintDevice;
 class QPrinter;
 class QWidget;
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class TQRListaRevisionCodCliente {
 public:

@@ -31,12 +31,14 @@
 // let go once its check is done (the table layer would otherwise keep it for the next opening), so a run
 // holds the clients' codes and one table at a time.
 
+#include "nod_core_export.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <memory>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 class ConjuntoCodigos;
 
@@ -73,9 +75,10 @@ QList<int> ModosRevision(const QString& tabla);
     X(BANCOS)                                                                                                \
     X(CLAVES)                                                                                                \
     X(CLAVES_C)                                                                                              \
-    X(CLAVES_E) X(CLAVES_I) X(CLAVES_L) X(CLAVES_P) X(CLAVES_S) X(CLIENTES) X(DEPOSITO) X(DEUDAS)            \
-        X(ENTRADAS) X(FACTURAA) X(FACTURAB) X(FACTURAC) X(FACTURAD) X(FACTURAX) X(FACTURAE) X(FACTURAF)      \
-            X(FACTURAG) X(PLUSVAL) X(PODERES) X(POLIZAS) X(TESTIGOS) X(TIT_REL) X(VALORES)
+    X(CLAVES_E)                                                                                              \
+    X(CLAVES_I) X(CLAVES_L) X(CLAVES_P) X(CLAVES_S) X(CLIENTES) X(DEPOSITO) X(DEUDAS) X(ENTRADAS)            \
+        X(FACTURAA) X(FACTURAB) X(FACTURAC) X(FACTURAD) X(FACTURAX) X(FACTURAE) X(FACTURAF) X(FACTURAG)      \
+            X(PLUSVAL) X(PODERES) X(POLIZAS) X(TESTIGOS) X(TIT_REL) X(VALORES)
 
 class TRevisionCodCliente {
 public:

@@ -8,6 +8,7 @@
 // blocked, the progress window naming each table), previews the list and closes the form with 1.
 
 #include "maintenance/revisioncodcliente.h"
+#include "nod_widgets_export.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -17,7 +18,7 @@ class QComboBox;
 class QPushButton;
 class QRadioButton;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFSeleccionModoRevisionCodCliente : public QDialog {
     Q_OBJECT

@@ -3,10 +3,11 @@
 // message service, no form of its own.
 
 #include "companion/tdatetime.h"
+#include "nod_core_export.h"
 
 class QObject;
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Whether entries dated `fecha` may be deleted. Asks in turn, each a No/Sí box titled
 /// "Confirmación de borrado de apuntes" with the focus on "No":

@@ -13,6 +13,7 @@
 // The focused input control carries the focus mark (`TomaFocoControl`).
 
 #include "companion/mensajes.h" // TColor
+#include "nod_widgets_export.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -30,7 +31,7 @@ class QPushButton;
 class QRadioButton;
 class QSpinBox;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TEditImporte;
 class TEditRefCatastral;

@@ -5,12 +5,13 @@
 // cancel. `owner` is the form the prompt belongs to (centred on it while it is visible).
 
 #include "companion/mensajes.h" // TColor
+#include "nod_widgets_export.h"
 
 #include <QString>
 
 class QWidget;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Kind "Texto": the label above the field = `titulo`, the field = `texto`. On accept `texto` = the field.
 bool PreguntaTexto(const QString& titulo, QString& texto);

@@ -4,11 +4,12 @@
 
 #include "companion/mensajes.h" // TColor
 #include "companion/tdatetime.h"
+#include "nod_widgets_export.h"
 
 #include <QChar>
 #include <QString>
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Kind "NumeroFactura": the clerk types series, number and bis as the form's help explains; the
 /// form composes them (`TFPreguntaDatos::btnAceptarClick`). On accept `numero` = the composed year and

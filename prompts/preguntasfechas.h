@@ -17,10 +17,11 @@
 
 #include "companion/mensajes.h" // TColor
 #include "companion/tdatetime.h"
+#include "nod_widgets_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Kind "DesdeDia": the form's caption `titulo`, the note under the field `nota`, the field = `fecha`.
 /// On accept `fecha` = the field without its time part.

@@ -1,9 +1,11 @@
 #pragma once
 // Prompt routines that use other dialogs than the data prompt: a file to open and a password.
 
+#include "nod_widgets_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Opens a file-open dialog titled `titulo` (the dialog's own title when empty) on the folder `carpeta`,
 /// or on the office's "C:\MODELOS" when `carpeta` is empty (a Windows folder "C:\..." is taken under the

@@ -5,10 +5,11 @@
 
 #include "companion/mensajes.h" // TColor
 #include "companion/tdatetime.h"
+#include "nod_widgets_export.h"
 
 #include <QString>
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// Kind "NumeroAño": number `seNumero2` and year `seAno7` from the variables; the year field can be
 /// changed only when `anoEditable`. On accept both read back.

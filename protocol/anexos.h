@@ -2,9 +2,11 @@
 // The annexes of a document: files kept beside it that the word-processor link joins to it when
 // printing ("Escritura.docx" has "Escritura_Anexo1.docx", "Escritura_Anexo planos.docx" ...).
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Deletes the annexes of the document `fichero` (a full path, as the suite writes it or real): the files
 /// of its folder named as the document without its extension, then "_Anexo", any text, and the same

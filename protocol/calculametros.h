@@ -6,13 +6,15 @@
 // Outcome: `Tag` is 1 after "&Aceptar" and 0 after "Cancelar" or Escape; `MetrosCuadrados` keeps the last
 // surface computed with "=". Modal results: 1 "&Aceptar", 2 "Cancelar" or Escape.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 #include <QPointer>
 
 class QLineEdit;
 class QPushButton;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// The surface of hectares, ares and centiares in square metres, as the suite has always computed it:
 /// hundredths of a square metre summed from three 32-bit products (hectares × 1,000,000, ares × 10,000,

@@ -13,9 +13,11 @@
 //   - with it, in an office configured with no notaries (`nCuantos` below 1): the error box
 //     "Configuración errónea" (once per call) and the bare base folder.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Folder of a deed's document (any mode but 1) or a dossier's (mode 1: `CARPETAS_EXPEDIENTE`\year\)
 /// in `ano`, for notary `notario` (1..5). Example, without agreement and the base "C:\NODRIM\PROTOCOLO":

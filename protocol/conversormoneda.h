@@ -10,6 +10,8 @@
 // Keys: Enter moves to the next control, from a button too; Escape closes (result 2). The two fields take
 // digits and "," only as they are typed.
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 #include <QPointer>
 #include <QStyledItemDelegate>
@@ -18,7 +20,7 @@ class QLineEdit;
 class QPushButton;
 class QTableWidget;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFConversorMoneda : public QDialog {
     Q_OBJECT

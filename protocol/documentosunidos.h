@@ -3,9 +3,11 @@
 // are later incorporated into the office's general folder of joined documents (`CarpetaDocumentosUnidos`),
 // where every image is named by a running number: 0001.jpg, 0002.jpg ...
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Incorporates the JPEG images of a dossier's folder `origen` into the general folder, after asking
 /// "Incorporar Documentos Unidos": "Hay documentos unidos asociados al protocolo", "¿Desea incorporar los

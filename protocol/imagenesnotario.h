@@ -7,9 +7,11 @@
 // not a number other than 0. The result is the file's full path as the suite writes it; the file itself
 // is not looked at (`RutaEnDisco` gives the real file).
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// `CarpetaImagenes`\PUBLIn.PNG: FicheroPubli("2") ends "\PUBLI2.PNG".
 QString FicheroPubli(const QString& notario);

@@ -13,6 +13,8 @@
 //   Escape  cancel the identifier while editing, otherwise close with Cancel (2)
 // Modal results: 1 "&Aceptar" (the list stored in `Fincas`), 2 "&Cancelar" (`Fincas` unchanged).
 
+#include "nod_widgets_export.h"
+
 #include <QDialog>
 #include <QPointer>
 #include <QStringList>
@@ -22,7 +24,7 @@ class QLineEdit;
 class QListWidget;
 class QPushButton;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TFMasDatosFincasRegistrales : public QDialog {
     Q_OBJECT

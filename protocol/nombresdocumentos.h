@@ -18,9 +18,11 @@
 // A tag the template's kind does not know is left out, and a "<" without its ">" leaves the rest of the
 // template out; both are reported in the log, for the one who wrote the template.
 
+#include "nod_core_export.h"
+
 #include <QString>
 
-namespace nod {
+namespace nod NOD_CORE_EXPORT {
 
 /// Bis suffix of word-processor document names: "_1Bis", "_2Bis", "_3Bis".
 QString SufijoBisDocumento(int bis);

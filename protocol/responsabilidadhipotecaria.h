@@ -20,6 +20,7 @@
 // focus mark of the dialog conventions (the suite's `TomaFoco` and `DejaFoco`).
 
 #include "companion/editimporte.h"
+#include "nod_widgets_export.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -29,7 +30,7 @@ class QComboBox;
 class QKeyEvent;
 class QPushButton;
 
-namespace nod {
+namespace nod NOD_WIDGETS_EXPORT {
 
 /// The calculator's numeric edit: an amount edit (`TEditImporte`, Spanish figures, value and integer
 /// view) that keeps the unrounded value the program wrote while its text still shows it, and tells a new
