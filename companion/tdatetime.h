@@ -31,9 +31,10 @@ QDate TDateTimeToQDate(TDateTime t);
 /// Date and time of a serial, local time.
 QDateTime TDateTimeToQDateTime(TDateTime t);
 
-/// The whole-day part of a serial, as the suite compares dates.
+/// The whole-day part of a serial, as the suite compares dates; 0 for a serial beyond any day an int
+/// can count (or not a number).
 inline int DiaDe(TDateTime t) {
-    return int(t);
+    return t > -2147483649.0 && t < 2147483648.0 ? int(t) : 0;
 }
 
 /// Builds a serial from year, month and day; an impossible date gives 0.

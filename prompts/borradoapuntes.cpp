@@ -32,8 +32,8 @@ TDateTime CierreTrimestre(TDateTime fecha) {
 }
 
 bool ConfirmaBorradoApuntes(QObject*, TDateTime fecha) {
-    const int hoy = DiaDe(Date());
-    const int dia = DiaDe(fecha);
+    const qint64 hoy = DiaDe(Date());
+    const qint64 dia = DiaDe(fecha);
     bool seguir = true;
     if (hoy - dia > 3)
         seguir = sigue(QStringLiteral("Existen apuntes contables con más de 3 días de antigüedad"),

@@ -2,10 +2,9 @@
 // the client's mobile and address (its key filter and what comes back out), and the mail editor sending
 // to a real SMTP server on 127.0.0.1.
 #include "tests/comms/servidor_correo.h"
+#include "tests/support/lote_proceso.h"
 
 #include <QJsonArray>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -16,23 +15,8 @@ namespace {
 
 // One `nodrim batch` on the sample office for every request; one response per line.
 std::vector<json> ejecuta(const std::vector<json>& peticiones) {
-    QByteArray entrada;
-    for (const json& p : peticiones)
-        entrada += QByteArray::fromStdString(p.dump()) + '\n';
-    QProcess p;
-    QProcessEnvironment e = QProcessEnvironment::systemEnvironment();
-    e.remove(QStringLiteral("NODRIM_DIR"));
-    p.setProcessEnvironment(e);
-    p.start(QStringLiteral(NODRIM_EXE), {QStringLiteral("batch"), QStringLiteral("--office"),
-                                         QStringLiteral(NOD_SOURCE_DIR "/sample-office")});
-    p.write(entrada);
-    p.closeWriteChannel();
-    EXPECT_TRUE(p.waitForFinished(120000));
-    EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
-    std::vector<json> respuestas;
-    for (const QByteArray& linea : p.readAllStandardOutput().split('\n'))
-        if (!linea.isEmpty()) respuestas.push_back(json::parse(linea.toStdString()));
-    return respuestas;
+    return nod::prueba::EjecutaLote(QStringLiteral(NODRIM_EXE),
+                                    QStringLiteral(NOD_SOURCE_DIR "/sample-office"), peticiones);
 }
 
 TEST(FormulariosComms, MobileAndMailFormAnsweredFromAScript) {

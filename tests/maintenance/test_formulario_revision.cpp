@@ -1,8 +1,8 @@
 // The revision's form answered through `nodrim batch` on the sample office, as a script answers it: the
 // choice of all tables or one, the list's preview reported with its lines, the ways out, and the answers
 // that do not fit the form.
-#include <QProcess>
-#include <QProcessEnvironment>
+#include "tests/support/lote_proceso.h"
+
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -18,23 +18,8 @@ json pide(json respuestas) {
 
 // One `nodrim batch` over the sample office (notary 1 selected); one response per request.
 std::vector<json> ejecuta(const std::vector<json>& peticiones) {
-    QByteArray entrada;
-    for (const json& p : peticiones)
-        entrada += QByteArray::fromStdString(p.dump()) + '\n';
-    QProcess p;
-    QProcessEnvironment e = QProcessEnvironment::systemEnvironment();
-    e.remove(QStringLiteral("NODRIM_DIR"));
-    p.setProcessEnvironment(e);
-    p.start(QStringLiteral(NODRIM_EXE), {QStringLiteral("batch"), QStringLiteral("--office"),
-                                         QStringLiteral(NOD_SOURCE_DIR "/sample-office")});
-    p.write(entrada);
-    p.closeWriteChannel();
-    EXPECT_TRUE(p.waitForFinished(300000));
-    EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
-    std::vector<json> r;
-    for (const QByteArray& linea : p.readAllStandardOutput().split('\n'))
-        if (!linea.isEmpty()) r.push_back(json::parse(linea.toStdString()));
-    return r;
+    return nod::prueba::EjecutaLote(QStringLiteral(NODRIM_EXE),
+                                    QStringLiteral(NOD_SOURCE_DIR "/sample-office"), peticiones);
 }
 
 // The dialogs of a response of one kind, in order.

@@ -2,10 +2,9 @@
 // every other form of the library, the values they report, what their routines copy out, and the answers
 // that do not fit (each an error naming the control, the stream going on).
 #include "companion/tdatetime.h"
+#include "tests/support/lote_proceso.h"
 
 #include <QFile>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <functional>
 #include <gtest/gtest.h>
@@ -48,23 +47,11 @@ json fija(json valores, const char* pulsa = nullptr) {
 
 // Runs every request of `casos` through one `nodrim batch` on the sample office; one response per line.
 std::vector<json> ejecuta(const std::vector<Caso>& casos) {
-    QByteArray entrada;
+    std::vector<json> peticiones;
     for (const Caso& c : casos)
-        entrada += QByteArray::fromStdString(c.peticion.dump()) + '\n';
-    QProcess p;
-    QProcessEnvironment e = QProcessEnvironment::systemEnvironment();
-    e.remove(QStringLiteral("NODRIM_DIR"));
-    p.setProcessEnvironment(e);
-    p.start(QStringLiteral(NODRIM_EXE), {QStringLiteral("batch"), QStringLiteral("--office"),
-                                         QStringLiteral(NOD_SOURCE_DIR "/sample-office")});
-    p.write(entrada);
-    p.closeWriteChannel();
-    EXPECT_TRUE(p.waitForFinished(300000));
-    EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
-    std::vector<json> respuestas;
-    for (const QByteArray& linea : p.readAllStandardOutput().split('\n'))
-        if (!linea.isEmpty()) respuestas.push_back(json::parse(linea.toStdString()));
-    return respuestas;
+        peticiones.push_back(c.peticion);
+    return nod::prueba::EjecutaLote(QStringLiteral(NODRIM_EXE),
+                                    QStringLiteral(NOD_SOURCE_DIR "/sample-office"), peticiones);
 }
 
 void ejecutaCasos(const std::vector<Caso>& casos) {

@@ -64,6 +64,17 @@ TEST_F(Borrado, QuestionsInOrderWhenEveryAnswerIsYes) {
     }
 }
 
+TEST_F(Borrado, ASerialBeyondAnyDayIsAskedAboutNormally) {
+    FijaAhora(EncodeDate(2024, 5, 10) + 0.5);
+    for (const TDateTime fecha : {1e308, -1e308, -2147483000.0, 2147483000.0}) {
+        ServicioMensajesGuionado s({6, 6, 6, 6});
+        ServicioMensajesInstalado instalado(s);
+        EXPECT_TRUE(ConfirmaBorradoApuntes(nullptr, fecha)) << fecha;
+        ASSERT_FALSE(s.mostrados().isEmpty()) << fecha;
+        EXPECT_EQ(s.mostrados().back().text, kSeguro) << fecha;
+    }
+}
+
 TEST_F(Borrado, ANoAnywhereCancelsWithAMessage) {
     FijaAhora(EncodeDate(2024, 2, 15));
     for (int enPregunta = 0; enPregunta < 4; ++enPregunta) {
