@@ -31,6 +31,12 @@ install(FILES ${NOD_EXPORT_INCLUDE_DIR}/nod_core_export.h ${NOD_EXPORT_INCLUDE_D
 # package), and the sample office in share/nodrutinas (companion/config.cpp).
 set_target_properties(nodrim nodrim-demo PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS nodrim nodrim-demo RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+# nodrim's helpers, the form layer and the PDF module, where nodrim looks for them (apps/nodrim).
+file(RELATIVE_PATH NOD_LIBDIR_DESDE_AUXILIARES ${CMAKE_INSTALL_PREFIX}/${NOD_AUXILIARES}
+     ${CMAKE_INSTALL_FULL_LIBDIR})
+set_target_properties(nodrim-formularios nodrim_pdf PROPERTIES INSTALL_RPATH "$ORIGIN/${NOD_LIBDIR_DESDE_AUXILIARES}")
+install(TARGETS nodrim-formularios nodrim_pdf RUNTIME DESTINATION ${NOD_AUXILIARES} LIBRARY DESTINATION ${NOD_AUXILIARES}
+        COMPONENT tools)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/sample-office/ DESTINATION ${CMAKE_INSTALL_DATADIR}/nodrutinas/sample-office
         COMPONENT tools)
 

@@ -15,7 +15,7 @@
 // Support and live in the maintenance dialogs' library.
 
 #include "maintenance/revisioncodcliente.h"
-#include "nod_core_export.h"
+#include "nod_widgets_export.h"
 
 #include <QDate>
 #include <QString>
@@ -24,7 +24,7 @@ class QPagedPaintDevice;
 class QPrinter;
 class QWidget;
 
-namespace nod NOD_CORE_EXPORT {
+namespace nod NOD_WIDGETS_EXPORT {
 
 class TQRListaRevisionCodCliente {
 public:

@@ -1,7 +1,7 @@
 #include "apps/nodrim/capaformularios.h"
 
-#include <QCoreApplication>
-#include <QDir>
+#include "apps/nodrim/auxiliares.h"
+
 #include <QProcess>
 #include <QProcessEnvironment>
 
@@ -30,7 +30,7 @@ QProcessEnvironment entorno() {
 } // namespace
 
 QString ProgramaCapaFormularios() {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("nodrim-formularios"));
+    return RutaAuxiliar(QStringLiteral("nodrim-formularios"));
 }
 
 CapaFormularios::CapaFormularios(QString programa, QString oficina)

@@ -1,5 +1,6 @@
 #include "apps/nodrim/revision.h"
 
+#include "apps/nodrim/auxiliares.h"
 #include "apps/nodrim/revision_pdf.h"
 #include "companion/config.h"
 #include "companion/hoy.h"
@@ -95,13 +96,10 @@ private:
     }
 };
 
-// The PDF module, beside the program (or where the system looks for libraries).
+// The PDF module, beside the program or among the installed helpers.
 bool cargaModulo(QLibrary& modulo, CreaAplicacionPdf& crea, GuardaPdfRevision& guarda) {
-    const QString aqui = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
-    for (const QString& nombre : {aqui + QStringLiteral("/nodrim_pdf"), QStringLiteral("nodrim_pdf")}) {
-        modulo.setFileName(nombre);
-        if (modulo.load()) break;
-    }
+    modulo.setFileName(RutaAuxiliar(QStringLiteral("nodrim_pdf.so")));
+    modulo.load();
     crea = reinterpret_cast<CreaAplicacionPdf>(modulo.resolve("nodrim_pdf_aplicacion"));
     guarda = reinterpret_cast<GuardaPdfRevision>(modulo.resolve("nodrim_pdf_guarda"));
     if (crea && guarda) return true;
