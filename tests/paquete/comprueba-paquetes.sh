@@ -6,7 +6,8 @@
 #    against it, built and run offscreen; a component that does not exist must stop its configuration
 #    with a clear message; the pkg-config files answer.
 # 2. `cpack -G DEB`; the packages unpacked with `dpkg-deb -x` into a temporary root, where the installed
-#    nodrim must find the installed sample office, and without it say where it looked.
+#    nodrim must find the installed sample office and its helpers (a form, a PDF), and without an office
+#    say where it looked.
 set -eu
 B=$(cd "$1" && pwd)
 fuentes=$(cd "$(dirname "$0")" && pwd)
@@ -76,6 +77,14 @@ salida=$(env -u NODRIM_DIR "$nodrim" BusquedaMunicipio 28 079) || falla "the unp
 [ "$salida" = "MADRID" ] || falla "the unpacked nodrim answered \"$salida\""
 env -u NODRIM_DIR "$nodrim" --help | grep -qF "($raiz/usr/share/nodrutinas/sample-office)" ||
     falla "the unpacked nodrim does not use the unpacked sample office"
+# Its helpers, installed apart: a form answered by the form layer, the revision's list written as PDF.
+peticion='{"fn":"PreguntaMesAno","args":[0,0,"Listado",0,0],"today":"2024-03-10","answers":[{"set":{"cbMes":"DICIEMBRE","seAno4":"05"}}]}'
+respuesta=$(echo "$peticion" | env -u NODRIM_DIR QT_QPA_PLATFORM=offscreen "$nodrim" batch) ||
+    falla "the unpacked nodrim batch failed on a form"
+case "$respuesta" in *'"out":[12,2005],"result":true'*) ;; *) falla "the unpacked form layer answered $respuesta" ;; esac
+env -u NODRIM_DIR "$nodrim" revision --pdf "$raiz/revision.pdf" >/dev/null ||
+    falla "the unpacked nodrim revision --pdf failed"
+[ "$(head -c 5 "$raiz/revision.pdf")" = "%PDF-" ] || falla "the unpacked nodrim revision --pdf wrote no PDF"
 rm -rf "$raiz/usr/share/nodrutinas/sample-office"
 if error=$(env -u NODRIM_DIR "$nodrim" AliasNotario 0 2>&1); then
     falla "nodrim ran without an office"
@@ -84,4 +93,4 @@ case "$error" in
 *"$raiz/usr/share/nodrutinas/sample-office"*) ;;
 *) falla "nodrim without an office does not say where it looked: $error" ;;
 esac
-echo "packages: unpacked nodrim found its sample office; without it: $error"
+echo "packages: unpacked nodrim found its sample office, form layer and PDF module; without an office: $error"
