@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace nod;
 
@@ -148,6 +149,13 @@ void BM_StatDeLaTabla(benchmark::State& st) {
         benchmark::DoNotOptimize(::stat(ruta.constData(), &s));
 }
 BENCHMARK(BM_StatDeLaTabla);
+
+// The least any look at the file can cost: a system call that does nothing (the kernel's entry and exit).
+void BM_LlamadaAlSistemaVacia(benchmark::State& st) {
+    for (auto _ : st)
+        benchmark::DoNotOptimize(::getppid());
+}
+BENCHMARK(BM_LlamadaAlSistemaVacia);
 
 // A table of `n` records with a numeric CODCLIENTE field, written in one go.
 void escribeTabla(const QString& ruta, int n, int desde, int paso) {
