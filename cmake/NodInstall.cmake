@@ -68,7 +68,7 @@ install(FILES ${PROJECT_BINARY_DIR}/NodRutinasConfig.cmake ${PROJECT_BINARY_DIR}
 # pkg-config files, relative to their own folder so that a staged or unpacked tree works as well.
 file(RELATIVE_PATH NOD_PC_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" NOD_PC_PREFIX "${NOD_PC_PREFIX}")
-set(NOD_PC_DESCRIPTION_core "Routines of the Nodrim notary's office suite (Qt Core only)")
+set(NOD_PC_DESCRIPTION_core "Routines of the Nodrim notary's office suite (Qt Core and Network, no GUI)")
 set(NOD_PC_DESCRIPTION_widgets "Dialogs of the Nodrim notary's office suite")
 foreach(componente core widgets)
     set(NOD_PC_NAME nodrutinas-${componente})
@@ -114,7 +114,7 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 # The dialogs are designed for Arial, served by Liberation Sans; the headers need Qt's.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "fonts-liberation")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "qt6-base-dev (>= 6.4)")
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Shared libraries NodRutinas::Core (routines, Qt Core only) and NodRutinas::Widgets (dialogs)")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Shared libraries NodRutinas::Core (routines, no GUI: Qt Core and Network) and NodRutinas::Widgets (dialogs)")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake package and pkg-config files of NodRutinas")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "nodrim (the routines from the shell and from scripts), nodrim-demo and the sample office")
 include(CPack)

@@ -1,4 +1,4 @@
-# nod_core_library(name SOURCES... [DEPENDS libs...]) declares a subsystem library that links Qt Core only.
+# nod_core_library(name SOURCES... [DEPENDS libs...]) declares a subsystem library without GUI (Qt Core; Qt Network where it talks to a server).
 # nod_ui_library(name SOURCES... [DEPENDS libs...]) declares a dialog library on top of Qt Widgets.
 #
 # Subsystem libraries are static building blocks, compiled position-independent with every symbol hidden.
