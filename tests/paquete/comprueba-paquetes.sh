@@ -79,11 +79,12 @@ env -u NODRIM_DIR "$nodrim" --help | grep -qF "($raiz/usr/share/nodrutinas/sampl
     falla "the unpacked nodrim does not use the unpacked sample office"
 # Its helpers, installed apart: a form answered by the form layer, the revision's list written as PDF.
 peticion='{"fn":"PreguntaMesAno","args":[0,0,"Listado",0,0],"today":"2024-03-10","answers":[{"set":{"cbMes":"DICIEMBRE","seAno4":"05"}}]}'
-respuesta=$(echo "$peticion" | env -u NODRIM_DIR QT_QPA_PLATFORM=offscreen "$nodrim" batch) ||
+# (Qt's notice about XDG_RUNTIME_DIR is not wanted in the output: the response says what went wrong.)
+respuesta=$(echo "$peticion" | env -u NODRIM_DIR QT_QPA_PLATFORM=offscreen "$nodrim" batch 2>/dev/null) ||
     falla "the unpacked nodrim batch failed on a form"
 case "$respuesta" in *'"out":[12,2005],"result":true'*) ;; *) falla "the unpacked form layer answered $respuesta" ;; esac
-env -u NODRIM_DIR "$nodrim" revision --pdf "$raiz/revision.pdf" >/dev/null ||
-    falla "the unpacked nodrim revision --pdf failed"
+aviso=$(env -u NODRIM_DIR "$nodrim" revision --pdf "$raiz/revision.pdf" 2>&1 >/dev/null) ||
+    falla "the unpacked nodrim revision --pdf failed: $aviso"
 [ "$(head -c 5 "$raiz/revision.pdf")" = "%PDF-" ] || falla "the unpacked nodrim revision --pdf wrote no PDF"
 rm -rf "$raiz/usr/share/nodrutinas/sample-office"
 if error=$(env -u NODRIM_DIR "$nodrim" AliasNotario 0 2>&1); then
