@@ -123,23 +123,16 @@ TEST(TASA_C, TablaYRecargo) {
         EXPECT_EQ(TASA_C(importe, QLatin1String(recargo)), tasa) << importe << recargo;
 }
 
+// Where the maximum's fee already meets the target the search ends there; inputs that are no amounts
+// (nor 32-bit amounts) give 0.
 TEST_F(Arancel, BASE_C_SinBusqueda) {
     EscalaCuatroTipos();
-    const struct {
-        double maximo, objetivo;
-        int base;
-    } casos[] = {
-        {2000000, 5000, 2000000}, // the example at the declaration: the maximum's fee is the target
-        {2000000, 5400, 2000000}, // a fee below the target also ends at the maximum
-        {2000000.9, 4600, 2000000},
-        {2000000, kInf, 2000000},
-        {kNaN, 5000, 0}, // inputs that are no amounts
-        {kInf, 5000, 0},
-        {3e9, 5000, 0}, // not a 32-bit amount
-        {2000000, kNaN, 0},
-    };
-    for (const auto& c : casos)
-        EXPECT_EQ(BASE_C(c.maximo, c.objetivo, NO, NO), c.base) << c.maximo << " " << c.objetivo;
+    const std::tuple<double, double, int> casos[] = {
+        {2000000, 5000, 2000000}, {2000000, 5400, 2000000}, {2000000.9, 4600, 2000000},
+        {2000000, kInf, 2000000}, {kNaN, 5000, 0},          {kInf, 5000, 0},
+        {3e9, 5000, 0},           {2000000, kNaN, 0}};
+    for (const auto& [maximo, objetivo, base] : casos)
+        EXPECT_EQ(BASE_C(maximo, objetivo, NO, NO), base) << maximo << " " << objetivo;
 }
 
 TEST_F(Arancel, BASE_C_DevuelveElPuntoMedioDelTramoFinal) {
