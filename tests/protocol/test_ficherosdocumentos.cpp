@@ -13,18 +13,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <fcntl.h>
 #include <functional>
 #include <gtest/gtest.h>
+#include <linux/fs.h>
 #include <optional>
 #include <stdexcept>
-
-#ifdef Q_OS_LINUX
-#include <fcntl.h>
-#include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#endif
 
 using namespace nod;
 using nod::prueba::OficinaPrueba;
@@ -35,14 +32,10 @@ const QString kConfig = QStringLiteral("[GENERAL]\nNumeroNotarios=2\nNotario=1\n
                                        "[ENLACEWORD]\nCarpeta1=NOTARIA1\nCarpeta2=NOTARIA2\n"
                                        "[NOTARIO1]\nIniciales=JGP\n[NOTARIO2]\nIniciales=MLR\n");
 
-std::string s(const QString& q) {
-    return q.toStdString();
-}
-
 void crea(const QString& ruta, const QByteArray& contenido = "x") {
     QDir().mkpath(QFileInfo(ruta).absolutePath());
     QFile f(ruta);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly)) << s(ruta);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly)) << ruta.toStdString();
     f.write(contenido);
 }
 
@@ -53,6 +46,12 @@ QByteArray lee(const QString& ruta) {
 
 QStringList ficheros(const QString& carpeta) {
     return QDir(carpeta).entryList(QDir::Files, QDir::Name);
+}
+
+void esDialogo(const DialogoMostrado& d, const char* kind, const char* titulo, const QString& texto) {
+    EXPECT_EQ(d.kind, QLatin1String(kind));
+    EXPECT_EQ(d.title, QString::fromUtf8(titulo));
+    EXPECT_EQ(d.text, texto);
 }
 
 class Documentos : public ::testing::Test {
@@ -236,9 +235,7 @@ TEST_F(Documentos, AgreementWithoutNotariesIsReportedOncePerCall) {
         "Vaya a la configuración y modifique los datos.\rDesactive el convenio y revise la carpeta base.");
     EXPECT_EQ(DameCarpetaFicheroWordEscrituras(0, 1, 2008), QStringLiteral("C:\\NODRIM\\PROTOCOLO"));
     ASSERT_EQ(mensajes.mostrados().size(), 1);
-    EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
-    EXPECT_EQ(mensajes.mostrados()[0].title, QStringLiteral("Configuración errónea"));
-    EXPECT_EQ(mensajes.mostrados()[0].text, texto);
+    esDialogo(mensajes.mostrados()[0], "Mensaje_Error", "Configuración errónea", texto);
     EXPECT_TRUE(QFileInfo(disco(QStringLiteral("C/NODRIM/PROTOCOLO"))).isDir());
 
     EXPECT_EQ(DameCarpetaFicheroCopiaAutorizada(1, 2008), QStringLiteral("C:\\NODRIM\\ENVIOREGISTRO"));
@@ -298,10 +295,12 @@ TEST_F(Documentos, FoldersTheFileSystemRefusesStillGiveTheirPath) {
     EXPECT_TRUE(mensajes.mostrados().isEmpty()) << "the caller meets it when writing the file";
 }
 
-#ifdef Q_OS_LINUX
-// Sets or clears the immutable attribute of a file or folder: nothing inside an immutable folder can be
-// created, renamed or deleted, and an immutable file cannot be deleted, even by root.
-bool ponInmutable(const QString& ruta, bool poner) {
+// Holds a file against deletion, or a whole folder read-only, the way this machine allows: a folder
+// without write permission for an ordinary user; for root, whom permissions do not stop, the immutable
+// attribute of the file or folder itself (nothing inside an immutable folder can be created, renamed or
+// deleted, and an immutable file cannot be deleted).
+bool retiene(const QString& ruta, bool inmutable, bool poner) {
+    if (!inmutable) return chmod(QFile::encodeName(ruta).constData(), poner ? 0555 : 0755) == 0;
     const int fd = open(QFile::encodeName(ruta).constData(), O_RDONLY);
     if (fd < 0) return false;
     int flags = 0;
@@ -313,49 +312,27 @@ bool ponInmutable(const QString& ruta, bool poner) {
     close(fd);
     return hecho;
 }
-#endif
 
-// Holds a file against deletion, or a whole folder read-only, the way this machine allows: a folder
-// without write permission for an ordinary user; for root, whom permissions do not stop, the immutable
-// attribute of the file or folder itself.
 class Retencion {
 public:
     enum Que { Fichero, Carpeta };
-    explicit Retencion(const QString& ruta, Que que = Fichero) {
-#ifdef Q_OS_LINUX
-        if (geteuid() == 0) {
-            m_inmutable = ruta;
-            m_activa = ponInmutable(ruta, true);
-        } else {
-            m_carpeta = que == Carpeta ? ruta : QFileInfo(ruta).absolutePath();
-            m_activa = chmod(QFile::encodeName(m_carpeta).constData(), 0555) == 0;
-        }
-#endif
-    }
-    ~Retencion() {
-        suelta();
-    }
-    bool activa() const {
-        return m_activa;
-    }
+    explicit Retencion(const QString& ruta, Que que = Fichero)
+        : m_inmutable(geteuid() == 0)
+        , m_ruta(m_inmutable || que == Carpeta ? ruta : QFileInfo(ruta).absolutePath())
+        , m_activa(retiene(m_ruta, m_inmutable, true)) {}
+    ~Retencion() { suelta(); }
+    bool activa() const { return m_activa; }
     /// Whether only the file is held (the rest of its folder stays writable).
-    bool soloElFichero() const {
-        return !m_inmutable.isEmpty();
-    }
+    bool soloElFichero() const { return m_inmutable; }
     void suelta() {
-#ifdef Q_OS_LINUX
-        if (!m_activa) return;
-        if (!m_inmutable.isEmpty())
-            ponInmutable(m_inmutable, false);
-        else
-            chmod(QFile::encodeName(m_carpeta).constData(), 0755);
+        if (m_activa) retiene(m_ruta, m_inmutable, false);
         m_activa = false;
-#endif
     }
 
 private:
-    QString m_inmutable, m_carpeta;
-    bool m_activa = false;
+    bool m_inmutable;
+    QString m_ruta;
+    bool m_activa;
 };
 
 // A clerk who answers each "Eliminar anexos" question through `responde`.
@@ -412,9 +389,7 @@ TEST_F(AnexoRetenido, YesAfterClosingItDeletesIt) {
     };
     DeleteAnexos(QStringLiteral("ESC\\Doc.docx"));
     ASSERT_EQ(oficinista.mostrados().size(), 1);
-    EXPECT_EQ(oficinista.mostrados()[0].kind, QStringLiteral("Mensaje_SiNo"));
-    EXPECT_EQ(oficinista.mostrados()[0].title, QStringLiteral("Eliminar anexos"));
-    EXPECT_EQ(oficinista.mostrados()[0].text, pregunta);
+    esDialogo(oficinista.mostrados()[0], "Mensaje_SiNo", "Eliminar anexos", pregunta);
     EXPECT_EQ(ficheros(disco(QStringLiteral("ESC"))), QStringList{QStringLiteral("Doc.docx")});
 }
 
@@ -453,9 +428,7 @@ TEST_F(DocumentosUnidos, NumbersFollowTheHighestAndImagesMove) {
     mensajes.respuestas({6});
     PasaImagenesADU(QStringLiteral("EXP\\DU"), QStringLiteral("EXP\\INCORPORADOS"));
     ASSERT_EQ(mensajes.mostrados().size(), 1);
-    EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_SiNo"));
-    EXPECT_EQ(mensajes.mostrados()[0].title, QStringLiteral("Incorporar Documentos Unidos"));
-    EXPECT_EQ(mensajes.mostrados()[0].text,
+    esDialogo(mensajes.mostrados()[0], "Mensaje_SiNo", "Incorporar Documentos Unidos",
               QStringLiteral("Hay documentos unidos asociados al protocolo\n"
                              "¿Desea incorporar los documentos unidos asociados al protocolo?"));
     EXPECT_EQ(lee(general(QStringLiteral("0013.jpg"))), "a");
@@ -495,9 +468,7 @@ TEST_F(DocumentosUnidos, MissingFoldersAndImagesAreReported) {
         c.prepara();
         PasaImagenesADU(QString::fromUtf8(c.origen), QStringLiteral("EXP\\INCORPORADOS"));
         ASSERT_EQ(mensajes.mostrados().size(), 1) << c.texto;
-        EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
-        EXPECT_EQ(mensajes.mostrados()[0].title, QString::fromUtf8(c.titulo));
-        EXPECT_EQ(mensajes.mostrados()[0].text, QString::fromUtf8(c.texto));
+        esDialogo(mensajes.mostrados()[0], "Mensaje_Error", c.titulo, QString::fromUtf8(c.texto));
     }
     EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3);
 }
