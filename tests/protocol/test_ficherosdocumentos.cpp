@@ -248,29 +248,26 @@ TEST_F(Documentos, AgreementWithoutNotariesIsReportedOncePerCall) {
 
 TEST_F(Documentos, ElectronicFileFolders) {
     const struct {
-        std::function<QString()> llamada;
-        const char* debajo;
+        bool poliza;
+        int modo, notario;
+        const char* seccion;
+        int numero, bis, ano;
+        const char *sub, *debajo;
     } casos[] = {
-        {[] { return DameCarpetaFicherosElectronicosEscrituras(0, 1, 12, 1, 2008, {}); },
-         "Archivos\\Protocolo\\2008\\JGP00012-1Bis"},
-        {[] {
-             return DameCarpetaFicherosElectronicosEscrituras(0, 2, 12, 0, 2008, QStringLiteral("Firmadas"));
-         },
-         "Archivos\\Protocolo\\2008\\MLR00012\\Firmadas"},
-        {[] { return DameCarpetaFicherosElectronicosEscrituras(1, 2, 12, 3, 2008, {}); },
-         "Archivos\\Expediente\\2008\\000012-3Bis"},
-        {[] { return DameCarpetaFicherosElectronicosPolizas(0, 2, QStringLiteral("A"), 7, 2, 2024, {}); },
-         "Archivos\\Polizas\\2024\\A\\MLR00007-2Bis"},
-        {[] {
-             return DameCarpetaFicherosElectronicosPolizas(0, 1, {}, 7, 0, 2024, QStringLiteral("Escaneos"));
-         },
-         "Archivos\\Polizas\\2024\\JGP00007\\Escaneos"},
-        {[] { return DameCarpetaFicherosElectronicosPolizas(1, 1, QStringLiteral("A"), 12, 0, 2024, {}); },
-         "Archivos\\Expediente\\2024\\000012"},
+        {false, 0, 1, "", 12, 1, 2008, "", "Archivos\\Protocolo\\2008\\JGP00012-1Bis"},
+        {false, 0, 2, "", 12, 0, 2008, "Firmadas", "Archivos\\Protocolo\\2008\\MLR00012\\Firmadas"},
+        {false, 1, 2, "", 12, 3, 2008, "", "Archivos\\Expediente\\2008\\000012-3Bis"},
+        {true, 0, 2, "A", 7, 2, 2024, "", "Archivos\\Polizas\\2024\\A\\MLR00007-2Bis"},
+        {true, 0, 1, "", 7, 0, 2024, "Escaneos", "Archivos\\Polizas\\2024\\JGP00007\\Escaneos"},
+        {true, 1, 1, "A", 12, 0, 2024, "", "Archivos\\Expediente\\2024\\000012"},
     };
     for (const auto& c : casos) {
-        const QString debajo = QString::fromUtf8(c.debajo);
-        EXPECT_EQ(c.llamada(), datos() + QLatin1Char('\\') + debajo);
+        const QString sub = QLatin1String(c.sub), debajo = QLatin1String(c.debajo);
+        EXPECT_EQ(c.poliza ? DameCarpetaFicherosElectronicosPolizas(
+                                 c.modo, c.notario, QLatin1String(c.seccion), c.numero, c.bis, c.ano, sub)
+                           : DameCarpetaFicherosElectronicosEscrituras(c.modo, c.notario, c.numero, c.bis,
+                                                                       c.ano, sub),
+                  datos() + QLatin1Char('\\') + debajo);
         EXPECT_TRUE(QFileInfo(disco(QStringLiteral("DATOS/") + QString(debajo).replace(u'\\', u'/'))).isDir())
             << c.debajo;
     }

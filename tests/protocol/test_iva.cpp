@@ -29,8 +29,8 @@ struct CasoIva {
     const char* lugar;
     TDateTime fecha;
     double porcentaje;
-    const char* texto; // empty: no question
-    const char* titulo;
+    const char* texto;  // after "¿Seguro que el "; empty: no question
+    const char* titulo; // after "Aplicación "
 };
 
 TEST_F(Iva, PorcentajeEnVigorYPregunta) {
@@ -40,36 +40,28 @@ TEST_F(Iva, PorcentajeEnVigorYPregunta) {
         {0, "", fecha(30, 6, 2010), 16, "", ""},
         {0, "", fecha(1, 7, 2010), 18, "", ""},
         {0, "", fecha(1, 9, 2012), 18,
-         "¿Seguro que el IVA a aplicar es el 18% y no el 21%?\rLa fecha es posterior al 01/09/2012",
-         "Aplicación de IVA"},
+         "IVA a aplicar es el 18% y no el 21%?\rLa fecha es posterior al 01/09/2012", "de IVA"},
         {0, "", fecha(15, 3, 2011), 21,
-         "¿Seguro que el IVA a aplicar es el 21% y no el 18%?\rLa fecha es posterior al 01/07/2010 y "
-         "anterior al "
-         "01/09/2012",
-         "Aplicación de IVA"},
+         "IVA a aplicar es el 21% y no el 18%?\rLa fecha es posterior al 01/07/2010 y anterior al 01/09/2012",
+         "de IVA"},
         {0, "", fecha(30, 6, 2010), 7.5,
-         "¿Seguro que el IVA a aplicar es el 7,5% y no el 16%?\rLa fecha es anterior al 01/07/2010",
-         "Aplicación de IVA"},
+         "IVA a aplicar es el 7,5% y no el 16%?\rLa fecha es anterior al 01/07/2010", "de IVA"},
         {5, "", fecha(1, 9, 2012), 7, "", ""},
-        {5, "CEUTA", fecha(31, 8, 2012), 4, // association 5 wins over the town
-         "¿Seguro que el IGIC a aplicar es el 4% y no el 5%?\rLa fecha es anterior al 01/09/2012",
-         "Aplicación del IGIC"},
+        // Association 5 wins over the town.
+        {5, "CEUTA", fecha(31, 8, 2012), 4,
+         "IGIC a aplicar es el 4% y no el 5%?\rLa fecha es anterior al 01/09/2012", "del IGIC"},
         {5, "", fecha(2, 1, 2020), 21,
-         "¿Seguro que el IGIC a aplicar es el 21% y no el 7%?\rLa fecha es posterior al 01/09/2012",
-         "Aplicación del IGIC"},
+         "IGIC a aplicar es el 21% y no el 7%?\rLa fecha es posterior al 01/09/2012", "del IGIC"},
         {0, "MELILLA", fecha(1, 7, 2018), 6, "", ""},
         {0, "MELILLA", fecha(30, 6, 2018), 6,
-         "¿Seguro que el IPSI a aplicar es el 6% y no el 9%?\rLa fecha es posterior al 24/09/2012",
-         "Aplicación del IPSI"},
+         "IPSI a aplicar es el 6% y no el 9%?\rLa fecha es posterior al 24/09/2012", "del IPSI"},
         {0, "CEUTA", fecha(2, 7, 2018), 21,
-         "¿Seguro que el IPSI a aplicar es el 21% y no el 6%?\rLa fecha es posterior al 01/07/2018",
-         "Aplicación del IPSI"},
+         "IPSI a aplicar es el 21% y no el 6%?\rLa fecha es posterior al 01/07/2018", "del IPSI"},
         {0, "CEUTA", fecha(23, 9, 2012), 9,
-         "¿Seguro que el IPSI a aplicar es el 9% y no el 4%?\rLa fecha es anterior al 24/09/2012",
-         "Aplicación de IPSI"},
-        {0, "Ceuta", fecha(1, 1, 2020), 6, // only the exact upper-case town selects IPSI
-         "¿Seguro que el IVA a aplicar es el 6% y no el 21%?\rLa fecha es posterior al 01/09/2012",
-         "Aplicación de IVA"},
+         "IPSI a aplicar es el 9% y no el 4%?\rLa fecha es anterior al 24/09/2012", "de IPSI"},
+        // Only the exact upper-case town selects IPSI.
+        {0, "Ceuta", fecha(1, 1, 2020), 6,
+         "IVA a aplicar es el 6% y no el 21%?\rLa fecha es posterior al 01/09/2012", "de IVA"},
     };
     for (const auto& c : casos) {
         SCOPED_TRACE(testing::Message()
@@ -88,9 +80,10 @@ TEST_F(Iva, PorcentajeEnVigorYPregunta) {
             ASSERT_EQ(mensajes.mostrados().size(), 1);
             const DialogoMostrado& d = mensajes.mostrados()[0];
             EXPECT_EQ(d.kind, QStringLiteral("Mensaje_NoSi"));
-            EXPECT_EQ(d.title, QString::fromUtf8(c.titulo));
+            EXPECT_EQ(d.title, QStringLiteral("Aplicación ") + QLatin1String(c.titulo));
             // The message service shows the text, then the question on a line of its own.
-            EXPECT_EQ(d.text, QString::fromUtf8(c.texto) + QStringLiteral("\n¿Desea continuar (S/N)?"));
+            EXPECT_EQ(d.text, QStringLiteral("¿Seguro que el ") + QString::fromUtf8(c.texto) +
+                                  QStringLiteral("\n¿Desea continuar (S/N)?"));
         }
     }
 }

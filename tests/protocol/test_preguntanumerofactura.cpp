@@ -104,7 +104,7 @@ TEST_F(FormNumeroFactura, EnteringAControlShowsItsHintAndMarksFieldsOnly) {
     EXPECT_FALSE(TieneFocoMarcado(f->ESerie));
 }
 
-TEST_F(FormNumeroFactura, EnterMovesOnAndSkipsADisabledAceptar) {
+TEST_F(FormNumeroFactura, EnterMovesOnSkipsADisabledAceptarAndPressesNoButton) {
     const auto recorrido = [&](QWidget* final) {
         enfoca(f->ESerie);
         std::vector<QWidget*> visitados;
@@ -118,10 +118,8 @@ TEST_F(FormNumeroFactura, EnterMovesOnAndSkipsADisabledAceptar) {
     recorrido(f->BBCancelar);
     f->ENumero->setText(QStringLiteral("15"));
     recorrido(f->BBAceptar);
-}
 
-TEST_F(FormNumeroFactura, EnterOnAButtonMovesOnWithoutPressingIt) {
-    f->ENumero->setText(QStringLiteral("15"));
+    // Enter on a button moves on without pressing it.
     const std::pair<QWidget*, QWidget*> casos[] = {{f->BBAceptar, f->BBCancelar}, {f->BBCancelar, f->ESerie}};
     for (const auto& [desde, hacia] : casos) {
         for (int tecla : {int(Qt::Key_Return), int(Qt::Key_Enter)}) {

@@ -67,7 +67,7 @@ TEST_F(Hipoteca, DaysCountExactlyWhileTheYearsShowOneDecimal) {
     EXPECT_EQ(f->ERes2_E->Valor(), 5500.0);
 }
 
-TEST_F(Hipoteca, AZeroRateLeftWithTabLandsOnTheAmount) {
+TEST_F(Hipoteca, AZeroRateLeftWithTabLandsOnTheAmountAndZeroYearsOnTheDays) {
     teclea(f->EAno3, QStringLiteral("2"));
     ASSERT_EQ(f->EDias3->Valor(), 730.0);
     for (int moneda : {1, 0}) {
@@ -80,9 +80,7 @@ TEST_F(Hipoteca, AZeroRateLeftWithTabLandsOnTheAmount) {
         EXPECT_EQ(f->EAno3->Valor(), 0.0);
         EXPECT_EQ(f->EDias3->Valor(), 0.0);
     }
-}
-
-TEST_F(Hipoteca, ZeroYearsLeftGoToTheDays) {
+    // Zero years left backwards go to the days.
     f->EAno4->setFocus(Qt::TabFocusReason);
     QApplication::processEvents();
     QTest::keyClick(f->EAno4, Qt::Key_Backtab);
