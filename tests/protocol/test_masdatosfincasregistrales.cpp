@@ -72,9 +72,8 @@ protected:
 TEST_F(FormFincas, ShowsTheEntryAndTheSortedList) {
     abre(QStringLiteral("  b-22|A-7|c-3 "));
     EXPECT_EQ(f->windowTitle(), QStringLiteral("Información de Fincas Registrales"));
-    EXPECT_EQ(f->STNumero->text(), QStringLiteral("1234"));
-    EXPECT_EQ(f->STAno->text(), QStringLiteral("2008"));
-    EXPECT_EQ(f->LBis->text(), QStringLiteral("bis"));
+    EXPECT_EQ(QStringList({f->STNumero->text(), f->STAno->text(), f->LBis->text()}),
+              QStringList({QStringLiteral("1234"), QStringLiteral("2008"), QStringLiteral("bis")}));
     EXPECT_EQ(f->STConcepto->textFormat(), Qt::PlainText);
     EXPECT_EQ(f->Fincas, QStringLiteral("b-22|A-7|c-3"));
     EXPECT_EQ(f->Lista(), lista({"A-7", "b-22", "c-3"})) << "sorted without regard to case";

@@ -36,8 +36,8 @@ TEST_F(FormNumeroFactura, OpensOnTheSeriesWithTheCurrentYearAndNoNumber) {
     EXPECT_EQ(QApplication::focusWidget(), f->ESerie);
     EXPECT_EQ(f->EAno->text(), QStringLiteral("2024"));
     EXPECT_TRUE(f->ENumero->text().isEmpty());
-    EXPECT_EQ(f->BBAceptar->text(), QStringLiteral("&Aceptar"));
-    EXPECT_EQ(f->BBCancelar->text(), QStringLiteral("&Cancelar"));
+    EXPECT_EQ(std::pair(f->BBAceptar->text(), f->BBCancelar->text()),
+              std::pair(QStringLiteral("&Aceptar"), QStringLiteral("&Cancelar")));
     EXPECT_FALSE(f->BBAceptar->isEnabled()) << "no invoice without a number";
     QTest::keyClicks(f->ENumero, QStringLiteral("7"));
     EXPECT_TRUE(f->BBAceptar->isEnabled());
@@ -45,6 +45,7 @@ TEST_F(FormNumeroFactura, OpensOnTheSeriesWithTheCurrentYearAndNoNumber) {
     EXPECT_FALSE(f->BBAceptar->isEnabled());
 }
 
+// What each field keeps of what is typed, once the clerk has left it (a short year is completed then).
 TEST_F(FormNumeroFactura, FieldsTakeOnlyWhatAnInvoiceNumberHolds) {
     struct Caso {
         QLineEdit* campo;
@@ -52,29 +53,21 @@ TEST_F(FormNumeroFactura, FieldsTakeOnlyWhatAnInvoiceNumberHolds) {
         const char* queda;
     };
     const Caso casos[] = {
-        {f->ESerie, "a1b", "A1"},             // two characters, in capitals
-        {f->ESerie, "-x", "X"},               // no punctuation
-        {f->EAno, "20a245", "2024"},          // four digits
-        {f->ENumero, "12.3456789", "123456"}, // six digits, no grouping
-        {f->EBis, "1b c", "B"},               // one letter
+        {f->ESerie, "a1b", "A1"},    // two characters, in capitals
+        {f->ESerie, "-x", "X"},      // no punctuation
+        {f->EAno, "20a245", "2024"}, // four digits
+        {f->EAno, "24", "2024"},     {f->EAno, "5", "2005"},
+        {f->EAno, "98", "1998"},     {f->EAno, "1999", "1999"},
+        {f->EAno, "", ""},           {f->ENumero, "12.3456789", "123456"}, // six digits, no grouping
+        {f->EBis, "1b c", "B"},                                            // one letter
     };
     for (const Caso& c : casos) {
-        c.campo->clear();
         enfoca(c.campo);
+        c.campo->clear();
         QTest::keyClicks(c.campo, QString::fromLatin1(c.tecleado));
-        EXPECT_EQ(c.campo->text(), QString::fromLatin1(c.queda)) << c.campo->objectName().toStdString();
-    }
-}
-
-TEST_F(FormNumeroFactura, AShortYearIsCompletedOnLeavingTheField) {
-    const std::pair<const char*, const char*> casos[] = {
-        {"24", "2024"}, {"5", "2005"}, {"98", "1998"}, {"1999", "1999"}, {"", ""}};
-    for (const auto& [tecleado, queda] : casos) {
-        enfoca(f->EAno);
-        f->EAno->clear();
-        QTest::keyClicks(f->EAno, QString::fromLatin1(tecleado));
-        enfoca(f->ENumero);
-        EXPECT_EQ(f->EAno->text(), QString::fromLatin1(queda)) << tecleado;
+        enfoca(c.campo == f->ESerie ? f->EBis : f->ESerie);
+        EXPECT_EQ(c.campo->text(), QString::fromLatin1(c.queda))
+            << c.campo->objectName().toStdString() << " " << c.tecleado;
     }
 }
 
@@ -199,10 +192,8 @@ TEST(PreguntaNumeroFacturaForm, AcceptingReturnsTheTypedValues) {
     EXPECT_TRUE(PreguntaNumeroFacturaForm(serie, ano, numero, bis, QStringLiteral("Factura a rectificar")));
     EXPECT_TRUE(vistoAbierto);
     EXPECT_TRUE(FPreguntaNumeroFactura.isNull());
-    EXPECT_EQ(serie, QStringLiteral("A"));
-    EXPECT_EQ(ano, 2023);
-    EXPECT_EQ(numero, 15);
-    EXPECT_EQ(bis, QStringLiteral("C"));
+    EXPECT_EQ(std::tuple(serie, ano, numero, bis),
+              std::tuple(QStringLiteral("A"), 2023, 15, QStringLiteral("C")));
     EXPECT_EQ(prueba::VentanasVisibles(), 0);
     FijaAhora(std::nullopt);
 }
@@ -218,10 +209,8 @@ TEST(PreguntaNumeroFacturaForm, CancellingLeavesTheValuesAsTheyCame) {
         QTest::keyClick(f->ENumero, Qt::Key_Escape);
     });
     EXPECT_FALSE(PreguntaNumeroFacturaForm(serie, ano, numero, bis));
-    EXPECT_EQ(serie, QStringLiteral("B"));
-    EXPECT_EQ(ano, 2020);
-    EXPECT_EQ(numero, 44);
-    EXPECT_EQ(bis, QStringLiteral("D"));
+    EXPECT_EQ(std::tuple(serie, ano, numero, bis),
+              std::tuple(QStringLiteral("B"), 2020, 44, QStringLiteral("D")));
     EXPECT_EQ(prueba::VentanasVisibles(), 0);
 }
 
