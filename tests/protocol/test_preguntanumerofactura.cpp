@@ -152,18 +152,15 @@ TEST_F(FormNumeroFactura, ModalResultsOfTheButtonsAndEscape) {
 }
 
 TEST_F(FormNumeroFactura, ValuesShownAreNormalisedAndReadBack) {
-    f->PonValores(QStringLiteral("r12"), 0, 0, QStringLiteral(" b "));
-    EXPECT_EQ(f->Serie(), QStringLiteral("R1"));
-    EXPECT_EQ(f->Ano(), 2024) << "no year proposes the current one";
-    EXPECT_EQ(f->Numero(), 0);
-    EXPECT_TRUE(f->ENumero->text().isEmpty());
-    EXPECT_EQ(f->Bis(), QStringLiteral("B"));
-    f->PonValores(QStringLiteral("A"), 2019, 1234567, {});
-    EXPECT_EQ(f->Ano(), 2019);
-    EXPECT_TRUE(f->ENumero->text().isEmpty()) << "a number of seven digits does not fit the field";
+    const auto valores = [&] {
+        return std::tuple(f->Serie(), f->Ano(), f->Numero(), f->ENumero->text(), f->Bis());
+    };
+    f->PonValores(QStringLiteral("r12"), 0, 0, QStringLiteral(" b ")); // no year proposes the current one
+    EXPECT_EQ(valores(), std::tuple(QStringLiteral("R1"), 2024, 0, QString(), QStringLiteral("B")));
+    f->PonValores(QStringLiteral("A"), 2019, 1234567, {}); // seven digits do not fit the field
+    EXPECT_EQ(valores(), std::tuple(QStringLiteral("A"), 2019, 0, QString(), QString()));
     f->PonValores(QStringLiteral("A"), 2019, 999999, {});
-    EXPECT_EQ(f->Numero(), 999999);
-    EXPECT_TRUE(f->Bis().isEmpty());
+    EXPECT_EQ(valores(), std::tuple(QStringLiteral("A"), 2019, 999999, QStringLiteral("999999"), QString()));
 }
 
 TEST(PreguntaNumeroFacturaForm, AcceptingReturnsTheTypedValues) {
