@@ -7,14 +7,9 @@
 
 namespace nod::prueba {
 
-class ConfigGuardada {
-public:
-    ConfigGuardada()
-        : m_anterior(Config) {}
-    ~ConfigGuardada() { Config = m_anterior; }
-
-private:
-    TConfig m_anterior;
+struct ConfigGuardada {
+    const TConfig anterior = Config;
+    ~ConfigGuardada() { Config = anterior; }
 };
 
 /// Sets a configuration value by its name ("nCor_Tipo1" for SetnCor_Tipo1).

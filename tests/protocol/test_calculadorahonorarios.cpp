@@ -80,30 +80,24 @@ TEST_F(Calculadora, PolicyChoicesReachTheConfiguredScale) {
     EXPECT_EQ(c->LEscala->text(), QStringLiteral("Escala de cuatro tipos"));
     QTest::keyClicks(c->ECuantiaPoliza, QStringLiteral("2.000.000"));
     EXPECT_EQ(c->LHonorarioPoliza->text(), QStringLiteral("5.000 pts"));
-    struct Caso {
-        double importe;
-        bool aval, inferior;
-        int documento;
-        const char *aval_, *tipo, *inferior_;
-    };
-    const Caso casos[] = {
-        {2000000, true, false, 0, "SI", "factura", "NO"},
-        {3000000, false, true, 0, "NO", "factura", "SI"},
-        {7000000, true, true, 1, "SI", "", "SI"},
-        {100000, false, false, 0, "NO", "factura", "NO"}, // the invoice minimum applies
-        {100000, false, false, 1, "NO", "", "NO"},        // a policy has none
-    };
+    // Each box ticked is a "SI"; document 0 is an invoice, with its minimum, and 1 a policy, which has none.
+    const std::tuple<double, bool, bool, int> casos[] = {{2000000, true, false, 0},
+                                                         {3000000, false, true, 0},
+                                                         {7000000, true, true, 1},
+                                                         {100000, false, false, 0},
+                                                         {100000, false, false, 1}};
     QSet<QString> distintos;
-    for (const Caso& k : casos) {
-        c->ECuantiaPoliza->setText(QString::number(k.importe, 'f', 0));
-        c->CBAval->setChecked(k.aval);
-        c->CBInferior->setChecked(k.inferior);
-        c->CBTipoDocumento->setCurrentIndex(k.documento);
-        const int esperado = ARANCEL_C(k.importe, QString::fromLatin1(k.aval_), QString::fromLatin1(k.tipo),
-                                       QString::fromLatin1(k.inferior_));
+    for (const auto& [importe, aval, inferior, documento] : casos) {
+        c->ECuantiaPoliza->setText(QString::number(importe, 'f', 0));
+        c->CBAval->setChecked(aval);
+        c->CBInferior->setChecked(inferior);
+        c->CBTipoDocumento->setCurrentIndex(documento);
+        const auto siNo = [](bool b) { return b ? QStringLiteral("SI") : QStringLiteral("NO"); };
+        const int esperado =
+            ARANCEL_C(importe, siNo(aval), documento ? QString() : QStringLiteral("factura"), siNo(inferior));
         EXPECT_EQ(c->LHonorarioPoliza->text(),
                   PuntosNod(QString::number(esperado), false) + QStringLiteral(" pts"))
-            << k.importe << k.aval_ << k.tipo << k.inferior_;
+            << importe << aval << documento << inferior;
         distintos.insert(c->LHonorarioPoliza->text());
     }
     EXPECT_EQ(distintos.size(), 5) << "each choice changes the fee on this scale: "

@@ -189,16 +189,11 @@ TEST(Sujeto, Euros) {
     ConfigGuardada guardada;
     Config.SetPesetasPorEuro(166.386); // tolerance 3.125 pesetas is 0.02 euros
     const std::tuple<double, double, double, const char*, double> casos[] = {
-        {1000, 80, 16, "S", 500},
-        {1000, 160, 16, "S", 1000},
-        {1000, 160.01, 16, "S", 1000},
-        {1000, 160.03, 16, "S", 1000.19},
-        {1000, 160.03, 16, "N", -0.19},
-        {1000, 0, 16, "N", 1000},
-        {std::numeric_limits<double>::infinity(), 80, 16, "S", 0},
-    };
+        {1000, 80, 16, "S", 500},         {1000, 160, 16, "S", 1000},     {1000, 160.01, 16, "S", 1000},
+        {1000, 160.03, 16, "S", 1000.19}, {1000, 160.03, 16, "N", -0.19}, {1000, 0, 16, "N", 1000}};
     for (const auto& [importe, cuota, p, parte, esperado] : casos)
         EXPECT_NEAR(Sujeto_E(importe, cuota, p, QLatin1String(parte)), esperado, 1e-9) << cuota;
+    EXPECT_EQ(Sujeto_E(std::numeric_limits<double>::infinity(), 80, 16, QStringLiteral("S")), 0);
 }
 
 TEST(Sujeto, MiSujeto) {

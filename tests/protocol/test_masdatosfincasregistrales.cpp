@@ -23,16 +23,10 @@ QStringList lista(std::initializer_list<const char*> l) {
 }
 
 TEST(FincasRegistrales, DecodingAsWritten) {
-    const std::pair<const char*, QStringList> casos[] =
-        {
-            {"A|B|", lista({"A", "B"})},
-            {"|A", lista({"", "A"})},
-            {"A||B", lista({"A", "", "B"})},
-            {"", {}},
-            {"A", lista({"A"})},
-            {"|", lista({""})},
-            {" A | B ", lista({" A ", " B "})}, // the form trims the whole string, never the items
-        };
+    // The form trims the whole string, never the items.
+    const std::pair<const char*, QStringList> casos[] = {
+        {"A|B|", lista({"A", "B"})}, {"|A", lista({"", "A"})}, {"A||B", lista({"A", "", "B"})},   {"", {}},
+        {"A", lista({"A"})},         {"|", lista({""})},       {" A | B ", lista({" A ", " B "})}};
     for (const auto& [guardado, esperado] : casos)
         EXPECT_EQ(Form::DescodificaFincasRegistrales(QString::fromUtf8(guardado)), esperado) << guardado;
 }
