@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QVariantList>
 #include <gtest/gtest.h>
 
 using namespace nod;
@@ -19,26 +20,31 @@ const char* kConfig =
     "[FACTURACION]\nMultiplesCabeceras=1\n[NOTARIO1]\nfac_1=Cabecera del INI 1\n"
     "[NOTARIO2]\nfac_1=Cabecera del INI 2\n";
 
-struct Fila {
-    TDateTime fecha;
-    const char* nombre;
-    const char* texto;
-};
-
-void escribeCabeceras(const OficinaPrueba& o, const QString& carpeta, std::initializer_list<Fila> filas) {
-    QDir().mkpath(o.ruta(carpeta));
-    const QString ruta = o.ruta(carpeta + QStringLiteral("/CAB_FACT.DBF"));
-    CreaFicheroDbf(ruta, {{QStringLiteral("FECHA_ENT"), 'D', 8, 0},
-                          {QStringLiteral("NOMBRE"), 'C', 10, 0},
-                          {QStringLiteral("DESCRIP"), 'C', 80, 0}});
+// Writes a table at `ruta` (its folder made) with the rows' values in field order.
+void creaDbf(const QString& ruta, const QList<TCampoDbf>& campos, const QList<QVariantList>& filas) {
+    QDir().mkpath(QFileInfo(ruta).absolutePath());
+    CreaFicheroDbf(ruta, campos);
     auto t = TTabla::AbreRuta(ruta);
-    for (const Fila& f : filas) {
+    for (const QVariantList& fila : filas) {
         t->Append();
-        t->SetDateTime(QStringLiteral("FECHA_ENT"), f.fecha);
-        t->SetString(QStringLiteral("NOMBRE"), QString::fromUtf8(f.nombre));
-        t->SetString(QStringLiteral("DESCRIP"), QString::fromUtf8(f.texto));
+        for (qsizetype i = 0; i < fila.size(); ++i) {
+            if (campos[i].tipo == 'D')
+                t->SetDateTime(campos[i].nombre, fila[i].toDouble());
+            else if (campos[i].tipo == 'N')
+                t->SetInteger(campos[i].nombre, fila[i].toInt());
+            else
+                t->SetString(campos[i].nombre, fila[i].toString());
+        }
         t->Post();
     }
+}
+
+void escribeCabeceras(const OficinaPrueba& o, const QString& carpeta, const QList<QVariantList>& filas) {
+    creaDbf(o.ruta(carpeta + QStringLiteral("/CAB_FACT.DBF")),
+            {{QStringLiteral("FECHA_ENT"), 'D', 8, 0},
+             {QStringLiteral("NOMBRE"), 'C', 10, 0},
+             {QStringLiteral("DESCRIP"), 'C', 80, 0}},
+            filas);
 }
 
 TDateTime dia(int d, int m, int a) {
@@ -104,19 +110,9 @@ TEST_F(Cabeceras, TodosLosNotariosTerminanEnElSeleccionado) {
 
 TEST(ActuacionINTI, DescripcionPorCodigo) {
     OficinaPrueba oficina(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
-    QDir().mkpath(oficina.ruta(QStringLiteral("DATOS")));
     const QString ruta = oficina.ruta(QStringLiteral("DATOS/Tipo_Int.dbf"));
-    CreaFicheroDbf(ruta, {{QStringLiteral("CODIGO"), 'N', 4, 0}, {QStringLiteral("DESCRIPCIO"), 'C', 60, 0}});
-    {
-        auto t = TTabla::AbreRuta(ruta);
-        for (const auto& [codigo, texto] :
-             {std::pair{3, "Mandatario verbal"}, std::pair{1, "En su nombre"}}) {
-            t->Append();
-            t->SetInteger(QStringLiteral("CODIGO"), codigo);
-            t->SetString(QStringLiteral("DESCRIPCIO"), QLatin1String(texto));
-            t->Post();
-        }
-    }
+    creaDbf(ruta, {{QStringLiteral("CODIGO"), 'N', 4, 0}, {QStringLiteral("DESCRIPCIO"), 'C', 60, 0}},
+            {{3, QStringLiteral("Mandatario verbal")}, {1, QStringLiteral("En su nombre")}});
     OlvidaTablasCargadas();
     EXPECT_EQ(QStringList({Actuacion_INTI(1), Actuacion_INTI(3), Actuacion_INTI(2)}),
               QStringList({QStringLiteral("En su nombre"), QStringLiteral("Mandatario verbal"), QString()}));
