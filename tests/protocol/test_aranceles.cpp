@@ -44,20 +44,13 @@ protected:
     ConfigGuardada guardada;
 };
 
-struct CasoArancel {
-    double importe;
-    const char* aval;
-    const char* tipo;
-    const char* inferior;
-    int honorario;
-};
-
-void compruebaCasos(std::initializer_list<CasoArancel> casos) {
-    for (const auto& c : casos)
-        EXPECT_EQ(
-            ARANCEL_C(c.importe, QLatin1String(c.aval), QLatin1String(c.tipo), QLatin1String(c.inferior)),
-            c.honorario)
-            << c.importe << " aval " << c.aval << " tipo " << c.tipo << " inferior " << c.inferior;
+// Amount; the guarantee, kind of document and lower-table arguments; the fee.
+void compruebaCasos(
+    std::initializer_list<std::tuple<double, const char*, const char*, const char*, int>> casos) {
+    for (const auto& [importe, aval, tipo, inferior, honorario] : casos)
+        EXPECT_EQ(ARANCEL_C(importe, QLatin1String(aval), QLatin1String(tipo), QLatin1String(inferior)),
+                  honorario)
+            << importe << " aval " << aval << " tipo " << tipo << " inferior " << inferior;
 }
 
 TEST_F(Arancel, CuatroTiposYRecargoPorAval) {

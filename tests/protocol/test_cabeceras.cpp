@@ -39,7 +39,11 @@ void creaDbf(const QString& ruta, const QList<TCampoDbf>& campos, const QList<QV
     }
 }
 
-void escribeCabeceras(const OficinaPrueba& o, const QString& carpeta, const QList<QVariantList>& filas) {
+void escribeCabeceras(const OficinaPrueba& o, const QString& carpeta,
+                      std::initializer_list<std::tuple<TDateTime, const char*, const char*>> lineas) {
+    QList<QVariantList> filas;
+    for (const auto& [fecha, nombre, texto] : lineas)
+        filas.append({fecha, QString::fromUtf8(nombre), QString::fromUtf8(texto)});
     creaDbf(o.ruta(carpeta + QStringLiteral("/CAB_FACT.DBF")),
             {{QStringLiteral("FECHA_ENT"), 'D', 8, 0},
              {QStringLiteral("NOMBRE"), 'C', 10, 0},
@@ -153,9 +157,10 @@ TEST(OficinaMuestra, CabecerasDeLosDosNotariosYTiposDeIntervencion) {
     for (const Caso& c : casos) {
         Config.SetsNotario(QString::fromLatin1(c.notario));
         ActualizaCabeceraFacturas(c.fecha, false);
-        EXPECT_EQ(Config.GetFac_1(), QString::fromUtf8(c.fac_1)) << c.notario << ' ' << c.fecha;
-        EXPECT_EQ(Config.GetFac_3(), QString::fromUtf8(c.fac_3)) << c.notario << ' ' << c.fecha;
-        EXPECT_EQ(Config.GetFac_g_2(), QString::fromUtf8(c.fac_g_2)) << c.notario << ' ' << c.fecha;
+        EXPECT_EQ(QStringList({Config.GetFac_1(), Config.GetFac_3(), Config.GetFac_g_2()}),
+                  QStringList(
+                      {QString::fromUtf8(c.fac_1), QString::fromUtf8(c.fac_3), QString::fromUtf8(c.fac_g_2)}))
+            << c.notario << ' ' << c.fecha;
     }
     EXPECT_EQ(QStringList({Actuacion_INTI(1), Actuacion_INTI(7), Actuacion_INTI(20), Actuacion_INTI(13)}),
               QStringList({QStringLiteral("En su nombre"), QStringLiteral("Como apoderado de"),

@@ -51,16 +51,14 @@ TEST_F(Calculadora, DeedFeeVatQuotaAndTotalFollowTheTypedAmount) {
 // "1500.50" was read as 150.050,00 € (fee 171,13 € instead of 24,04 €) and "150000.5" as 1.500.005 €:
 // the keypad's point before one or two final digits is the decimal separator.
 TEST_F(Calculadora, KeypadPointBeforeTheLastDigitsIsTheDecimalSeparator) {
-    const struct {
-        const char* tecleado;
-        double cuantia;
-    } casos[] = {{"150000.5", 150000.5}, {"150.000", 150000}, {"150.000,5", 150000.5}, {"1500.50", 1500.5}};
-    for (const auto& k : casos) {
+    const std::pair<const char*, double> casos[] = {
+        {"150000.5", 150000.5}, {"150.000", 150000}, {"150.000,5", 150000.5}, {"1500.50", 1500.5}};
+    for (const auto& [tecleado, cuantia] : casos) {
         c->ECuantia->clear();
-        QTest::keyClicks(c->ECuantia, QString::fromLatin1(k.tecleado));
+        QTest::keyClicks(c->ECuantia, QString::fromLatin1(tecleado));
         EXPECT_EQ(c->LHonorarioEscritura->text(),
-                  FormateaImporte(Ges_Arancel_E(k.cuantia), 2) + QStringLiteral(" €"))
-            << k.tecleado;
+                  FormateaImporte(Ges_Arancel_E(cuantia), 2) + QStringLiteral(" €"))
+            << tecleado;
     }
     EXPECT_EQ(c->LHonorarioEscritura->text(), QStringLiteral("24,04 €")); // "1500.50", the last typed
     QTest::keyClicks(c->ECuantia, QStringLiteral("0")); // "1500.500" groups nothing: refused where typed
@@ -110,30 +108,24 @@ TEST_F(Calculadora, PolicyChoicesReachTheConfiguredScale) {
 }
 
 TEST_F(Calculadora, VatCheckAsksOnlyWhenThePercentageIsNotInForce) {
-    struct Caso {
-        QDate fecha;
-        double porcentaje;
-        std::deque<int> respuestas;
-        bool conforme;
-        bool pregunta;
-    };
-    const Caso casos[] = {
+    // Date and percentage, the clerk's answers; whether the percentage is accepted and a question asked.
+    const std::tuple<QDate, double, std::deque<int>, bool, bool> casos[] = {
         {QDate(2012, 9, 1), 18, {2}, false, true},
         {QDate(2012, 8, 31), 18, {}, true, false},
         {QDate(2012, 9, 1), 18, {1}, true, true}, // the user chooses to go on
         {QDate(2024, 1, 10), 21, {}, true, false},
     };
-    for (const Caso& k : casos) {
+    for (const auto& [fecha, porcentaje, respuestas, conforme, pregunta] : casos) {
         mensajes.limpia();
-        mensajes.respuestas(k.respuestas);
-        c->EFecha->setDate(k.fecha);
-        c->EIVA->setValue(k.porcentaje);
+        mensajes.respuestas(respuestas);
+        c->EFecha->setDate(fecha);
+        c->EIVA->setValue(porcentaje);
         EXPECT_TRUE(c->LResultadoIVA->text().isEmpty()) << "a new date or percentage clears the verdict";
         QTest::mouseClick(c->BBCompruebaIVA, Qt::LeftButton);
-        EXPECT_EQ(c->LResultadoIVA->text(), k.conforme ? QStringLiteral("Porcentaje aceptado")
-                                                       : QStringLiteral("Revise el porcentaje"));
-        ASSERT_EQ(mensajes.mostrados().size(), k.pregunta ? 1 : 0);
-        if (k.pregunta) {
+        EXPECT_EQ(c->LResultadoIVA->text(),
+                  conforme ? QStringLiteral("Porcentaje aceptado") : QStringLiteral("Revise el porcentaje"));
+        ASSERT_EQ(mensajes.mostrados().size(), pregunta ? 1 : 0);
+        if (pregunta) {
             EXPECT_EQ(mensajes.mostrados()[0].title, QStringLiteral("Aplicación de IVA"));
             EXPECT_TRUE(mensajes.mostrados()[0].text.contains(QStringLiteral("18% y no el 21%")));
         }

@@ -70,11 +70,7 @@ protected:
 };
 
 TEST_F(Documentos, NotaryImages) {
-    const struct {
-        QString (*rutina)(const QString&);
-        const char* notario;
-        const char* esperado;
-    } casos[] = {
+    const std::tuple<QString (*)(const QString&), const char*, const char*> casos[] = {
         {FicheroSello, "", "C:\\WORDZEB\\IMAGENES\\SELLO1.PNG"},
         {FicheroSello, "0", "C:\\WORDZEB\\IMAGENES\\SELLO1.PNG"},
         {FicheroSello, " 2 ", "C:\\WORDZEB\\IMAGENES\\SELLO2.PNG"},
@@ -85,8 +81,8 @@ TEST_F(Documentos, NotaryImages) {
         {FicheroRubrica, "", "C:\\WORDZEB\\IMAGENES\\RUBRICA1.JPG"},
         {FicheroSelloFirma, "3", "C:\\WORDZEB\\IMAGENES\\SELLO_FIRMA3.PNG"},
     };
-    for (const auto& c : casos)
-        EXPECT_EQ(c.rutina(QString::fromUtf8(c.notario)), QString::fromUtf8(c.esperado)) << c.esperado;
+    for (const auto& [rutina, notario, esperado] : casos)
+        EXPECT_EQ(rutina(QString::fromUtf8(notario)), QString::fromUtf8(esperado)) << esperado;
 
     // The office's images follow its folder; the signature images stay on the workstation's disk.
     Config.SetCarpetaImagenes(QStringLiteral("\\\\SERVIDOR\\IMAGENES\\"));
@@ -98,28 +94,22 @@ TEST_F(Documentos, NotaryImages) {
 }
 
 TEST_F(Documentos, TheThreeBisFamiliesStayApart) {
-    const struct {
-        int bis;
-        const char *documento, *copia, *electronica;
-    } casos[] = {{0, "", "", ""},
-                 {1, "_1Bis", "Bis", "-1Bis"},
-                 {2, "_2Bis", "2Bis", "-2Bis"},
-                 {3, "_3Bis", "3Bis", "-3Bis"},
-                 {4, "", "", ""},
-                 {-1, "", "", ""}};
-    for (const auto& c : casos) {
-        EXPECT_EQ(SufijoBisDocumento(c.bis), QLatin1String(c.documento)) << c.bis;
-        EXPECT_EQ(SufijoBisCopia(c.bis), QLatin1String(c.copia)) << c.bis;
-        EXPECT_EQ(SufijoBisElectronico(c.bis), QLatin1String(c.electronica)) << c.bis;
+    const std::tuple<int, const char*, const char*, const char*> casos[] = {{0, "", "", ""},
+                                                                            {1, "_1Bis", "Bis", "-1Bis"},
+                                                                            {2, "_2Bis", "2Bis", "-2Bis"},
+                                                                            {3, "_3Bis", "3Bis", "-3Bis"},
+                                                                            {4, "", "", ""},
+                                                                            {-1, "", "", ""}};
+    for (const auto& [bis, documento, copia, electronica] : casos) {
+        EXPECT_EQ(SufijoBisDocumento(bis), QLatin1String(documento)) << bis;
+        EXPECT_EQ(SufijoBisCopia(bis), QLatin1String(copia)) << bis;
+        EXPECT_EQ(SufijoBisElectronico(bis), QLatin1String(electronica)) << bis;
     }
 }
 
 TEST_F(Documentos, DeedDocumentNamesFromTheTemplate) {
-    const struct {
-        const char* plantilla;
-        int modo, notario, numero, ano, bis;
-        const char* esperado;
-    } casos[] = {
+    // Template; mode, notary, number, year and bis; the name.
+    const std::tuple<const char*, int, int, int, int, int, const char*> casos[] = {
         {"<AÑO>-<NUMERO5>", 0, 1, 12, 2008, 1, "08-00012_1Bis"},
         {"<INICIALES NOTARIO>_<NUMERO4>_<AÑO4>", 0, 2, 12, 2008, 0, "MLR_0012_2008"},
         {"<NUMERO>", 0, 1, 123456, 2008, 3, "123456_3Bis"},
@@ -131,11 +121,11 @@ TEST_F(Documentos, DeedDocumentNamesFromTheTemplate) {
         {"<NUMERO>-<AÑO", 0, 1, 5, 2024, 0, "5-"},        // "<" never closed: the rest is left out
         {"", 0, 1, 5, 2024, 2, "_2Bis"},
     };
-    for (const auto& c : casos) {
-        Config.SetsEnlaceWordNombreFichero(QString::fromUtf8(c.plantilla));
-        EXPECT_EQ(DameNombreFicheroWordEscrituras(c.modo, c.notario, c.numero, c.ano, c.bis),
-                  QString::fromUtf8(c.esperado))
-            << c.plantilla;
+    for (const auto& [plantilla, modo, notario, numero, ano, bis, esperado] : casos) {
+        Config.SetsEnlaceWordNombreFichero(QString::fromUtf8(plantilla));
+        EXPECT_EQ(DameNombreFicheroWordEscrituras(modo, notario, numero, ano, bis),
+                  QString::fromUtf8(esperado))
+            << plantilla;
     }
 }
 
@@ -169,20 +159,15 @@ TEST_F(Documentos, CopyAndPolicyNames) {
     EXPECT_EQ(DameNombreFicheroCopiaSimple(123456, 3), QStringLiteral("COPSIM_234563Bis"));
 
     Config.SetsEnlaceWordNombreFicheroPoliza(QStringLiteral("<SECCION>-<AÑO>-<NUMERO5>"));
-    const struct {
-        const char* estilo;
-        int bis;
-        const char* esperado;
-    } casos[] = {
+    const std::tuple<const char*, int, const char*> casos[] = {
         {"0", 0, "A-24-00007N"}, {"0", 1, "A-24-00007A"},     {"0", 3, "A-24-00007C"},
         {"1", 0, "A-24-00007"},  {"1", 2, "A-24-00007_2Bis"}, {"", 0, "A-24-00007"},
         {"2", 2, "A-24-00007B"}, {"00", 0, "A-24-00007"},     {"0", 5, "A-24-00007N"},
     };
-    for (const auto& c : casos) {
-        Config.SetsEnlaceWordBisFicheroPoliza(QLatin1String(c.estilo));
-        EXPECT_EQ(DameNombreFicheroWordPolizas(QStringLiteral("A"), 1, 7, 2024, c.bis),
-                  QLatin1String(c.esperado))
-            << "style " << c.estilo << " bis " << c.bis;
+    for (const auto& [estilo, bis, esperado] : casos) {
+        Config.SetsEnlaceWordBisFicheroPoliza(QLatin1String(estilo));
+        EXPECT_EQ(DameNombreFicheroWordPolizas(QStringLiteral("A"), 1, 7, 2024, bis), QLatin1String(esperado))
+            << "style " << estilo << " bis " << bis;
     }
 }
 
@@ -203,20 +188,17 @@ TEST_F(Documentos, FoldersWithoutAgreementAreCreated) {
 TEST_F(Documentos, FoldersUnderTheAgreement) {
     Config.SetbEnlaceWordConvenio(true);
     Config.SetsEnlaceWordCarpetaBase(QStringLiteral("COMPARTIDA\\"));
-    const struct {
-        bool anoMasNotario;
-        int notario;
-        const char* esperado;
-    } casos[] = {{false, 2, "COMPARTIDA\\NOTARIA2\\2008\\"},
-                 {true, 2, "COMPARTIDA\\2008\\NOTARIA2\\"},
-                 {false, 1, "COMPARTIDA\\NOTARIA1\\2008\\"},
-                 {true, 0, "COMPARTIDA\\2008\\"},
-                 {false, 7, "COMPARTIDA\\2008\\"}}; // no folder of its own beyond notary 5
-    for (const auto& c : casos) {
-        Config.SetbEnlaceWordAnoMasNotario(c.anoMasNotario);
-        const QString carpeta = DameCarpetaFicheroWordEscrituras(0, c.notario, 2008);
-        EXPECT_EQ(carpeta, QLatin1String(c.esperado));
-        EXPECT_TRUE(esCarpeta(carpeta)) << c.esperado;
+    // Year before notary, notary, folder (none of its own beyond notary 5).
+    const std::tuple<bool, int, const char*> casos[] = {{false, 2, "COMPARTIDA\\NOTARIA2\\2008\\"},
+                                                        {true, 2, "COMPARTIDA\\2008\\NOTARIA2\\"},
+                                                        {false, 1, "COMPARTIDA\\NOTARIA1\\2008\\"},
+                                                        {true, 0, "COMPARTIDA\\2008\\"},
+                                                        {false, 7, "COMPARTIDA\\2008\\"}};
+    for (const auto& [anoMasNotario, notario, esperado] : casos) {
+        Config.SetbEnlaceWordAnoMasNotario(anoMasNotario);
+        const QString carpeta = DameCarpetaFicheroWordEscrituras(0, notario, 2008);
+        EXPECT_EQ(carpeta, QLatin1String(esperado));
+        EXPECT_TRUE(esCarpeta(carpeta)) << esperado;
     }
     Config.SetbEnlaceWordAnoMasNotario(false);
     EXPECT_EQ(DameCarpetaFicheroCopiaAutorizada(1, 2008),
@@ -248,13 +230,8 @@ TEST_F(Documentos, AgreementWithoutNotariesIsReportedOncePerCall) {
 }
 
 TEST_F(Documentos, ElectronicFileFolders) {
-    const struct {
-        bool poliza;
-        int modo, notario;
-        const char* seccion;
-        int numero, bis, ano;
-        const char *sub, *debajo;
-    } casos[] = {
+    // Policy or deed; mode, notary, section, number, bis and year; the subfolder asked for; the folder.
+    const std::tuple<bool, int, int, const char*, int, int, int, const char*, const char*> casos[] = {
         {false, 0, 1, "", 12, 1, 2008, "", "Archivos\\Protocolo\\2008\\JGP00012-1Bis"},
         {false, 0, 2, "", 12, 0, 2008, "Firmadas", "Archivos\\Protocolo\\2008\\MLR00012\\Firmadas"},
         {false, 1, 2, "", 12, 3, 2008, "", "Archivos\\Expediente\\2008\\000012-3Bis"},
@@ -262,15 +239,14 @@ TEST_F(Documentos, ElectronicFileFolders) {
         {true, 0, 1, "", 7, 0, 2024, "Escaneos", "Archivos\\Polizas\\2024\\JGP00007\\Escaneos"},
         {true, 1, 1, "A", 12, 0, 2024, "", "Archivos\\Expediente\\2024\\000012"},
     };
-    for (const auto& c : casos) {
-        const QString sub = QLatin1String(c.sub);
+    for (const auto& [poliza, modo, notario, seccion, numero, bis, ano, sub, debajo] : casos) {
         const QString carpeta =
-            c.poliza
-                ? DameCarpetaFicherosElectronicosPolizas(c.modo, c.notario, QLatin1String(c.seccion),
-                                                         c.numero, c.bis, c.ano, sub)
-                : DameCarpetaFicherosElectronicosEscrituras(c.modo, c.notario, c.numero, c.bis, c.ano, sub);
-        EXPECT_EQ(carpeta, datos() + QLatin1Char('\\') + QLatin1String(c.debajo));
-        EXPECT_TRUE(esCarpeta(carpeta)) << c.debajo;
+            poliza ? DameCarpetaFicherosElectronicosPolizas(modo, notario, QLatin1String(seccion), numero,
+                                                            bis, ano, QLatin1String(sub))
+                   : DameCarpetaFicherosElectronicosEscrituras(modo, notario, numero, bis, ano,
+                                                               QLatin1String(sub));
+        EXPECT_EQ(carpeta, datos() + QLatin1Char('\\') + QLatin1String(debajo));
+        EXPECT_TRUE(esCarpeta(carpeta)) << debajo;
     }
     EXPECT_EQ(Config.GetsNotario(), QStringLiteral("1"));
     EXPECT_EQ(Config.GetNombre_Inicial(), QStringLiteral("JGP"));
@@ -453,23 +429,19 @@ TEST_F(DocumentosUnidos, NoCopiesNothingAndAnEmptyMoveFolderKeepsTheImages) {
 }
 
 TEST_F(DocumentosUnidos, MissingFoldersAndImagesAreReported) {
-    const struct {
-        std::function<void()> prepara;
-        const char* origen;
-        const char *titulo, *texto;
-    } casos[] = {
+    const std::tuple<std::function<void()>, const char*, const char*, const char*> casos[] = {
         {[] {}, "EXP\\NO_EXISTE", "Sin DU asociados", "No hay DU asociados al expediente"},
         {[] {}, "EXP", "No hay DU asociados al expediente",
          "No se han encontrado imágenes en la carpeta EXP"},
         {[] { Config.SetCarpetaDocumentosUnidos(QStringLiteral("C:\\NODRIM\\NO_EXISTE")); }, "EXP\\DU",
          "Error consultar DU general", "No se ha encontrado la carpeta C:\\NODRIM\\NO_EXISTE"},
     };
-    for (const auto& c : casos) {
+    for (const auto& [prepara, origen, titulo, texto] : casos) {
         mensajes.limpia();
-        c.prepara();
-        PasaImagenesADU(QString::fromUtf8(c.origen), QStringLiteral("EXP\\INCORPORADOS"));
-        ASSERT_EQ(mensajes.mostrados().size(), 1) << c.texto;
-        esDialogo(mensajes.mostrados()[0], "Mensaje_Error", c.titulo, QString::fromUtf8(c.texto));
+        prepara();
+        PasaImagenesADU(QString::fromUtf8(origen), QStringLiteral("EXP\\INCORPORADOS"));
+        ASSERT_EQ(mensajes.mostrados().size(), 1) << texto;
+        esDialogo(mensajes.mostrados()[0], "Mensaje_Error", titulo, QString::fromUtf8(texto));
     }
     EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3);
 }

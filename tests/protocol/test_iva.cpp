@@ -24,17 +24,10 @@ protected:
     ServicioMensajesInstalado instalado{mensajes};
 };
 
-struct CasoIva {
-    int colegio;
-    const char* lugar;
-    TDateTime fecha;
-    double porcentaje;
-    const char* texto;  // after "¿Seguro que el "; empty: no question
-    const char* titulo; // after "Aplicación "
-};
-
 TEST_F(Iva, PorcentajeEnVigorYPregunta) {
-    const CasoIva casos[] = {
+    // Association, town, date, percentage; the question after "¿Seguro que el " (empty: none asked) and
+    // its title after "Aplicación ".
+    const std::tuple<int, const char*, TDateTime, double, const char*, const char*> casos[] = {
         {0, "", fecha(31, 8, 2012), 18, "", ""},
         {0, "", fecha(1, 9, 2012) + 0.75, 21, "", ""},
         {0, "", fecha(30, 6, 2010), 16, "", ""},
@@ -63,16 +56,15 @@ TEST_F(Iva, PorcentajeEnVigorYPregunta) {
         {0, "Ceuta", fecha(1, 1, 2020), 6,
          "IVA a aplicar es el 6% y no el 21%?\rLa fecha es posterior al 01/09/2012", "de IVA"},
     };
-    for (const auto& c : casos) {
-        SCOPED_TRACE(testing::Message()
-                     << c.colegio << " " << c.lugar << " " << c.fecha << " " << c.porcentaje);
-        Config.SetnColegio(c.colegio);
-        Config.SetLugar1(QLatin1String(c.lugar));
+    for (const auto& [colegio, lugar, fecha, porcentaje, texto, titulo] : casos) {
+        SCOPED_TRACE(testing::Message() << colegio << " " << lugar << " " << fecha << " " << porcentaje);
+        Config.SetnColegio(colegio);
+        Config.SetLugar1(QLatin1String(lugar));
         for (int respuesta : {1, 2}) {
             mensajes.limpia();
             mensajes.respuestas({respuesta});
-            const bool preguntado = *c.texto != 0;
-            EXPECT_EQ(CompruebaIVA(c.fecha, c.porcentaje), !preguntado || respuesta == 1);
+            const bool preguntado = *texto != 0;
+            EXPECT_EQ(CompruebaIVA(fecha, porcentaje), !preguntado || respuesta == 1);
             if (!preguntado) {
                 EXPECT_TRUE(mensajes.mostrados().isEmpty());
                 continue;
@@ -80,24 +72,18 @@ TEST_F(Iva, PorcentajeEnVigorYPregunta) {
             ASSERT_EQ(mensajes.mostrados().size(), 1);
             const DialogoMostrado& d = mensajes.mostrados()[0];
             EXPECT_EQ(d.kind, QStringLiteral("Mensaje_NoSi"));
-            EXPECT_EQ(d.title, QStringLiteral("Aplicación ") + QLatin1String(c.titulo));
+            EXPECT_EQ(d.title, QStringLiteral("Aplicación ") + QLatin1String(titulo));
             // The message service shows the text, then the question on a line of its own.
-            EXPECT_EQ(d.text, QStringLiteral("¿Seguro que el ") + QString::fromUtf8(c.texto) +
+            EXPECT_EQ(d.text, QStringLiteral("¿Seguro que el ") + QString::fromUtf8(texto) +
                                   QStringLiteral("\n¿Desea continuar (S/N)?"));
         }
     }
 }
 
-struct CasoRetencion {
-    const char* lugar;
-    TDateTime a, b;
-    double porcentaje;
-    const char* otro; // the percentage the clerk is asked to consider; empty: accepted
-};
-
 TEST_F(Iva, Retencion) {
     Config.SetTipoRet(18);
-    const CasoRetencion casos[] = {
+    // Town, the two dates, percentage; the percentage the clerk is asked to consider (empty: accepted).
+    const std::tuple<const char*, TDateTime, TDateTime, double, const char*> casos[] = {
         {"", fecha(15, 6, 2015), fecha(20, 7, 2015), 19, "15"},
         {"", fecha(15, 6, 2015), fecha(20, 7, 2015), 15, ""},
         {"", fecha(20, 7, 2015), fecha(15, 6, 2015), 19, "15"},
@@ -117,14 +103,14 @@ TEST_F(Iva, Retencion) {
         {"CEUTA", fecha(30, 6, 2018), fecha(1, 7, 2018), 7.5, "6"},
         {"CEUTA", fecha(1, 1, 2014), 0, 15, "7,5"},
     };
-    for (const auto& c : casos) {
-        SCOPED_TRACE(testing::Message() << c.lugar << " " << c.a << " " << c.b << " " << c.porcentaje);
-        Config.SetLugar1(QLatin1String(c.lugar));
+    for (const auto& [lugar, a, b, porcentaje, otro] : casos) {
+        SCOPED_TRACE(testing::Message() << lugar << " " << a << " " << b << " " << porcentaje);
+        Config.SetLugar1(QLatin1String(lugar));
         QString mensaje = QStringLiteral("sin tocar");
-        EXPECT_EQ(CompruebaRetencion(c.a, c.b, c.porcentaje, mensaje), *c.otro == 0);
-        EXPECT_EQ(mensaje, *c.otro ? QStringLiteral("Compruebe que la retención a aplicar no sería del %1%")
-                                         .arg(QLatin1String(c.otro))
-                                   : QString());
+        EXPECT_EQ(CompruebaRetencion(a, b, porcentaje, mensaje), *otro == 0);
+        EXPECT_EQ(mensaje, *otro ? QStringLiteral("Compruebe que la retención a aplicar no sería del %1%")
+                                       .arg(QLatin1String(otro))
+                                 : QString());
     }
     EXPECT_TRUE(mensajes.mostrados().isEmpty());
 }
@@ -133,15 +119,15 @@ TEST_F(Iva, RetencionPorDefectoSoloConLaFechaDeEmision) {
     // A date that is no day falls in no period: only the default-rate test can judge it.
     const double nan = std::numeric_limits<double>::quiet_NaN();
     Config.SetTipoRet(18);
+    const QString aviso =
+        QStringLiteral("La retención aplicada no coincide con la configurada por defecto (%1)");
     QString mensaje;
     EXPECT_TRUE(CompruebaRetencion(nan, 0, 18, mensaje));
     EXPECT_FALSE(CompruebaRetencion(nan, 0, 17.5, mensaje));
-    EXPECT_EQ(mensaje,
-              QStringLiteral("La retención aplicada no coincide con la configurada por defecto (18)"));
+    EXPECT_EQ(mensaje, aviso.arg(QStringLiteral("18")));
     Config.SetTipoRet(7.5);
     EXPECT_FALSE(CompruebaRetencion(nan, 0, 17.5, mensaje));
-    EXPECT_EQ(mensaje,
-              QStringLiteral("La retención aplicada no coincide con la configurada por defecto (7,5)"));
+    EXPECT_EQ(mensaje, aviso.arg(QStringLiteral("7,5")));
 }
 
 TEST_F(Iva, IvaPorCaja) {

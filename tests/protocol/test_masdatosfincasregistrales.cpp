@@ -93,28 +93,24 @@ TEST_F(FormFincas, InsertTypesAnIdentifierWithBlanksAndInsertAcceptsIt) {
 
 TEST_F(FormFincas, DuplicatesAreExactAndEmptyIsRefused) {
     abre(QStringLiteral("A-7"));
-    const struct {
-        const char* tecleado;
-        const char* mensaje; // nullptr: accepted
-    } casos[] = {
-        {"a-7", nullptr},
-        {" A-7 ", "Ya está insertada esta Finca Registral"},
-        {"   ", "No ha escrito ninguna Finca Registral"},
-    };
-    for (const auto& c : casos) {
+    // The identifier typed and why it is refused (nullptr: accepted).
+    const std::pair<const char*, const char*> casos[] = {{"a-7", nullptr},
+                                                         {" A-7 ", "Ya está insertada esta Finca Registral"},
+                                                         {"   ", "No ha escrito ninguna Finca Registral"}};
+    for (const auto& [tecleado, mensaje] : casos) {
         mensajes.limpia();
         f->BBAnadir->click();
-        f->EFincaRegistral->setText(QString::fromUtf8(c.tecleado));
+        f->EFincaRegistral->setText(QString::fromUtf8(tecleado));
         f->BBAceptarCambios->click();
-        if (!c.mensaje) {
-            EXPECT_TRUE(mensajes.mostrados().isEmpty()) << c.tecleado;
+        if (!mensaje) {
+            EXPECT_TRUE(mensajes.mostrados().isEmpty()) << tecleado;
             EXPECT_FALSE(editando());
             continue;
         }
-        ASSERT_EQ(mensajes.mostrados().size(), 1) << c.tecleado;
+        ASSERT_EQ(mensajes.mostrados().size(), 1) << tecleado;
         EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_Info"));
         EXPECT_EQ(mensajes.mostrados()[0].title, QStringLiteral("Finca Registral no válida"));
-        EXPECT_EQ(mensajes.mostrados()[0].text, QString::fromUtf8(c.mensaje));
+        EXPECT_EQ(mensajes.mostrados()[0].text, QString::fromUtf8(mensaje));
         EXPECT_TRUE(editando()) << "a refused identifier stays in the edit";
         tecla(Qt::Key_Escape);
     }

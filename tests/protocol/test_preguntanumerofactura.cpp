@@ -47,12 +47,7 @@ TEST_F(FormNumeroFactura, OpensOnTheSeriesWithTheCurrentYearAndNoNumber) {
 
 // What each field keeps of what is typed, once the clerk has left it (a short year is completed then).
 TEST_F(FormNumeroFactura, FieldsTakeOnlyWhatAnInvoiceNumberHolds) {
-    struct Caso {
-        QLineEdit* campo;
-        const char* tecleado;
-        const char* queda;
-    };
-    const Caso casos[] = {
+    const std::tuple<QLineEdit*, const char*, const char*> casos[] = {
         {f->ESerie, "a1b", "A1"},    // two characters, in capitals
         {f->ESerie, "-x", "X"},      // no punctuation
         {f->EAno, "20a245", "2024"}, // four digits
@@ -61,34 +56,30 @@ TEST_F(FormNumeroFactura, FieldsTakeOnlyWhatAnInvoiceNumberHolds) {
         {f->EAno, "", ""},           {f->ENumero, "12.3456789", "123456"}, // six digits, no grouping
         {f->EBis, "1b c", "B"},                                            // one letter
     };
-    for (const Caso& c : casos) {
-        enfoca(c.campo);
-        c.campo->clear();
-        QTest::keyClicks(c.campo, QString::fromLatin1(c.tecleado));
-        enfoca(c.campo == f->ESerie ? f->EBis : f->ESerie);
-        EXPECT_EQ(c.campo->text(), QString::fromLatin1(c.queda))
-            << c.campo->objectName().toStdString() << " " << c.tecleado;
+    for (const auto& [campo, tecleado, queda] : casos) {
+        enfoca(campo);
+        campo->clear();
+        QTest::keyClicks(campo, QString::fromLatin1(tecleado));
+        enfoca(campo == f->ESerie ? f->EBis : f->ESerie);
+        EXPECT_EQ(campo->text(), QString::fromLatin1(queda))
+            << campo->objectName().toStdString() << " " << tecleado;
     }
 }
 
 TEST_F(FormNumeroFactura, EnteringAControlShowsItsHintAndMarksFieldsOnly) {
-    struct Caso {
-        QWidget* control;
-        bool marcado;
-    };
     f->ENumero->setText(QStringLiteral("1")); // "&Aceptar" can take the focus
-    const Caso casos[] = {{f->ESerie, true}, {f->EAno, true},       {f->ENumero, true},
-                          {f->EBis, true},   {f->BBAceptar, false}, {f->BBCancelar, false}};
-    for (const Caso& c : casos) {
-        enfoca(c.control);
-        ASSERT_EQ(QApplication::focusWidget(), c.control);
-        EXPECT_FALSE(c.control->toolTip().isEmpty());
-        EXPECT_EQ(f->SBExplica->currentMessage(), c.control->toolTip())
-            << c.control->objectName().toStdString();
-        EXPECT_EQ(TieneFocoMarcado(c.control), c.marcado) << c.control->objectName().toStdString();
+    const std::pair<QWidget*, bool> casos[] = {{f->ESerie, true},     {f->EAno, true},
+                                               {f->ENumero, true},    {f->EBis, true},
+                                               {f->BBAceptar, false}, {f->BBCancelar, false}};
+    for (const auto& [control, marcado] : casos) {
+        enfoca(control);
+        ASSERT_EQ(QApplication::focusWidget(), control);
+        EXPECT_FALSE(control->toolTip().isEmpty());
+        EXPECT_EQ(f->SBExplica->currentMessage(), control->toolTip()) << control->objectName().toStdString();
+        EXPECT_EQ(TieneFocoMarcado(control), marcado) << control->objectName().toStdString();
     }
-    for (const Caso& c : casos)
-        EXPECT_FALSE(TieneFocoMarcado(c.control) && c.control != QApplication::focusWidget());
+    for (const auto& [control, marcado] : casos)
+        EXPECT_FALSE(TieneFocoMarcado(control) && control != QApplication::focusWidget());
     // Leaving towards something outside the form's controls clears the status bar and the mark.
     enfoca(f->ESerie);
     f->ESerie->clearFocus();
@@ -127,12 +118,7 @@ TEST_F(FormNumeroFactura, EnterMovesOnSkipsADisabledAceptarAndPressesNoButton) {
 }
 
 TEST_F(FormNumeroFactura, ModalResultsOfTheButtonsAndEscape) {
-    struct Caso {
-        const char* como;
-        std::function<void()> accion;
-        int resultado;
-    };
-    const Caso casos[] = {
+    const std::tuple<const char*, std::function<void()>, int> casos[] = {
         {"click on Aceptar", [&] { QTest::mouseClick(f->BBAceptar, Qt::LeftButton); }, 1},
         {"click on Cancelar", [&] { QTest::mouseClick(f->BBCancelar, Qt::LeftButton); }, 2},
         {"Escape in a field", [&] { QTest::keyClick(f->ENumero, Qt::Key_Escape); }, 2},
@@ -140,14 +126,14 @@ TEST_F(FormNumeroFactura, ModalResultsOfTheButtonsAndEscape) {
         {"Space on Aceptar", [&] { QTest::keyClick(f->BBAceptar, Qt::Key_Space); }, 1},
         {"Space on Cancelar", [&] { QTest::keyClick(f->BBCancelar, Qt::Key_Space); }, 2},
     };
-    for (const Caso& c : casos) {
+    for (const auto& [como, accion, resultado] : casos) {
         f->setResult(-1);
         f->ENumero->setText(QStringLiteral("3"));
         f->show();
         QApplication::setActiveWindow(f.get());
-        c.accion();
-        EXPECT_EQ(f->result(), c.resultado) << c.como;
-        EXPECT_FALSE(f->isVisible()) << c.como;
+        accion();
+        EXPECT_EQ(f->result(), resultado) << como;
+        EXPECT_FALSE(f->isVisible()) << como;
     }
 }
 
