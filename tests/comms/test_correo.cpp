@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
@@ -40,6 +41,14 @@ protected:
     }
     QString fichero(const QString& nombre, const QByteArray& contenido) {
         return prueba::EscribeFichero(QDir(adjuntos.path()).filePath(nombre), contenido);
+    }
+    // A message "a" / "b" to `destinatarios`.
+    static TMAPIMail correo(const QStringList& destinatarios = {QStringLiteral("smtp:ana@example.es")}) {
+        TMAPIMail m;
+        m.Subject = QStringLiteral("a");
+        m.Body = QStringLiteral("b");
+        m.Recipients = destinatarios;
+        return m;
     }
     // Sends through TMAPIMail and gives the error's message, empty when it was sent.
     static QString envia(const TMAPIMail& m) {
@@ -122,10 +131,8 @@ TEST_F(CorreoTest, SubjectsComeBackAsTyped) {
         QString(QStringLiteral("a")).repeated(1200),
     };
     for (const QString& asunto : asuntos) {
-        TMAPIMail m;
+        TMAPIMail m = correo();
         m.Subject = asunto;
-        m.Body = QStringLiteral("texto");
-        m.Recipients = {QStringLiteral("smtp:ana@example.es")};
         EXPECT_EQ(envia(m), QString());
     }
     const QList<QJsonObject> mensajes = servidor.mensajes();
@@ -140,13 +147,10 @@ TEST_F(CorreoTest, SubjectsComeBackAsTyped) {
 TEST_F(CorreoTest, RecipientEntriesAreReadByTheirPrefixes) {
     ServidorCorreo servidor;
     apunta(servidor);
-    TMAPIMail m;
-    m.Subject = QStringLiteral("Prefijos");
-    m.Body = QStringLiteral("texto");
-    m.Recipients = {QStringLiteral("SMTP: ana@example.es "), QStringLiteral("smtp:"),
-                    QStringLiteral("luis@example.es"),       QStringLiteral("cc:gestor@example.es"),
-                    QStringLiteral("Bcc:oculta@example.es"), QStringLiteral("smtp:pepe@ñandú.es")};
-    ASSERT_EQ(envia(m), QString());
+    ASSERT_EQ(envia(correo({QStringLiteral("SMTP: ana@example.es "), QStringLiteral("smtp:"),
+                            QStringLiteral("luis@example.es"), QStringLiteral("cc:gestor@example.es"),
+                            QStringLiteral("Bcc:oculta@example.es"), QStringLiteral("smtp:pepe@ñandú.es")})),
+              QString());
     const QJsonObject r = servidor.mensajes().value(0);
     EXPECT_EQ(lista(r[u"to"]),
               QStringList({QStringLiteral("ana@example.es"), QStringLiteral("luis@example.es"),
@@ -157,74 +161,43 @@ TEST_F(CorreoTest, RecipientEntriesAreReadByTheirPrefixes) {
 }
 
 TEST_F(CorreoTest, EnviarEmailAsksBeforeSendingWithoutSubjectOrBody) {
-    struct Caso {
-        const char* nombre;
-        QString para, asunto, cuerpo;
+    const QString titulo = QStringLiteral("Atención, faltan datos");
+    // The questions each case shows, in order: P no recipient, A no subject, C no body.
+    const QHash<QChar, QString> dialogos = {
+        {u'P', QStringLiteral("Mensaje_Info|") + titulo +
+                   QStringLiteral("|Debe indicar un destinatario en el cuadro Para")},
+        {u'A', QStringLiteral("Mensaje_SiNo|") + titulo +
+                   QStringLiteral("|Mensaje sin asunto\n¿Desea enviarlo de todas formas?")},
+        {u'C', QStringLiteral("Mensaje_SiNo|") + titulo +
+                   QStringLiteral("|Mensaje con  el cuerpo vacío\n¿Desea enviarlo de todas formas?")},
+    };
+    const struct {
+        const char *nombre, *para, *asunto, *cuerpo;
         std::deque<int> respuestas;
         bool enviado;
-        QStringList dialogos; // kind, title and text of each
-    };
-    const QString titulo = QStringLiteral("Atención, faltan datos");
-    const QString sinAsunto = QStringLiteral("Mensaje sin asunto\n¿Desea enviarlo de todas formas?");
-    const QString sinCuerpo =
-        QStringLiteral("Mensaje con  el cuerpo vacío\n¿Desea enviarlo de todas formas?");
-    const Caso casos[] = {
-        {"no recipient",
-         {},
-         QStringLiteral("a"),
-         QStringLiteral("b"),
-         {},
-         false,
-         {QStringLiteral("Mensaje_Info|") + titulo +
-          QStringLiteral("|Debe indicar un destinatario en el cuadro Para")}},
-        {"no subject, declined",
-         QStringLiteral("ana@example.es"),
-         {},
-         QStringLiteral("b"),
-         {7},
-         false,
-         {QStringLiteral("Mensaje_SiNo|") + titulo + u'|' + sinAsunto}},
-        {"no subject, confirmed",
-         QStringLiteral("ana@example.es"),
-         {},
-         QStringLiteral("b"),
-         {6},
-         true,
-         {QStringLiteral("Mensaje_SiNo|") + titulo + u'|' + sinAsunto}},
-        {"no body, declined",
-         QStringLiteral("ana@example.es"),
-         QStringLiteral("a"),
-         {},
-         {7},
-         false,
-         {QStringLiteral("Mensaje_SiNo|") + titulo + u'|' + sinCuerpo}},
-        {"neither, both confirmed",
-         QStringLiteral("ana@example.es"),
-         {},
-         {},
-         {6, 6},
-         true,
-         {QStringLiteral("Mensaje_SiNo|") + titulo + u'|' + sinAsunto,
-          QStringLiteral("Mensaje_SiNo|") + titulo + u'|' + sinCuerpo}},
-        {"neither, Escape on the first",
-         QStringLiteral("ana@example.es"),
-         {},
-         {},
-         {},
-         false,
-         {QStringLiteral("Mensaje_SiNo|") + titulo + u'|' + sinAsunto}},
+        const char* preguntas;
+    } casos[] = {
+        {"no recipient", "", "a", "b", {}, false, "P"},
+        {"no subject, declined", "ana@example.es", "", "b", {7}, false, "A"},
+        {"no subject, confirmed", "ana@example.es", "", "b", {6}, true, "A"},
+        {"no body, declined", "ana@example.es", "a", "", {7}, false, "C"},
+        {"neither, both confirmed", "ana@example.es", "", "", {6, 6}, true, "AC"},
+        {"neither, Escape on the first", "ana@example.es", "", "", {}, false, "A"},
     };
     ServidorCorreo servidor;
     apunta(servidor);
-    for (const Caso& c : casos) {
+    for (const auto& c : casos) {
         const qsizetype antes = servidor.mensajes().size();
         guion.limpia();
         guion.respuestas(c.respuestas);
-        EXPECT_EQ(EnviarEmail(nullptr, c.para, c.asunto, c.cuerpo, {}, {}, {}, false), c.enviado) << c.nombre;
-        QStringList vistos;
-        for (const DialogoMostrado& d : guion.mostrados())
-            vistos.append(d.kind + u'|' + d.title + u'|' + d.text);
-        EXPECT_EQ(vistos, c.dialogos) << c.nombre;
+        EXPECT_EQ(EnviarEmail(nullptr, QString::fromUtf8(c.para), QString::fromUtf8(c.asunto),
+                              QString::fromUtf8(c.cuerpo), {}, {}, {}, false),
+                  c.enviado)
+            << c.nombre;
+        QStringList esperados;
+        for (const QChar p : QString::fromLatin1(c.preguntas))
+            esperados.append(dialogos.value(p));
+        EXPECT_EQ(prueba::Dialogos(guion), esperados) << c.nombre;
         EXPECT_EQ(servidor.mensajes().size() - antes, c.enviado ? 1 : 0) << c.nombre;
     }
 }
@@ -254,59 +227,39 @@ TEST_F(CorreoTest, RecipientStringsSplitAtEachSemicolon) {
 TEST_F(CorreoTest, BadSettingsAddressesAndAttachmentsSendNothing) {
     ServidorCorreo servidor;
     struct Caso {
-        const char* nombre;
-        std::function<void(TMAPIMail&)> prepara;
+        const char* destinatarios; // entries separated by '|'
+        const char* adjunto;
+        std::function<void()> configura;
         const char* mensaje;
     };
+    const char* const ana = "smtp:ana@example.es";
     const Caso casos[] = {
-        {"blank inside an address",
-         [](TMAPIMail& m) { m.Recipients = {QStringLiteral("smtp:ana maria@example.es")}; },
-         "La dirección de correo «ana maria@example.es» no es válida"},
-        {"no @", [](TMAPIMail& m) { m.Recipients = {QStringLiteral("smtp:ana.example.es")}; },
-         "«ana.example.es» no es válida"},
-        {"two @", [](TMAPIMail& m) { m.Recipients = {QStringLiteral("CC:a@b@example.es")}; },
-         "«a@b@example.es» no es válida"},
-        {"nothing after @", [](TMAPIMail& m) { m.Recipients = {QStringLiteral("BCC:ana@")}; },
-         "«ana@» no es válida"},
-        {"accent before @", [](TMAPIMail& m) { m.Recipients = {QStringLiteral("smtp:núñez@example.es")}; },
-         "«núñez@example.es» no es válida"},
-        {"angle brackets", [](TMAPIMail& m) { m.Recipients = {QStringLiteral("smtp:Ana <ana@example.es>")}; },
-         "no es válida"},
-        {"a good and a bad one",
-         [](TMAPIMail& m) {
-             m.Recipients = {QStringLiteral("smtp:ana@example.es"), QStringLiteral("smtp:luis")};
-         },
-         "«luis» no es válida"},
-        {"only blanks",
-         [](TMAPIMail& m) {
-             m.Recipients = {QStringLiteral("smtp: "), QStringLiteral("CC:")};
-         },
-         "no tiene ningún destinatario"},
-        {"missing attachment",
-         [](TMAPIMail& m) { m.Attachments = {QStringLiteral("/no/existe/escritura.pdf")}; },
-         "«/no/existe/escritura.pdf»"},
-        {"a folder as attachment", [](TMAPIMail& m) { m.Attachments = {QDir::tempPath()}; },
-         "fichero adjunto"},
-        {"no server", [](TMAPIMail&) { Config.SetServidorCorreo({}); },
-         "No se ha configurado el servidor de correo"},
-        {"server with a path", [](TMAPIMail&) { Config.SetServidorCorreo(QStringLiteral("smtp://x/y")); },
-         "no es un nombre"},
-        {"port out of range", [](TMAPIMail&) { Config.SetPuertoCorreo(70000); }, "puerto"},
-        {"no sender", [](TMAPIMail&) { Config.SetRemitenteCorreo({}); }, "dirección del remitente"},
-        {"bad sender", [](TMAPIMail&) { Config.SetRemitenteCorreo(QStringLiteral("notaria")); },
-         "«notaria» no es válida"},
-        {"unknown security", [](TMAPIMail&) { Config.SetSeguridadCorreo(QStringLiteral("SSL")); }, "«SSL»"},
+        {"smtp:ana maria@example.es", "", {}, "La dirección de correo «ana maria@example.es» no es válida"},
+        {"smtp:ana.example.es", "", {}, "«ana.example.es» no es válida"},
+        {"CC:a@b@example.es", "", {}, "«a@b@example.es» no es válida"},
+        {"BCC:ana@", "", {}, "«ana@» no es válida"},
+        {"smtp:núñez@example.es", "", {}, "«núñez@example.es» no es válida"},
+        {"smtp:Ana <ana@example.es>", "", {}, "no es válida"},
+        {"smtp:ana@example.es|smtp:luis", "", {}, "«luis» no es válida"},
+        {"smtp: |CC:", "", {}, "no tiene ningún destinatario"},
+        {ana, "/no/existe/escritura.pdf", {}, "«/no/existe/escritura.pdf»"},
+        {ana, NOD_SOURCE_DIR "/tests", {}, "fichero adjunto"},
+        {ana, "", [] { Config.SetServidorCorreo({}); }, "No se ha configurado el servidor de correo"},
+        {ana, "", [] { Config.SetServidorCorreo(QStringLiteral("smtp://x/y")); }, "no es un nombre"},
+        {ana, "", [] { Config.SetPuertoCorreo(70000); }, "puerto"},
+        {ana, "", [] { Config.SetRemitenteCorreo({}); }, "dirección del remitente"},
+        {ana, "", [] { Config.SetRemitenteCorreo(QStringLiteral("notaria")); }, "«notaria» no es válida"},
+        {ana, "", [] { Config.SetSeguridadCorreo(QStringLiteral("SSL")); }, "«SSL»"},
     };
     for (const Caso& c : casos) {
+        SCOPED_TRACE(std::string(c.destinatarios) + " " + c.adjunto + " " + c.mensaje);
         apunta(servidor);
-        TMAPIMail m;
-        m.Subject = QStringLiteral("a");
-        m.Body = QStringLiteral("b");
-        m.Recipients = {QStringLiteral("smtp:ana@example.es")};
-        c.prepara(m);
+        if (c.configura) c.configura();
+        TMAPIMail m = correo(QString::fromUtf8(c.destinatarios).split(u'|'));
+        if (*c.adjunto) m.Attachments = {QString::fromUtf8(c.adjunto)};
         const QString error = envia(m);
-        EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << c.nombre << ": " << error.toStdString();
-        EXPECT_TRUE(error.contains(QStringLiteral("no se ha enviado"), Qt::CaseInsensitive)) << c.nombre;
+        EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << error.toStdString();
+        EXPECT_TRUE(error.contains(QStringLiteral("no se ha enviado"), Qt::CaseInsensitive));
     }
     EXPECT_TRUE(servidor.mensajes().isEmpty());
 }
@@ -316,50 +269,29 @@ TEST_F(CorreoTest, BadSettingsAddressesAndAttachmentsSendNothing) {
 TEST_F(CorreoTest, TransportFailuresAreClearAndBounded) {
     struct Caso {
         const char* nombre;
-        QStringList opciones; // of the server; empty with `cerrado` true: no server at all
-        bool cerrado;
+        const char* opciones; // of the server, split at blanks; null: no server listening at all
         const char* seguridad;
         const char* mensaje;
     };
     const Caso casos[] = {
-        {"refused connection",
-         {},
-         true,
-         "NINGUNA",
+        {"refused connection", nullptr, "NINGUNA",
          "No se puede conectar con el servidor de correo 127.0.0.1:"},
-        {"rejected recipient",
-         {QStringLiteral("--rechaza"), QStringLiteral("luis@example.es")},
-         false,
-         "NINGUNA",
+        {"rejected recipient", "--rechaza luis@example.es", "NINGUNA",
          "ha rechazado al destinatario luis@example.es (550 5.1.1"},
-        {"never greets",
-         {QStringLiteral("--modo"), QStringLiteral("calla-saludo")},
-         false,
-         "NINGUNA",
-         "no responde"},
-        {"never confirms the message",
-         {QStringLiteral("--modo"), QStringLiteral("calla-datos")},
-         false,
-         "NINGUNA",
+        {"never greets", "--modo calla-saludo", "NINGUNA", "no responde"},
+        {"never confirms the message", "--modo calla-datos", "NINGUNA",
          "no ha confirmado el envío en 1 s. No consta que el correo se haya enviado."},
-        {"STARTTLS required, not offered", {}, false, "STARTTLS", "no ofrece una conexión segura (STARTTLS)"},
-        {"implicit TLS against plain text", {}, false, "TLS", "conexión segura"},
-        {"authentication required, none configured",
-         {QStringLiteral("--usuario"), QStringLiteral("u"), QStringLiteral("--password"),
-          QStringLiteral("p")},
-         false,
-         "NINGUNA",
-         "rechazado"},
+        {"STARTTLS required, not offered", "", "STARTTLS", "no ofrece una conexión segura (STARTTLS)"},
+        {"implicit TLS against plain text", "", "TLS", "conexión segura"},
+        {"authentication required, none configured", "--usuario u --password p", "NINGUNA", "rechazado"},
     };
     for (const Caso& c : casos) {
-        ServidorCorreo servidor(c.opciones);
+        ServidorCorreo servidor(QString::fromUtf8(c.opciones).split(u' ', Qt::SkipEmptyParts));
         apunta(servidor);
-        if (c.cerrado) Config.SetPuertoCorreo(prueba::ServidorHttp::puertoCerrado());
+        if (!c.opciones) Config.SetPuertoCorreo(prueba::ServidorHttp::puertoCerrado());
         Config.SetSeguridadCorreo(QString::fromUtf8(c.seguridad));
-        TMAPIMail m;
-        m.Subject = QStringLiteral("a");
-        m.Body = QStringLiteral("b");
-        m.Recipients = {QStringLiteral("smtp:ana@example.es"), QStringLiteral("CC:luis@example.es")};
+        const TMAPIMail m =
+            correo({QStringLiteral("smtp:ana@example.es"), QStringLiteral("CC:luis@example.es")});
         QElapsedTimer reloj;
         reloj.start();
         const QString error = envia(m);
@@ -399,12 +331,8 @@ TEST_F(CorreoTest, AuthenticatesWithoutEverLoggingThePassword) {
     Config.SetPasswordCorreo(password);
     Config.SetRemitenteCorreo({}); // the user name stands in for the sender
 
-    QString todo;
-    TMAPIMail m;
-    m.Subject = QStringLiteral("a");
-    m.Body = QStringLiteral("b");
-    m.Recipients = {QStringLiteral("smtp:ana@example.es")};
-    QString bien, mal;
+    const TMAPIMail m = correo();
+    QString bien, mal, todo;
     {
         prueba::RegistroCapturado registro;
         bien = envia(m);

@@ -103,47 +103,31 @@ TEST_F(FaxTest, AccountAndInitialisationFileFollowTheirRules) {
     oficina.escribe(QStringLiteral("C/FAX.INI"), QStringLiteral("[INTERFAX]\nCSID=UNIDAD C\n"));
     const QString doc = documento(QStringLiteral("a.pdf"), "%PDF");
     struct Caso {
-        const char* nombre;
-        QString usuario, password, ini;
-        QByteArray autorizacion, consulta;
+        const char *nombre, *usuario, *password;
+        QString ini;
+        const char *cuenta, *consulta; // cuenta: "user:password" of the authorisation
     };
-    const QByteArray cfg = "Basic " + QByteArray("notaria_cfg:clave_cfg").toBase64();
+    const char* const varios = "faxNumber=915551212&csid=NOTARIA%20MADRID&pageHeader=Notar%C3%ADa%20de%20"
+                               "Pruebas&retriesToPerform=3";
     const Caso casos[] = {
-        {"no user, no file",
-         {},
-         QStringLiteral("ignorada"),
-         {},
-         cfg,
-         "faxNumber=915551212&csid=NOTARIA%20MADRID&pageHeader=Notar%C3%ADa%20de%20Pruebas&retriesToPerform="
-         "3"},
-        {"a user of its own",
-         QStringLiteral("otro"),
-         QStringLiteral("x"),
-         {},
-         "Basic " + QByteArray("otro:x").toBase64(),
-         "faxNumber=915551212&csid=NOTARIA%20MADRID&pageHeader=Notar%C3%ADa%20de%20Pruebas&retriesToPerform="
-         "3"},
-        {"a relative file, retries out of range",
-         {},
-         {},
-         oficina.ruta(QStringLiteral("otro.ini")),
-         cfg,
-         "faxNumber=915551212&csid=OTRA"},
-        {"a drive-C file", {}, {}, QStringLiteral("C:\\FAX.INI"), cfg, "faxNumber=915551212&csid=UNIDAD%20C"},
-        {"a file that does not exist",
-         {},
-         {},
-         QStringLiteral("CONFIG\\NOEXISTE.INI"),
-         cfg,
-         "faxNumber=915551212"},
+        {"no user, no file", "", "ignorada", {}, "notaria_cfg:clave_cfg", varios},
+        {"a user of its own", "otro", "x", {}, "otro:x", varios},
+        {"a file given, retries out of range", "", "", oficina.ruta(QStringLiteral("otro.ini")),
+         "notaria_cfg:clave_cfg", "faxNumber=915551212&csid=OTRA"},
+        {"a drive-C file", "", "", QStringLiteral("C:\\FAX.INI"), "notaria_cfg:clave_cfg",
+         "faxNumber=915551212&csid=UNIDAD%20C"},
+        {"a file that does not exist", "", "", QStringLiteral("CONFIG\\NOEXISTE.INI"),
+         "notaria_cfg:clave_cfg", "faxNumber=915551212"},
     };
     for (const Caso& c : casos) {
         const qsizetype antes = servidor.peticiones().size();
-        EXPECT_EQ(fax({doc}, {QStringLiteral("915551212")}, c.usuario, c.password, c.ini), QString())
+        EXPECT_EQ(fax({doc}, {QStringLiteral("915551212")}, QString::fromUtf8(c.usuario),
+                      QString::fromUtf8(c.password), c.ini),
+                  QString())
             << c.nombre;
         ASSERT_EQ(servidor.peticiones().size(), antes + 1) << c.nombre;
         const prueba::PeticionHttp& p = servidor.peticiones().last();
-        EXPECT_EQ(p.cabeceras.value("authorization"), c.autorizacion) << c.nombre;
+        EXPECT_EQ(p.cabeceras.value("authorization"), "Basic " + QByteArray(c.cuenta).toBase64()) << c.nombre;
         EXPECT_EQ(p.ruta, "/outbound/faxes?" + c.consulta) << c.nombre;
     }
 }

@@ -21,14 +21,17 @@
 namespace nod {
 namespace {
 
+using prueba::Dialogos;
 using prueba::RespuestaHttp;
 
 const QByteArray kRuta = "/modules/Programas/NODRIM/Actualizaciones/Download/08tecnico01/";
 
-RespuestaHttp fichero(const QByteArray& contenido, const QByteArray& tipo = "application/octet-stream") {
+RespuestaHttp fichero(const QByteArray& contenido, const QByteArray& tipo = "application/octet-stream",
+                      int estado = 200) {
     RespuestaHttp r;
     r.cuerpo = contenido;
     r.tipo = tipo;
+    r.estado = estado;
     return r;
 }
 
@@ -37,31 +40,16 @@ QByteArray lee(const QString& ruta) {
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
 }
 
-void escribe(const QString& ruta, const QByteArray& contenido) {
-    prueba::EscribeFichero(ruta, contenido);
-}
+using prueba::EscribeFichero;
 
-// Dialogs as "kind|title|text".
-QStringList vistos(const ServicioMensajesGuionado& g) {
-    QStringList r;
-    for (const DialogoMostrado& d : g.mostrados())
-        r.append(d.kind + u'|' + d.title + u'|' + d.text);
-    return r;
-}
-
-QStringList textos(std::initializer_list<const char*> l) {
-    QStringList r;
-    for (const char* t : l)
-        r.append(QString::fromUtf8(t));
-    return r;
-}
-
-const QStringList kLibrerias = textos({"PasarelaWebCGN.dll", "Base64.dll", "CGZipLibrary.dll", "msxml4.dll",
-                                       "msxml4a.dll", "msxml4r.dll", "Unzip32.dll", "zip32.dll"});
+const QStringList kLibrerias = QStringLiteral("PasarelaWebCGN.dll Base64.dll CGZipLibrary.dll msxml4.dll "
+                                              "msxml4a.dll msxml4r.dll Unzip32.dll zip32.dll")
+                                   .split(u' ');
 const QStringList kConfiguracion =
-    textos({"conf/cgn_config.xml", "conf/cgn_config.xsd", "xsd_forms/common.xsd"});
-const QStringList kEnviosUnicos = textos({"templates/acta_1.7.xml", "templates/parte_1.7.xml",
-                                          "xsd/ACTA_NOTARIO-1.7dll.xsd", "xsd/PARTE_NOTARIO-1.7dll.xsd"});
+    QStringLiteral("conf/cgn_config.xml conf/cgn_config.xsd xsd_forms/common.xsd").split(u' ');
+const QStringList kEnviosUnicos = QStringLiteral("templates/acta_1.7.xml templates/parte_1.7.xml "
+                                                 "xsd/ACTA_NOTARIO-1.7dll.xsd xsd/PARTE_NOTARIO-1.7dll.xsd")
+                                      .split(u' ');
 
 const QString kPreguntaFicheros = QStringLiteral("Mensaje_SiNo|Alguno de los ficheros de la Pasarela Web no "
                                                  "encontrados|No se han encontrado alguno de los "
@@ -78,11 +66,7 @@ protected:
         FijaCarpetaPrograma(programa.path());
         Config.SetPortalFabricante(servidor.base());
         Config.SetEsperaDescargaMs(1000);
-        RespuestaHttp noEsta;
-        noEsta.estado = 404;
-        noEsta.cuerpo = "<html>Not found</html>";
-        noEsta.tipo = "text/html";
-        servidor.respondeCon(noEsta);
+        servidor.respondeCon(fichero("<html>Not found</html>", "text/html", 404));
         for (const QString& f : kEnviosUnicos)
             servidor.respondeEn(kRuta + f.toLatin1(), fichero("contenido de " + f.toLatin1(), "text/xml"));
     }
@@ -92,7 +76,7 @@ protected:
     void instalaTodo(const QStringList& menos = {}) {
         for (const QStringList* grupo : {&kLibrerias, &kConfiguracion, &kEnviosUnicos})
             for (const QString& f : *grupo)
-                if (!menos.contains(f)) escribe(QDir(programa.path()).filePath(f), "x");
+                if (!menos.contains(f)) EscribeFichero(QDir(programa.path()).filePath(f), "x");
     }
     QString base(const QString& relativa) const { return oficina.ruta(relativa); }
 
@@ -120,7 +104,8 @@ TEST_F(PasarelaTest, AMissingLibraryOrConfigurationEntryFailsSilently) {
         FijaCarpetaPrograma(otro.path());
         for (const QStringList* grupo : {&kLibrerias, &kConfiguracion})
             for (const QString& f : *grupo)
-                if (f != falta && !f.startsWith(falta + u'/')) escribe(QDir(otro.path()).filePath(f), "x");
+                if (f != falta && !f.startsWith(falta + u'/'))
+                    EscribeFichero(QDir(otro.path()).filePath(f), "x");
         EXPECT_FALSE(CompruebaFicherosPasarela()) << falta.toStdString();
     }
     EXPECT_TRUE(guion.mostrados().isEmpty());
@@ -148,7 +133,7 @@ TEST_F(PasarelaTest, MissingSingleSendingFilesAreDownloadedIntoTheBaseFolder) {
         EXPECT_EQ(lee(base(f)), "contenido de " + f.toLatin1()) << f.toStdString();
     EXPECT_FALSE(QFileInfo::exists(QDir(programa.path()).filePath(kEnviosUnicos[2])))
         << "downloads go to the base folder, not the program folder";
-    const QStringList d = vistos(guion);
+    const QStringList d = Dialogos(guion);
     ASSERT_GE(d.size(), 7);
     EXPECT_EQ(d[0], kPreguntaFicheros);
     EXPECT_EQ(d[1], QStringLiteral("MuestraMensaje||") + kEsperaFicheros);
@@ -174,8 +159,7 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
         fichero("<!DOCTYPE html><html><body>Inicie sesión</body></html>", "text/html; charset=utf-8");
     RespuestaHttp htmlSinTipo =
         fichero("\xef\xbb\xbf  <HTML><body>Acceso</body></HTML>", "application/octet-stream");
-    RespuestaHttp noEsta = fichero("no", "text/plain");
-    noEsta.estado = 404;
+    const RespuestaHttp noEsta = fichero("no", "text/plain", 404);
     RespuestaHttp cortada = fichero(QByteArray(64 * 1024, 'x'), "text/xml");
     cortada.corta = true;
     const Caso casos[] = {
@@ -192,9 +176,7 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
         prueba::ServidorHttp portal;
         Config.SetPortalFabricante(portal.base());
         Config.SetEsperaDescargaMs(500);
-        RespuestaHttp por404;
-        por404.estado = 404;
-        portal.respondeCon(por404);
+        portal.respondeCon(QByteArray(), 404);
         for (qsizetype i = 0; i < kEnviosUnicos.size(); ++i)
             portal.respondeEn(kRuta + kEnviosUnicos[i].toLatin1(),
                               i == c.falla ? c.respuesta : fichero("bien " + kEnviosUnicos[i].toLatin1()));
@@ -203,7 +185,7 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
         guion.respuestas(c.respuestas);
 
         EXPECT_FALSE(CompruebaFicherosPasarelaParaEnviosUnicos()) << c.nombre;
-        EXPECT_EQ(vistos(guion).last(), kErrorFicheros) << c.nombre;
+        EXPECT_EQ(Dialogos(guion).last(), kErrorFicheros) << c.nombre;
         EXPECT_EQ(portal.peticiones().size(), c.falla + 1) << c.nombre;
         QStringList esperado;
         for (int i = 0; i < c.falla; ++i)
@@ -231,35 +213,35 @@ TEST_F(PasarelaTest, SetUpProgramIsFetchedAfreshEveryTime) {
                                          "descargar el fichero de instalación de la Pasarela Web");
     servidor.respondeEn(kRuta + "PasarelaSetup.exe", fichero("MZ nuevo"));
 
-    escribe(setup, "MZ viejo");
+    EscribeFichero(setup, "MZ viejo");
     guion.respuestas({6});
     EXPECT_TRUE(DescargaFicherosPasarela());
     EXPECT_EQ(lee(setup), "MZ nuevo");
     ASSERT_EQ(servidor.peticiones().size(), 1);
     EXPECT_EQ(servidor.peticiones()[0].ruta, kRuta + "PasarelaSetup.exe");
-    EXPECT_EQ(vistos(guion).value(0), pregunta);
-    EXPECT_EQ(vistos(guion).value(1),
+    EXPECT_EQ(Dialogos(guion).value(0), pregunta);
+    EXPECT_EQ(Dialogos(guion).value(1),
               QStringLiteral("MuestraMensaje||Descargando fichero del Portal de Zeb Soft..."));
-    EXPECT_FALSE(vistos(guion).contains(error));
+    EXPECT_FALSE(Dialogos(guion).contains(error));
 
     guion.limpia();
     guion.respuestas({7});
     EXPECT_FALSE(DescargaFicherosPasarela());
-    EXPECT_EQ(vistos(guion), QStringList({pregunta, error}));
+    EXPECT_EQ(Dialogos(guion), QStringList({pregunta, error}));
     EXPECT_FALSE(QFileInfo::exists(setup)) << "the old program was deleted before asking";
 
     guion.limpia();
     guion.respuestas({6});
     servidor.respondeEn(kRuta + "PasarelaSetup.exe", fichero("MZ", "text/html"));
     EXPECT_FALSE(DescargaFicherosPasarela());
-    EXPECT_EQ(vistos(guion).last(), error);
+    EXPECT_EQ(Dialogos(guion).last(), error);
     EXPECT_FALSE(QFileInfo::exists(setup));
 }
 
 // A set-up "program" that is a folder with something in it cannot be deleted (by root either): kept, and
 // nothing is asked.
 TEST_F(PasarelaTest, SetUpProgramThatCannotBeDeletedIsKept) {
-    escribe(base(QStringLiteral("PasarelaSetup.exe/dentro")), "x");
+    EscribeFichero(base(QStringLiteral("PasarelaSetup.exe/dentro")), "x");
     EXPECT_TRUE(DescargaFicherosPasarela());
     EXPECT_TRUE(guion.mostrados().isEmpty());
     EXPECT_TRUE(servidor.peticiones().isEmpty());
@@ -278,27 +260,28 @@ TEST_F(PasarelaTest, InstalaPasarelaStartsTheSetUpOnlyWhenPresentAndWanted) {
                        "Web\n¿Desea instalar la Pasarela Web?");
 
     InstalaPasarela();
-    EXPECT_EQ(vistos(guion),
+    EXPECT_EQ(Dialogos(guion),
               QStringList{QStringLiteral("Mensaje_Error|Fichero de instalación no encontrado|No se ha "
                                          "encontrado el fichero de instalación de la Pasarela Web")});
-    escribe(setup, "MZ");
+    EscribeFichero(setup, "MZ");
     guion.limpia();
     guion.respuestas({7});
     InstalaPasarela();
-    EXPECT_EQ(vistos(guion), QStringList{pregunta});
+    EXPECT_EQ(Dialogos(guion), QStringList{pregunta});
     EXPECT_TRUE(lanzados.isEmpty());
 
     guion.limpia();
     guion.respuestas({6});
     InstalaPasarela();
-    EXPECT_EQ(vistos(guion), QStringList{pregunta});
+    EXPECT_EQ(Dialogos(guion), QStringList{pregunta});
     EXPECT_EQ(lanzados, QStringList{setup});
 
     arranca = false;
     guion.limpia();
     guion.respuestas({6});
     InstalaPasarela();
-    EXPECT_TRUE(vistos(guion).last().startsWith(QStringLiteral("Mensaje_Error|Pasarela Web no instalada|")));
+    EXPECT_TRUE(
+        Dialogos(guion).last().startsWith(QStringLiteral("Mensaje_Error|Pasarela Web no instalada|")));
     FijaLanzadorPrograma(nullptr);
 }
 
@@ -307,7 +290,7 @@ TEST_F(PasarelaTest, GatewayIniIsWrittenOnceAndNeverOverwritten) {
     EXPECT_EQ(CompruebaPasarelaWebIni(), ruta);
     EXPECT_EQ(lee(ruta), "[Parameters]\r\nNIVEL_LOG=2\r\nFICHERO_LOG=C:\\PasarelaWeb.log\r\n"
                          "PROXY_SERVER=<CURRENT_USER>\r\nCONNECTOR_TIMEOUT=120000\r\n");
-    escribe(ruta, "[Parameters]\r\nNIVEL_LOG=5\r\n");
+    EscribeFichero(ruta, "[Parameters]\r\nNIVEL_LOG=5\r\n");
     EXPECT_EQ(CompruebaPasarelaWebIni(), ruta);
     EXPECT_EQ(lee(ruta), "[Parameters]\r\nNIVEL_LOG=5\r\n");
     EXPECT_TRUE(guion.mostrados().isEmpty());

@@ -21,19 +21,16 @@ TCampoDbf D(const char* nombre) {
     return {QLatin1String(nombre), 'D', 8, 0};
 }
 
+TablaRevisionPrueba otra(const char* nombre, const char* fichero, const char* campoCliente,
+                         const QList<TCampoDbf>& campos, unsigned modos) {
+    return {QLatin1String(nombre), QLatin1String(fichero), QLatin1String(campoCliente), campos, modos};
+}
 TablaRevisionPrueba protocolo(const char* nombre, unsigned modos) {
-    return {QLatin1String(nombre),
-            QLatin1String(nombre),
-            QStringLiteral("CODCLIENTE"),
-            {N("CODNUMERO", 12), N("CODCLIENTE", 8), C("TEXTO", 20)},
-            modos};
+    return otra(nombre, nombre, "CODCLIENTE", {N("CODNUMERO", 12), N("CODCLIENTE", 8), C("TEXTO", 20)},
+                modos);
 }
 TablaRevisionPrueba factura(const char* nombre) {
-    return {QLatin1String(nombre),
-            QLatin1String(nombre),
-            QStringLiteral("CODCLIENTE"),
-            {N("CODFACTURA", 12), N("CODCLIENTE", 8)},
-            M3};
+    return otra(nombre, nombre, "CODCLIENTE", {N("CODFACTURA", 12), N("CODCLIENTE", 8)}, M3);
 }
 
 // The field's text for record i, right- or left-justified to its width.
@@ -90,42 +87,20 @@ void escribe(const QString& ruta, const QList<TCampoDbf>& campos, qint64 n,
 const QList<TablaRevisionPrueba>& TablasRevisionPrueba() {
     static const QList<TablaRevisionPrueba> t = {
         protocolo("ACTIVOS", M0 | M1),
-        {QStringLiteral("APODERADOS"),
-         QStringLiteral("APODERAD"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODPODER", 8), N("CODCLIENTE", 8)},
-         M0},
-        {QStringLiteral("APUNTES"),
-         QStringLiteral("APUNTES"),
-         QStringLiteral("CODCLIENTE"),
-         {N("ASIENTO", 8), D("FECHA"), C("SERIE", 1), N("FACTURA", 10), N("CODCLIENTE", 8)},
-         M0},
-        {QStringLiteral("BANCOS"),
-         QStringLiteral("BANCOS"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODBANCO", 4), C("NOMBRE", 40), N("CODCLIENTE", 8)},
-         M0},
+        otra("APODERADOS", "APODERAD", "CODCLIENTE", {N("CODPODER", 8), N("CODCLIENTE", 8)}, M0),
+        otra("APUNTES", "APUNTES", "CODCLIENTE",
+             {N("ASIENTO", 8), D("FECHA"), C("SERIE", 1), N("FACTURA", 10), N("CODCLIENTE", 8)}, M0),
+        otra("BANCOS", "BANCOS", "CODCLIENTE", {N("CODBANCO", 4), C("NOMBRE", 40), N("CODCLIENTE", 8)}, M0),
         protocolo("CLAVES", M1 | M2 | M3),
         protocolo("CLAVES_C", M1 | M2 | M3),
-        {QStringLiteral("CLAVES_E"),
-         QStringLiteral("CLAVES_E"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODENTRADA", 12), N("CODCLIENTE", 8)},
-         M0},
+        otra("CLAVES_E", "CLAVES_E", "CODCLIENTE", {N("CODENTRADA", 12), N("CODCLIENTE", 8)}, M0),
         protocolo("CLAVES_I", M1 | M2 | M3),
         protocolo("CLAVES_L", M3),
         protocolo("CLAVES_P", M3),
         protocolo("CLAVES_S", M1 | M2 | M3),
-        {QStringLiteral("CLIENTES"),
-         QStringLiteral("CLIENTES"),
-         QStringLiteral("CONYUGE"),
-         {N("CODIGO", 8), C("APELLIDOS", 40), C("NOMBRE", 30), N("CONYUGE", 8)},
-         M0},
-        {QStringLiteral("DEPOSITO"),
-         QStringLiteral("DEPOSITO"),
-         QStringLiteral("CLIENTE"),
-         {N("ASIENTO", 6), D("FECHA"), N("CLIENTE", 8)},
-         M0},
+        otra("CLIENTES", "CLIENTES", "CONYUGE",
+             {N("CODIGO", 8), C("APELLIDOS", 40), C("NOMBRE", 30), N("CONYUGE", 8)}, M0),
+        otra("DEPOSITO", "DEPOSITO", "CLIENTE", {N("ASIENTO", 6), D("FECHA"), N("CLIENTE", 8)}, M0),
         protocolo("DEUDAS", M1 | M3),
         protocolo("ENTRADAS", M0),
         protocolo("FACTURAA", M1 | M3),
@@ -137,24 +112,12 @@ const QList<TablaRevisionPrueba>& TablasRevisionPrueba() {
         factura("FACTURAF"),
         protocolo("FACTURAG", M3),
         protocolo("PLUSVAL", M1 | M2 | M3),
-        {QStringLiteral("PODERES"),
-         QStringLiteral("PODERES"),
-         QStringLiteral("PODERDANTE"),
-         {N("CODPODER", 8), N("PODERDANTE", 8)},
-         M0},
+        otra("PODERES", "PODERES", "PODERDANTE", {N("CODPODER", 8), N("PODERDANTE", 8)}, M0),
         protocolo("POLIZAS", M3),
         protocolo("TESTIGOS", M1 | M2 | M3),
-        {QStringLiteral("TIT_CLI"),
-         QStringLiteral("TIT_CLI"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODCLIENTE", 8), N("SOCIEDAD", 8)},
-         0},
+        otra("TIT_CLI", "TIT_CLI", "CODCLIENTE", {N("CODCLIENTE", 8), N("SOCIEDAD", 8)}, 0),
         protocolo("TIT_REL", M1 | M3),
-        {QStringLiteral("VALORES"),
-         QStringLiteral("VALORES"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODNUMERO", 8), N("CODCLIENTE", 8)},
-         M3},
+        otra("VALORES", "VALORES", "CODCLIENTE", {N("CODNUMERO", 8), N("CODCLIENTE", 8)}, M3),
     };
     return t;
 }
