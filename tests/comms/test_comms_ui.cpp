@@ -162,10 +162,8 @@ TEST_F(EditorMailTest, AMessageNotSentKeepsTheEditorOpenAsItWas) {
     e.show();
     QTest::mouseClick(e.BBEnviar, Qt::LeftButton); // no server configured
     ASSERT_EQ(guion.mostrados().size(), 1);
-    EXPECT_EQ(guion.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
-    EXPECT_EQ(guion.mostrados()[0].title, QStringLiteral("Correo no enviado"));
-    EXPECT_TRUE(
-        guion.mostrados()[0].text.startsWith(QStringLiteral("No se ha configurado el servidor de correo")));
+    EXPECT_TRUE(prueba::Dialogos(guion)[0].startsWith(
+        QStringLiteral("Mensaje_Error|Correo no enviado|No se ha configurado el servidor de correo")));
     EXPECT_TRUE(e.isVisible());
     EXPECT_EQ(e.EAsunto->text(), QStringLiteral("Copia simple"));
     EXPECT_TRUE(e.BBEnviar->isEnabled());

@@ -49,15 +49,6 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     EXPECT_EQ(m[u"subject"].toString(), QStringLiteral("Factura 7/2024"));
     EXPECT_EQ(m[u"attachments"].toArray().at(0)[u"filename"].toString(), QStringLiteral("factura.pdf"));
 
-    const json sinAsunto = pide({{"fn", "EnviarEmail"},
-                                 {"args", {"ana@example.es", "", "Adjunta.", nullptr, "", "", false}},
-                                 {"config", correo(servidor)},
-                                 {"answers", {7}}});
-    EXPECT_EQ(sinAsunto["result"], false) << sinAsunto.dump();
-    ASSERT_EQ(sinAsunto["dialogs"].size(), 1u);
-    EXPECT_EQ(sinAsunto["dialogs"][0]["title"], "Atención, faltan datos");
-    EXPECT_EQ(servidor.mensajes().size(), 1);
-
     json config = correo(servidor);
     config["PuertoCorreo"] = prueba::ServidorHttp::puertoCerrado();
     const json fallo = pide({{"fn", "EnviarEmail"},

@@ -79,6 +79,13 @@ protected:
                 if (!menos.contains(f)) EscribeFichero(QDir(programa.path()).filePath(f), "x");
     }
     QString base(const QString& relativa) const { return oficina.ruta(relativa); }
+    // Clears the dialogs, queues the clerk's answers and runs `f`; gives the dialogs it showed.
+    template <class F> QStringList tras(std::deque<int> respuestas, F f) {
+        guion.limpia();
+        guion.respuestas(std::move(respuestas));
+        f();
+        return Dialogos(guion);
+    }
 
     prueba::OficinaPrueba oficina;
     QTemporaryDir programa;
@@ -87,35 +94,27 @@ protected:
     ServicioMensajesInstalado instalado{guion};
 };
 
-TEST_F(PasarelaTest, EverythingPresentIsTrueWithoutAWord) {
-    instalaTodo();
-    EXPECT_TRUE(CompruebaFicherosPasarela());
-    EXPECT_TRUE(guion.mostrados().isEmpty());
-    EXPECT_TRUE(servidor.peticiones().isEmpty());
-}
-
-// Any library or configuration entry missing gives false silently, even with the single-sending files
-// missing too: nothing is offered for download.
-TEST_F(PasarelaTest, AMissingLibraryOrConfigurationEntryFailsSilently) {
-    QStringList entradas = kLibrerias + kConfiguracion;
-    entradas << QStringLiteral("conf") << QStringLiteral("xsd_forms");
-    for (const QString& falta : entradas) {
+// Everything present is true. Any library or configuration entry missing, or a folder where a file should
+// be, gives false, even with the single-sending files missing too. Either way silently: nothing is offered
+// for download.
+TEST_F(PasarelaTest, LibrariesAndConfigurationAreCheckedSilently) {
+    QStringList faltas = kLibrerias + kConfiguracion;
+    faltas << QStringLiteral("conf") << QStringLiteral("xsd_forms") << QString();
+    for (const QString& falta : faltas) {
         QTemporaryDir otro;
         FijaCarpetaPrograma(otro.path());
-        for (const QStringList* grupo : {&kLibrerias, &kConfiguracion})
+        for (const QStringList* grupo : {&kLibrerias, &kConfiguracion, &kEnviosUnicos})
             for (const QString& f : *grupo)
-                if (f != falta && !f.startsWith(falta + u'/'))
+                if (falta.isEmpty() || (grupo != &kEnviosUnicos && f != falta && !f.startsWith(falta + u'/')))
                     EscribeFichero(QDir(otro.path()).filePath(f), "x");
-        EXPECT_FALSE(CompruebaFicherosPasarela()) << falta.toStdString();
+        EXPECT_EQ(CompruebaFicherosPasarela(), falta.isEmpty()) << falta.toStdString();
     }
-    EXPECT_TRUE(guion.mostrados().isEmpty());
-    EXPECT_TRUE(servidor.peticiones().isEmpty());
-}
-
-TEST_F(PasarelaTest, AFolderWhereAFileShouldBeDoesNotCount) {
     instalaTodo({QStringLiteral("Base64.dll")});
     QDir(programa.path()).mkdir(QStringLiteral("Base64.dll"));
-    EXPECT_FALSE(CompruebaFicherosPasarela());
+    FijaCarpetaPrograma(programa.path());
+    EXPECT_FALSE(CompruebaFicherosPasarela()) << "a folder in place of a file";
+    EXPECT_TRUE(guion.mostrados().isEmpty());
+    EXPECT_TRUE(servidor.peticiones().isEmpty());
 }
 
 TEST_F(PasarelaTest, MissingSingleSendingFilesAreDownloadedIntoTheBaseFolder) {
@@ -224,17 +223,14 @@ TEST_F(PasarelaTest, SetUpProgramIsFetchedAfreshEveryTime) {
               QStringLiteral("MuestraMensaje||Descargando fichero del Portal de Zeb Soft..."));
     EXPECT_FALSE(Dialogos(guion).contains(error));
 
-    guion.limpia();
-    guion.respuestas({7});
-    EXPECT_FALSE(DescargaFicherosPasarela());
-    EXPECT_EQ(Dialogos(guion), QStringList({pregunta, error}));
+    bool bien = true;
+    EXPECT_EQ(tras({7}, [&] { bien = DescargaFicherosPasarela(); }), QStringList({pregunta, error}));
+    EXPECT_FALSE(bien);
     EXPECT_FALSE(QFileInfo::exists(setup)) << "the old program was deleted before asking";
 
-    guion.limpia();
-    guion.respuestas({6});
     servidor.respondeEn(kRuta + "PasarelaSetup.exe", fichero("MZ", "text/html"));
-    EXPECT_FALSE(DescargaFicherosPasarela());
-    EXPECT_EQ(Dialogos(guion).last(), error);
+    EXPECT_EQ(tras({6}, [&] { bien = DescargaFicherosPasarela(); }).last(), error);
+    EXPECT_FALSE(bien);
     EXPECT_FALSE(QFileInfo::exists(setup));
 }
 
@@ -259,29 +255,18 @@ TEST_F(PasarelaTest, InstalaPasarelaStartsTheSetUpOnlyWhenPresentAndWanted) {
         QStringLiteral("Mensaje_SiNo|Pasarela Web no instalada|No tiene instalada la Pasarela "
                        "Web\n¿Desea instalar la Pasarela Web?");
 
-    InstalaPasarela();
-    EXPECT_EQ(Dialogos(guion),
+    EXPECT_EQ(tras({}, InstalaPasarela),
               QStringList{QStringLiteral("Mensaje_Error|Fichero de instalación no encontrado|No se ha "
                                          "encontrado el fichero de instalación de la Pasarela Web")});
     EscribeFichero(setup, "MZ");
-    guion.limpia();
-    guion.respuestas({7});
-    InstalaPasarela();
-    EXPECT_EQ(Dialogos(guion), QStringList{pregunta});
+    EXPECT_EQ(tras({7}, InstalaPasarela), QStringList{pregunta});
     EXPECT_TRUE(lanzados.isEmpty());
-
-    guion.limpia();
-    guion.respuestas({6});
-    InstalaPasarela();
-    EXPECT_EQ(Dialogos(guion), QStringList{pregunta});
+    EXPECT_EQ(tras({6}, InstalaPasarela), QStringList{pregunta});
     EXPECT_EQ(lanzados, QStringList{setup});
-
     arranca = false;
-    guion.limpia();
-    guion.respuestas({6});
-    InstalaPasarela();
-    EXPECT_TRUE(
-        Dialogos(guion).last().startsWith(QStringLiteral("Mensaje_Error|Pasarela Web no instalada|")));
+    EXPECT_TRUE(tras({6}, InstalaPasarela)
+                    .last()
+                    .startsWith(QStringLiteral("Mensaje_Error|Pasarela Web no instalada|")));
     FijaLanzadorPrograma(nullptr);
 }
 
