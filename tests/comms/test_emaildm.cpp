@@ -35,6 +35,17 @@ protected:
             clientes->Post();
         }
     }
+    // A table at `ruta` of the office whose first field `campo` holds `codigos`, one record each.
+    std::unique_ptr<TTabla> tabla(const QString& ruta, const QList<TCampoDbf>& campos, QList<int> codigos) {
+        CreaFicheroDbf(oficina.ruta(ruta), campos);
+        auto t = TTabla::AbreRuta(oficina.ruta(ruta));
+        for (int cod : codigos) {
+            t->Append();
+            t->SetInteger(campos[0].nombre, cod);
+            t->Post();
+        }
+        return t;
+    }
     prueba::OficinaPrueba oficina{QStringLiteral("[ALIAS]\nDB=DATOS\n")};
 };
 
@@ -57,21 +68,13 @@ TEST_F(EmailDmTest, ClientNameIsSurnamesCommaName) {
 }
 
 TEST_F(EmailDmTest, CalculatedFieldFollowsTheCurrentParty) {
-    const QString ruta = oficina.ruta(QStringLiteral("INTERESA.DBF"));
-    CreaFicheroDbf(ruta,
-                   {{QStringLiteral("CODCLIENTE"), 'N', 8, 0}, {QStringLiteral("CALIDAD"), 'C', 20, 0}});
-    {
-        auto t = TTabla::AbreRuta(ruta);
-        for (int cod : {7, 0, 12, 99}) {
-            t->Append();
-            t->SetInteger(QStringLiteral("CODCLIENTE"), cod);
-            t->Post();
-        }
-    }
     TDMEmail dm;
     dm.tbInteresadosCalcFields();
     EXPECT_EQ(dm.CLIENTE(), QString()) << "no table yet";
-    dm.AsignaInteresados(TTabla::AbreRuta(ruta));
+    dm.AsignaInteresados(
+        tabla(QStringLiteral("INTERESA.DBF"),
+              {{QStringLiteral("CODCLIENTE"), 'N', 8, 0}, {QStringLiteral("CALIDAD"), 'C', 20, 0}},
+              {7, 0, 12, 99}));
     QStringList clientes;
     for (dm.tbInteresados()->First(); !dm.tbInteresados()->Eof(); dm.tbInteresados()->Next()) {
         dm.tbInteresadosCalcFields();
@@ -87,14 +90,8 @@ TEST_F(EmailDmTest, UnreadableTablesGiveAnEmptyName) {
     OlvidaTablasCargadas();
     EXPECT_EQ(ClienteInteresado(7), QString());
 
-    const QString ruta = oficina.ruta(QStringLiteral("OTRA.DBF"));
-    CreaFicheroDbf(ruta, {{QStringLiteral("CODIGO"), 'N', 8, 0}});
-    auto t = TTabla::AbreRuta(ruta);
-    t->Append();
-    t->SetInteger(QStringLiteral("CODIGO"), 7);
-    t->Post();
     TDMEmail dm;
-    dm.AsignaInteresados(std::move(t));
+    dm.AsignaInteresados(tabla(QStringLiteral("OTRA.DBF"), {{QStringLiteral("CODIGO"), 'N', 8, 0}}, {7}));
     dm.tbInteresadosCalcFields();
     EXPECT_EQ(dm.CLIENTE(), QString()) << "a table without CODCLIENTE";
 }

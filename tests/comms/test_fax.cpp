@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -128,7 +129,7 @@ TEST_F(FaxTest, AccountAndInitialisationFileFollowTheirRules) {
         ASSERT_EQ(servidor.peticiones().size(), antes + 1) << c.nombre;
         const prueba::PeticionHttp& p = servidor.peticiones().last();
         EXPECT_EQ(p.cabeceras.value("authorization"), "Basic " + QByteArray(c.cuenta).toBase64()) << c.nombre;
-        EXPECT_EQ(p.ruta, "/outbound/faxes?" + c.consulta) << c.nombre;
+        EXPECT_EQ(p.ruta, "/outbound/faxes?" + QByteArray(c.consulta)) << c.nombre;
     }
 }
 
@@ -136,40 +137,28 @@ TEST_F(FaxTest, WrongInputSendsNothing) {
     const QString doc = documento(QStringLiteral("a.pdf"), "%PDF");
     struct Caso {
         const char* nombre;
-        QStringList docs, numeros;
+        const char *docs, *numeros; // entries separated by '|'; "D" in docs: a document that exists
         std::function<void()> prepara;
         const char* mensaje;
     };
     const Caso casos[] = {
-        {"a number with letters",
-         {doc},
-         {QStringLiteral("915551212"), QStringLiteral("91-ABC")},
-         {},
-         "«91-ABC» no es un número de fax válido"},
-        {"a number too short", {doc}, {QStringLiteral("12")}, {}, "«12» no es un número de fax válido"},
-        {"a plus inside", {doc}, {QStringLiteral("91+5551212")}, {}, "no es un número de fax válido"},
-        {"missing document",
-         {doc, QStringLiteral("/no/existe.pdf")},
-         {QStringLiteral("915551212")},
-         {},
-         "«/no/existe.pdf»"},
-        {"no documents", {}, {QStringLiteral("915551212")}, {}, "ningún documento"},
-        {"no recipients", {doc}, {}, {}, "ningún número"},
-        {"no account",
-         {doc},
-         {QStringLiteral("915551212")},
-         [] { Config.SetsUsuarioFAX({}); },
+        {"a number with letters", "D", "915551212|91-ABC", {}, "«91-ABC» no es un número de fax válido"},
+        {"a number too short", "D", "12", {}, "«12» no es un número de fax válido"},
+        {"a plus inside", "D", "91+5551212", {}, "no es un número de fax válido"},
+        {"missing document", "D|/no/existe.pdf", "915551212", {}, "«/no/existe.pdf»"},
+        {"no documents", "", "915551212", {}, "ningún documento"},
+        {"no recipients", "D", "", {}, "ningún número"},
+        {"no account", "D", "915551212", [] { Config.SetsUsuarioFAX({}); },
          "No se ha configurado la cuenta del servicio de fax"},
-        {"no service address",
-         {doc},
-         {QStringLiteral("915551212")},
-         [] { Config.SetServidorFAX(QStringLiteral("rest")); },
+        {"no service address", "D", "915551212", [] { Config.SetServidorFAX(QStringLiteral("rest")); },
          "«rest» no es válida"},
     };
     for (const Caso& c : casos) {
         SetUp();
         if (c.prepara) c.prepara();
-        const QString error = fax(c.docs, c.numeros);
+        QStringList docs = QString::fromUtf8(c.docs).split(u'|', Qt::SkipEmptyParts);
+        docs.replaceInStrings(QRegularExpression(QStringLiteral("^D$")), doc);
+        const QString error = fax(docs, QString::fromUtf8(c.numeros).split(u'|', Qt::SkipEmptyParts));
         EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << c.nombre << ": " << error.toStdString();
     }
     EXPECT_TRUE(servidor.peticiones().isEmpty());
