@@ -98,14 +98,15 @@ TEST(PreguntaDatosMovilCorreo, AceptarHandsBackBothAndCancelNothing) {
     EXPECT_EQ(movil, QStringLiteral("600111222"));
     EXPECT_EQ(correo, QStringLiteral("ana@example.es"));
 
-    for (const auto& cierra :
-         {std::function<void(QWidget*)>([](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); }),
-          std::function<void(QWidget*)>([](QWidget* w) {
-              auto* f = static_cast<TFPreguntaDatosMovilCorreo*>(w);
-              f->MEMovil->setText(QStringLiteral("699"));
-              QTest::mouseClick(f->BBCancelar, Qt::LeftButton);
-          })}) {
-        prueba::AlAbrirseModal(cierra);
+    for (const bool escape : {true, false}) {
+        prueba::AlAbrirseModal([escape](QWidget* w) {
+            auto* f = static_cast<TFPreguntaDatosMovilCorreo*>(w);
+            f->MEMovil->setText(QStringLiteral("699"));
+            if (escape)
+                QTest::keyClick(w, Qt::Key_Escape);
+            else
+                QTest::mouseClick(f->BBCancelar, Qt::LeftButton);
+        });
         EXPECT_FALSE(PreguntaDatosMovilCorreo(nullptr, QStringLiteral("Cliente"), movil, correo));
         EXPECT_EQ(movil, QStringLiteral("600111222"));
         EXPECT_EQ(correo, QStringLiteral("ana@example.es"));
