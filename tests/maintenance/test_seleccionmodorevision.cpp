@@ -1,14 +1,12 @@
 // The revision's form over the sample office: list and radio behaviour, captions and hints, a run of all
 // tables and of one table ending in the preview of the list, and the ways out.
 #include "companion/mensajes.h"
-#include "maintenance/listarevisioncodclienteqr.h"
 #include "maintenance/seleccionmodorevisioncodcliente.h"
 #include "tests/maintenance/ayudas.h"
 #include "tests/support/modal.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QComboBox>
-#include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -94,8 +92,6 @@ TEST_F(Seleccion, AcceptingOneTableRevisesThatTableOnly) {
     ASSERT_EQ(f.Revision().Mensajes().size(), 4);
     for (const auto& m : f.Revision().Mensajes())
         EXPECT_TRUE(m.TABLA.startsWith(QStringLiteral("En la Tabla CLAVES"))) << m.TABLA.toStdString();
-    EXPECT_EQ(TQRListaRevisionCodCliente::SubtituloDeTabla(f.CBTablas->currentText()),
-              QStringLiteral("(En la tabla CLAVES)"));
 }
 
 TEST_F(Seleccion, SalirAndEscapeGiveTwoAndRunNothing) {
