@@ -35,6 +35,10 @@ RespuestaHttp rechazado(int estado, const QByteArray& json) {
     return r;
 }
 
+template <class... R> QList<RespuestaHttp> cola(const R&... r) {
+    return {r...};
+}
+
 class FaxTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -172,56 +176,43 @@ TEST_F(FaxTest, FailuresSayWhatWasSentAndWhatWasNot) {
                               QStringLiteral("933333333")};
     struct Caso {
         const char* nombre;
-        std::function<void(prueba::ServidorHttp&)> prepara;
-        const char* mensaje;
+        char luego; // after the queued answers: 'a' accepted, 'c' closed, 's' silence, 'x' no server
         qsizetype peticiones;
+        const char* mensaje;
+        QList<RespuestaHttp> respuestas = {};
     };
     const Caso casos[] = {
-        {"account refused",
-         [](prueba::ServidorHttp& s) {
-             s.encola(rechazado(401, R"({"code":-1003,"message":"Authentication error"})"));
-         },
+        {"account refused", 'a', 1,
          "No se ha podido enviar el fax al 911111111 (HTTP 401: Authentication error). No se ha enviado a: "
          "922222222, 933333333.",
-         1},
-        {"second number refused",
-         [](prueba::ServidorHttp& s) {
-             s.encola(aceptado("7"));
-             s.encola(rechazado(400, R"({"code":-112,"message":"Invalid fax number"})"));
-         },
+         cola(rechazado(401, R"({"code":-1003,"message":"Authentication error"})"))},
+        {"second number refused", 'a', 2,
          "No se ha podido enviar el fax al 922222222 (HTTP 400: Invalid fax number). Sí se ha enviado a: "
          "911111111. No se ha enviado a: 933333333.",
-         2},
-        {"last one answers an error page",
-         [](prueba::ServidorHttp& s) {
-             s.encola(aceptado("7"));
-             s.encola(aceptado("8"));
-             s.encola(rechazado(503, "<html><body>Service Unavailable</body></html>"));
-         },
+         cola(aceptado("7"), rechazado(400, R"({"code":-112,"message":"Invalid fax number"})"))},
+        {"last one answers an error page", 'a', 3,
          "al 933333333 (HTTP 503: <html><body>Service Unavailable</body></html>). Sí se ha enviado a: "
          "911111111, 922222222.",
-         3},
+         cola(aceptado("7"), aceptado("8"), rechazado(503, "<html><body>Service Unavailable</body></html>"))},
         // Qt's HTTP client sends a request once more when the connection closes without an answer.
-        {"dropped connection", [](prueba::ServidorHttp& s) { s.cierra(); },
-         "No se ha podido enviar el fax al 911111111 (el servidor ha cerrado la conexión sin responder). No "
-         "se ha "
-         "enviado a: 922222222, 933333333.",
-         2},
-        {"silence", [](prueba::ServidorHttp& s) { s.calla(); },
-         "No se ha podido enviar el fax al 911111111 (sin respuesta en 1 s)", 1},
-        {"nobody listening",
-         [](prueba::ServidorHttp&) {
-             Config.SetServidorFAX(
-                 QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado()));
-         },
-         "No se ha podido enviar el fax al 911111111 (conexión rechazada)", 0},
+        {"dropped connection", 'c', 2,
+         "No se ha podido enviar el fax al 911111111 (el servidor ha cerrado la conexión sin responder). "
+         "No se ha enviado a: 922222222, 933333333."},
+        {"silence", 's', 1, "No se ha podido enviar el fax al 911111111 (sin respuesta en 1 s)"},
+        {"nobody listening", 'x', 0, "No se ha podido enviar el fax al 911111111 (conexión rechazada)"},
     };
     prueba::RegistroCapturado registro;
     for (const Caso& c : casos) {
         prueba::ServidorHttp propio;
         Config.SetServidorFAX(propio.base());
         propio.respondeCon(aceptado("1"));
-        c.prepara(propio);
+        for (const RespuestaHttp& r : c.respuestas)
+            propio.encola(r);
+        if (c.luego == 'c') propio.cierra();
+        if (c.luego == 's') propio.calla();
+        if (c.luego == 'x')
+            Config.SetServidorFAX(
+                QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado()));
         const QString error = fax({doc}, tres);
         EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << c.nombre << ": " << error.toStdString();
         EXPECT_FALSE(error.contains(QStringLiteral("clave_cfg"))) << c.nombre;
