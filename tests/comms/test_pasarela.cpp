@@ -205,8 +205,7 @@ TEST_F(PasarelaTest, SetUpProgramIsFetchedAfreshEveryTime) {
     const QString setup = base(QStringLiteral("PasarelaSetup.exe"));
     const QString pregunta = QStringLiteral(
         "Mensaje_SiNo|Ficheros de la Pasarela Web no encontrados|No se han encontrado los ficheros de la "
-        "Pasarela "
-        "Web\n¿Desea descargar ahora el fichero de Instalación? Asegúrese de que está conectado");
+        "Pasarela Web\n¿Desea descargar ahora el fichero de Instalación? Asegúrese de que está conectado");
     const QString error = QStringLiteral("Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
                                          "descargar el fichero de instalación de la Pasarela Web");
     servidor.respondeEn(kRuta + "PasarelaSetup.exe", fichero("MZ nuevo"));
@@ -357,18 +356,6 @@ protected:
     bool sistema = true;
 };
 
-TEST_F(ConexionTest, AsksTheSiteFromTheNetworkWithTheSuitesAgent) {
-    servidor.respondeCon(fichero(QByteArray(200000, 'x'), "text/html"));
-    EXPECT_TRUE(TieneConexionAInternet());
-    ASSERT_EQ(servidor.peticiones().size(), 1);
-    const prueba::PeticionHttp& p = servidor.peticiones()[0];
-    EXPECT_EQ(p.metodo, "GET");
-    EXPECT_EQ(p.ruta, "/");
-    EXPECT_EQ(p.cabeceras.value("user-agent"), "InetURL:/1.0");
-    EXPECT_EQ(p.cabeceras.value("cache-control"), "no-cache");
-    EXPECT_EQ(p.cabeceras.value("pragma"), "no-cache");
-}
-
 TEST_F(ConexionTest, ReachingTheSiteIsWhatCounts) {
     struct Caso {
         const char* nombre;
@@ -377,6 +364,8 @@ TEST_F(ConexionTest, ReachingTheSiteIsWhatCounts) {
         int peticiones;
     };
     const Caso casos[] = {
+        {"a large page", [this] { servidor.respondeCon(fichero(QByteArray(200000, 'x'), "text/html")); },
+         true, 1},
         {"any answer, even an error page", [this] { servidor.respondeCon("no", 404); }, true, 1},
         {"system reports no network", [this] { sistema = false; }, false, 0},
         {"nobody listening",
@@ -399,9 +388,18 @@ TEST_F(ConexionTest, ReachingTheSiteIsWhatCounts) {
             EXPECT_EQ(servidor.peticiones().size() - antes, c.peticiones) << c.nombre;
         }
     }
+    // The site is asked from the network, never from a cache, with the suite's agent.
+    ASSERT_FALSE(servidor.peticiones().isEmpty());
+    const prueba::PeticionHttp& p = servidor.peticiones()[0];
+    EXPECT_EQ(p.metodo, "GET");
+    EXPECT_EQ(p.ruta, "/");
+    EXPECT_EQ(p.cabeceras.value("user-agent"), "InetURL:/1.0");
+    EXPECT_EQ(p.cabeceras.value("cache-control"), "no-cache");
+    EXPECT_EQ(p.cabeceras.value("pragma"), "no-cache");
 }
 
-TEST(DescargarFichero, ReportsProgressAndKeepsTheOldFileOnFailure) {
+// A web page is refused where a file is wanted, welcome where a page is.
+TEST(DescargarFichero, ReportsProgressKeepsTheOldFileOnFailureAndTakesPagesOnlyAsPages) {
     prueba::OficinaPrueba oficina;
     Config.SetEsperaDescargaMs(1000);
     prueba::ServidorHttp servidor;
@@ -430,12 +428,7 @@ TEST(DescargarFichero, ReportsProgressAndKeepsTheOldFileOnFailure) {
     EXPECT_FALSE(DescargarFichero(QStringLiteral("ftp://127.0.0.1/datos.bin"), destino));
     EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"),
                                   QDir(carpeta.path()).filePath(QStringLiteral("no/existe/datos.bin"))));
-}
 
-TEST(DescargarFichero, AWebPageIsWelcomeWhenAPageIsWanted) {
-    prueba::OficinaPrueba oficina;
-    prueba::ServidorHttp servidor;
-    QTemporaryDir carpeta;
     servidor.respondeCon(fichero("<html>hola</html>", "text/html"));
     EXPECT_TRUE(DescargarFichero(servidor.base() + QStringLiteral("/ayuda.html"),
                                  QDir(carpeta.path()).filePath(QStringLiteral("ayuda.html"))));
