@@ -1,5 +1,5 @@
 // The mobile-and-mail prompt and the e-mail editor, driven with real keys; the editor sends to a real SMTP
-// server on 127.0.0.1.
+// server on 127.0.0.1. MuestraEmail filling in the editor is checked in test_formularios_comms.
 #include "comms/editormail.h"
 #include "comms/preguntadatosmovilcorreo.h"
 #include "companion/mensajes.h"
@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
@@ -191,17 +190,6 @@ TEST_F(EditorMailTest, EscapeWhileSendingAbandonsItQuietly) {
     EXPECT_TRUE(e.BBEnviar->isEnabled());
     for (const DialogoMostrado& d : guion.mostrados())
         EXPECT_NE(d.kind, QStringLiteral("Mensaje_Error")) << d.text.toStdString();
-}
-
-TEST_F(EditorMailTest, MuestraEmailOpensTheEditorForTheAddress) {
-    QString para;
-    prueba::AlAbrirseModal([&para](QWidget* w) {
-        para = static_cast<TFEditorMail*>(w)->EPara->text();
-        QTest::keyClick(w, Qt::Key_Escape);
-    });
-    MuestraEmail(QStringLiteral("cliente7@correo-ejemplo.es"));
-    EXPECT_EQ(para, QStringLiteral("cliente7@correo-ejemplo.es"));
-    EXPECT_EQ(prueba::VentanasVisibles(), 0);
 }
 
 TEST_F(EditorMailTest, EnviarMailOpensTheSupportLinkOrSaysWhyNot) {
