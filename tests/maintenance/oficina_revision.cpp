@@ -11,15 +11,10 @@ namespace {
 
 constexpr unsigned M0 = 1, M1 = 2, M2 = 4, M3 = 8;
 
-TCampoDbf N(const char* nombre, int longitud) {
-    return {QLatin1String(nombre), 'N', longitud, 0};
-}
-TCampoDbf C(const char* nombre, int longitud) {
-    return {QLatin1String(nombre), 'C', longitud, 0};
-}
-TCampoDbf D(const char* nombre) {
-    return {QLatin1String(nombre), 'D', 8, 0};
-}
+// Numeric, text and date fields.
+const auto N = [](const char* n, int l) { return TCampoDbf{QLatin1String(n), 'N', l, 0}; };
+const auto C = [](const char* n, int l) { return TCampoDbf{QLatin1String(n), 'C', l, 0}; };
+const auto D = [](const char* n) { return TCampoDbf{QLatin1String(n), 'D', 8, 0}; };
 
 TablaRevisionPrueba otra(const char* nombre, const char* fichero, const char* campoCliente,
                          const QList<TCampoDbf>& campos, unsigned modos) {
