@@ -103,16 +103,6 @@ protected:
         });
     }
 
-    void fila(const char* equipo, TDateTime fecha, const char* hora) {
-        auto tb = CreaTablaSinExcepcion(QStringLiteral("DB"), QStringLiteral("CONEXION"), {}, true);
-        ASSERT_NE(tb, nullptr);
-        tb->Append();
-        tb->SetString(QStringLiteral("EQUIPO"), QLatin1String(equipo));
-        tb->SetDateTime(QStringLiteral("FECHA"), fecha);
-        tb->SetString(QStringLiteral("HORA"), QLatin1String(hora));
-        tb->Post();
-    }
-
     QStringList equipos() {
         QStringList l;
         auto tb = CreaTabla(QStringLiteral("DB"), QStringLiteral("CONEXION"), QStringLiteral("EQUIPO"));
@@ -144,9 +134,9 @@ TEST_F(CierraNodrims, ReturnsAtOnceWhenThereIsNobodyToWaitFor) {
     programa("127.0.0.1");
     EXPECT_TRUE(NodrimsCerrados(nullptr, 1));
     EXPECT_TRUE(QFileInfo::exists(oficina.ruta(QStringLiteral("DATOS/CONEXION.DBF"))));
-    fila("127.0.0.1", kHoy, "10:02:00");
+    prueba::FilaConexion("127.0.0.1", kHoy, "10:02:00");
     EXPECT_TRUE(NodrimsCerrados(nullptr, 2));
-    fila("127.0.0.2", kHoy, "10:02:00");
+    prueba::FilaConexion("127.0.0.2", kHoy, "10:02:00");
     EXPECT_TRUE(NodrimsCerrados(nullptr, 0));
     EXPECT_EQ(textos(), (QStringList{QString(), QString(), QString()})); // each window opened empty, closed
     EXPECT_FALSE(mensajes.esperaVisible());
@@ -157,10 +147,10 @@ TEST_F(CierraNodrims, ReturnsAtOnceWhenThereIsNobodyToWaitFor) {
 // One pass over a leaving program, a closed port, a row of yesterday and a row exactly three minutes old.
 TEST_F(CierraNodrims, Mode1TellsTheLivingAndDropsTheStaleAndTheSilent) {
     programaQueSeVa("127.0.0.1");
-    fila("127.0.0.4", kHoy, "10:00:00"); // 10:00:00 + 3 minutes is not later than 10:03:00
-    fila("127.0.0.3", kAyer, "10:02:59");
-    fila("127.0.0.2", kHoy, "10:02:30"); // nobody listens on 127.0.0.2
-    fila("127.0.0.1", kHoy, "10:02:30");
+    prueba::FilaConexion("127.0.0.4", kHoy, "10:00:00"); // 10:00:00 + 3 minutes is not later than 10:03:00
+    prueba::FilaConexion("127.0.0.3", kAyer, "10:02:59");
+    prueba::FilaConexion("127.0.0.2", kHoy, "10:02:30"); // nobody listens on 127.0.0.2
+    prueba::FilaConexion("127.0.0.1", kHoy, "10:02:30");
 
     EXPECT_TRUE(NodrimsCerrados(nullptr, 1));
 
@@ -184,7 +174,7 @@ TEST_F(CierraNodrims, Mode1TellsTheLivingAndDropsTheStaleAndTheSilent) {
 
 TEST_F(CierraNodrims, ARowJustUnderThreeMinutesOldIsContacted) {
     programaQueSeVa("127.0.0.1");
-    fila("127.0.0.1", kHoy, "10:00:01");
+    prueba::FilaConexion("127.0.0.1", kHoy, "10:00:01");
     EXPECT_TRUE(NodrimsCerrados(nullptr, 1));
     EXPECT_EQ(avisados, QStringList{QStringLiteral("127.0.0.1")});
     // The walk's own view of the table still shows the row its program has just removed: one countdown.
@@ -197,8 +187,8 @@ TEST_F(CierraNodrims, ARowJustUnderThreeMinutesOldIsContacted) {
 TEST_F(CierraNodrims, Mode2WaitsUntilOnlyThisWorkstationIsLeft) {
     programa("127.0.0.1"); // this workstation's own program stays
     programaQueSeVa("127.0.0.2");
-    fila("127.0.0.1", kHoy, "10:02:00");
-    fila("127.0.0.2", kHoy, "10:02:00");
+    prueba::FilaConexion("127.0.0.1", kHoy, "10:02:00");
+    prueba::FilaConexion("127.0.0.2", kHoy, "10:02:00");
     EXPECT_TRUE(NodrimsCerrados(nullptr, 2));
     EXPECT_EQ(equipos(), QStringList{QStringLiteral("127.0.0.1")});
     EXPECT_EQ(avisados, (QStringList{QStringLiteral("127.0.0.1"), QStringLiteral("127.0.0.2")}));
@@ -208,7 +198,7 @@ TEST_F(CierraNodrims, Mode2WaitsUntilOnlyThisWorkstationIsLeft) {
 // count again, Yes stops waiting, and the answer is still true.
 TEST_F(CierraNodrims, EveryFifthPassAsksAndTheResultStaysTrueAfterAnAbort) {
     programa("127.0.0.1");
-    fila("127.0.0.1", kHoy, "10:02:30");
+    prueba::FilaConexion("127.0.0.1", kHoy, "10:02:30");
     mensajes.respuestas({7, 6});
 
     EXPECT_TRUE(NodrimsCerrados(nullptr, 1));
@@ -231,8 +221,8 @@ TEST_F(CierraNodrims, EveryFifthPassAsksAndTheResultStaysTrueAfterAnAbort) {
 TEST_F(CierraNodrims, Mode2AsksAboutTheOperation) {
     programa("127.0.0.1");
     programa("127.0.0.2");
-    fila("127.0.0.1", kHoy, "10:02:30");
-    fila("127.0.0.2", kHoy, "10:02:30");
+    prueba::FilaConexion("127.0.0.1", kHoy, "10:02:30");
+    prueba::FilaConexion("127.0.0.2", kHoy, "10:02:30");
     Config.SetTiempoEsperaActualiz(0); // no countdown
     mensajes.respuestas({6});
     EXPECT_TRUE(NodrimsCerrados(nullptr, 2));
@@ -247,8 +237,8 @@ TEST_F(CierraNodrims, Mode2AsksAboutTheOperation) {
 TEST_F(CierraNodrims, HangingConnectionsAndUnknownHostsEndAtTheTimeoutAndLoseTheirRow) {
     PuertoColgado colgado;
     Config.SetPuertoActualiz(colgado.puerto);
-    fila("127.0.0.1", kHoy, "10:02:30");
-    fila("equipo-inexistente.invalid", kHoy, "10:02:30");
+    prueba::FilaConexion("127.0.0.1", kHoy, "10:02:30");
+    prueba::FilaConexion("equipo-inexistente.invalid", kHoy, "10:02:30");
     QElapsedTimer reloj;
     reloj.start();
     EXPECT_TRUE(NodrimsCerrados(nullptr, 1));
