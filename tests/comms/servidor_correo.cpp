@@ -6,13 +6,15 @@
 #include <QFile>
 #include <QJsonDocument>
 
+using namespace Qt::StringLiterals;
+
 namespace nod::prueba {
 
 ServidorCorreo::ServidorCorreo(const QStringList& opciones) {
     m_proceso.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_proceso.start(QStringLiteral("/usr/bin/python3"),
+    m_proceso.start(u"/usr/bin/python3"_s,
                     QStringList{QStringLiteral(NOD_SOURCE_DIR "/tests/comms/servidor_smtp.py"),
-                                QStringLiteral("--carpeta"), m_carpeta.path()} +
+                                u"--carpeta"_s, m_carpeta.path()} +
                         opciones);
     if (!m_proceso.waitForStarted(10000)) {
         m_error = m_proceso.errorString();
@@ -21,8 +23,7 @@ ServidorCorreo::ServidorCorreo(const QStringList& opciones) {
     while (!m_proceso.canReadLine() && m_proceso.waitForReadyRead(15000)) {
     }
     m_puerto = quint16(m_proceso.readLine().trimmed().toUInt());
-    if (!m_puerto)
-        m_error = QStringLiteral("the SMTP server did not say its port (is python3-aiosmtpd installed?)");
+    if (!m_puerto) m_error = u"the SMTP server did not say its port (is python3-aiosmtpd installed?)"_s;
 }
 
 ServidorCorreo::~ServidorCorreo() {
@@ -31,17 +32,17 @@ ServidorCorreo::~ServidorCorreo() {
 }
 
 void ServidorCorreo::apunta() const {
-    Config.SetServidorCorreo(QStringLiteral("127.0.0.1"));
+    Config.SetServidorCorreo(u"127.0.0.1"_s);
     Config.SetPuertoCorreo(m_puerto);
-    Config.SetSeguridadCorreo(QStringLiteral("NINGUNA"));
-    Config.SetRemitenteCorreo(QStringLiteral("notaria@example.es"));
+    Config.SetSeguridadCorreo(u"NINGUNA"_s);
+    Config.SetRemitenteCorreo(u"notaria@example.es"_s);
     Config.SetEsperaCorreoMs(1000);
 }
 
 QList<QJsonObject> ServidorCorreo::mensajes() const {
     QList<QJsonObject> r;
     for (int i = 1;; ++i) {
-        QFile f(QDir(m_carpeta.path()).filePath(QStringLiteral("mensaje-%1.json").arg(i)));
+        QFile f(QDir(m_carpeta.path()).filePath(u"mensaje-%1.json"_s.arg(i)));
         if (!f.open(QIODevice::ReadOnly)) break;
         r.append(QJsonDocument::fromJson(f.readAll()).object());
     }

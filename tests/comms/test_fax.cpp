@@ -14,6 +14,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace nod {
 namespace {
 
@@ -44,8 +46,8 @@ protected:
     void SetUp() override {
         Config.SetServidorFAX(servidor.base());
         Config.SetEsperaFAXMs(1000);
-        Config.SetsUsuarioFAX(QStringLiteral("notaria_cfg"));
-        Config.SetsPasswordFAX(QStringLiteral("clave_cfg"));
+        Config.SetsUsuarioFAX(u"notaria_cfg"_s);
+        Config.SetsPasswordFAX(u"clave_cfg"_s);
         servidor.respondeCon(aceptado("1"));
     }
     QString documento(const QString& nombre, const QByteArray& contenido) {
@@ -71,15 +73,15 @@ TEST_F(FaxTest, EachRecipientGetsTheDocumentsWithTheGivenAccount) {
     QByteArray pdf = "%PDF-1.4\n";
     for (int i = 0; i < 256; ++i)
         pdf += char(i);
-    const QString a = documento(QStringLiteral("escritura.pdf"), pdf);
-    const QString b = documento(QStringLiteral("anexo Núñez.txt"), "Anexo\r\n");
+    const QString a = documento(u"escritura.pdf"_s, pdf);
+    const QString b = documento(u"anexo Núñez.txt"_s, "Anexo\r\n");
     servidor.encola(aceptado("1001"));
     servidor.encola(aceptado("1002"));
     QStringList ids;
-    ASSERT_EQ(fax({a, b}, {QStringLiteral("+34 91 555-12-12"), QStringLiteral("(0034) 93.555.00.00")},
-                  QStringLiteral("usuario"), QStringLiteral("clave ñ"), {}, &ids),
-              QString());
-    EXPECT_EQ(ids, QStringList({QStringLiteral("1001"), QStringLiteral("1002")}));
+    ASSERT_EQ(
+        fax({a, b}, {u"+34 91 555-12-12"_s, u"(0034) 93.555.00.00"_s}, u"usuario"_s, u"clave ñ"_s, {}, &ids),
+        QString());
+    EXPECT_EQ(ids, QStringList({u"1001"_s, u"1002"_s}));
 
     ASSERT_EQ(servidor.peticiones().size(), 2);
     const QByteArray rutas[] = {"/outbound/faxes?faxNumber=%2B34915551212",
@@ -101,12 +103,11 @@ TEST_F(FaxTest, EachRecipientGetsTheDocumentsWithTheGivenAccount) {
 
 // Without a user the office's account and "CONFIG\VARIOS.INI" are used; a file given is read instead.
 TEST_F(FaxTest, AccountAndInitialisationFileFollowTheirRules) {
-    oficina.escribe(
-        QStringLiteral("CONFIG/VARIOS.INI"),
-        QStringLiteral("[INTERFAX]\nCSID=NOTARIA MADRID\nCabecera=Notaría de Pruebas\nReintentos=3\n"));
-    oficina.escribe(QStringLiteral("otro.ini"), QStringLiteral("[interfax]\ncsid=OTRA\nReintentos=9\n"));
-    oficina.escribe(QStringLiteral("C/FAX.INI"), QStringLiteral("[INTERFAX]\nCSID=UNIDAD C\n"));
-    const QString doc = documento(QStringLiteral("a.pdf"), "%PDF");
+    oficina.escribe(u"CONFIG/VARIOS.INI"_s,
+                    u"[INTERFAX]\nCSID=NOTARIA MADRID\nCabecera=Notaría de Pruebas\nReintentos=3\n"_s);
+    oficina.escribe(u"otro.ini"_s, u"[interfax]\ncsid=OTRA\nReintentos=9\n"_s);
+    oficina.escribe(u"C/FAX.INI"_s, u"[INTERFAX]\nCSID=UNIDAD C\n"_s);
+    const QString doc = documento(u"a.pdf"_s, "%PDF");
     struct Caso {
         const char *nombre, *usuario, *password;
         QString ini;
@@ -117,18 +118,18 @@ TEST_F(FaxTest, AccountAndInitialisationFileFollowTheirRules) {
     const Caso casos[] = {
         {"no user, no file", "", "ignorada", {}, "notaria_cfg:clave_cfg", varios},
         {"a user of its own", "otro", "x", {}, "otro:x", varios},
-        {"a file given, retries out of range", "", "", oficina.ruta(QStringLiteral("otro.ini")),
-         "notaria_cfg:clave_cfg", "faxNumber=915551212&csid=OTRA"},
-        {"a drive-C file", "", "", QStringLiteral("C:\\FAX.INI"), "notaria_cfg:clave_cfg",
+        {"a file given, retries out of range", "", "", oficina.ruta(u"otro.ini"_s), "notaria_cfg:clave_cfg",
+         "faxNumber=915551212&csid=OTRA"},
+        {"a drive-C file", "", "", u"C:\\FAX.INI"_s, "notaria_cfg:clave_cfg",
          "faxNumber=915551212&csid=UNIDAD%20C"},
-        {"a file that does not exist", "", "", QStringLiteral("CONFIG\\NOEXISTE.INI"),
-         "notaria_cfg:clave_cfg", "faxNumber=915551212"},
+        {"a file that does not exist", "", "", u"CONFIG\\NOEXISTE.INI"_s, "notaria_cfg:clave_cfg",
+         "faxNumber=915551212"},
     };
     for (const Caso& c : casos) {
         const qsizetype antes = servidor.peticiones().size();
-        EXPECT_EQ(fax({doc}, {QStringLiteral("915551212")}, QString::fromUtf8(c.usuario),
-                      QString::fromUtf8(c.password), c.ini),
-                  QString())
+        EXPECT_EQ(
+            fax({doc}, {u"915551212"_s}, QString::fromUtf8(c.usuario), QString::fromUtf8(c.password), c.ini),
+            QString())
             << c.nombre;
         ASSERT_EQ(servidor.peticiones().size(), antes + 1) << c.nombre;
         const prueba::PeticionHttp& p = servidor.peticiones().last();
@@ -138,7 +139,7 @@ TEST_F(FaxTest, AccountAndInitialisationFileFollowTheirRules) {
 }
 
 TEST_F(FaxTest, WrongInputSendsNothing) {
-    const QString doc = documento(QStringLiteral("a.pdf"), "%PDF");
+    const QString doc = documento(u"a.pdf"_s, "%PDF");
     struct Caso {
         const char* nombre;
         const char *docs, *numeros; // entries separated by '|'; "D" in docs: a document that exists
@@ -154,14 +155,14 @@ TEST_F(FaxTest, WrongInputSendsNothing) {
         {"no recipients", "D", "", {}, "ningún número"},
         {"no account", "D", "915551212", [] { Config.SetsUsuarioFAX({}); },
          "No se ha configurado la cuenta del servicio de fax"},
-        {"no service address", "D", "915551212", [] { Config.SetServidorFAX(QStringLiteral("rest")); },
+        {"no service address", "D", "915551212", [] { Config.SetServidorFAX(u"rest"_s); },
          "«rest» no es válida"},
     };
     for (const Caso& c : casos) {
         SetUp();
         if (c.prepara) c.prepara();
         QStringList docs = QString::fromUtf8(c.docs).split(u'|', Qt::SkipEmptyParts);
-        docs.replaceInStrings(QRegularExpression(QStringLiteral("^D$")), doc);
+        docs.replaceInStrings(QRegularExpression(u"^D$"_s), doc);
         const QString error = fax(docs, QString::fromUtf8(c.numeros).split(u'|', Qt::SkipEmptyParts));
         EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << c.nombre << ": " << error.toStdString();
     }
@@ -171,9 +172,8 @@ TEST_F(FaxTest, WrongInputSendsNothing) {
 // A job stops at the first recipient that fails; the message names what went, what failed and why, and
 // what was not tried.
 TEST_F(FaxTest, FailuresSayWhatWasSentAndWhatWasNot) {
-    const QString doc = documento(QStringLiteral("a.pdf"), "%PDF");
-    const QStringList tres = {QStringLiteral("911111111"), QStringLiteral("922222222"),
-                              QStringLiteral("933333333")};
+    const QString doc = documento(u"a.pdf"_s, "%PDF");
+    const QStringList tres = {u"911111111"_s, u"922222222"_s, u"933333333"_s};
     struct Caso {
         const char* nombre;
         char luego; // after the queued answers: 'a' accepted, 'c' closed, 's' silence, 'x' no server
@@ -211,17 +211,16 @@ TEST_F(FaxTest, FailuresSayWhatWasSentAndWhatWasNot) {
         if (c.luego == 'c') propio.cierra();
         if (c.luego == 's') propio.calla();
         if (c.luego == 'x')
-            Config.SetServidorFAX(
-                QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado()));
+            Config.SetServidorFAX(u"http://127.0.0.1:%1"_s.arg(prueba::ServidorHttp::puertoCerrado()));
         const QString error = fax({doc}, tres);
         EXPECT_TRUE(error.contains(QString::fromUtf8(c.mensaje))) << c.nombre << ": " << error.toStdString();
-        EXPECT_FALSE(error.contains(QStringLiteral("clave_cfg"))) << c.nombre;
+        EXPECT_FALSE(error.contains(u"clave_cfg"_s)) << c.nombre;
         EXPECT_EQ(propio.peticiones().size(), c.peticiones) << c.nombre;
     }
     // Neither the account's password nor its encoded form reaches the log.
     const QString todo = registro.texto();
-    EXPECT_TRUE(todo.contains(QStringLiteral("922222222")));
-    EXPECT_FALSE(todo.contains(QStringLiteral("clave_cfg")));
+    EXPECT_TRUE(todo.contains(u"922222222"_s));
+    EXPECT_FALSE(todo.contains(u"clave_cfg"_s));
     EXPECT_FALSE(todo.contains(QString::fromLatin1(QByteArray("notaria_cfg:clave_cfg").toBase64())));
 }
 

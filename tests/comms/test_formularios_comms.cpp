@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+using namespace Qt::StringLiterals;
+
 using json = nlohmann::json;
 
 namespace nod {
@@ -105,9 +107,9 @@ TEST(FormulariosComms, MailEditorSendsFromAScript) {
     const QList<QJsonObject> m = servidor.mensajes();
     ASSERT_EQ(m.size(), 2);
     EXPECT_EQ(m[1][u"subject"].toString(), QString());
-    EXPECT_EQ(m[0][u"subject"].toString(), QStringLiteral("Copia simple nº 7"));
-    EXPECT_EQ(m[0][u"to"].toArray(), QJsonArray{QStringLiteral("ana@example.es")});
-    EXPECT_EQ(m[0][u"cc"].toArray(), QJsonArray{QStringLiteral("luis@example.es")});
+    EXPECT_EQ(m[0][u"subject"].toString(), u"Copia simple nº 7"_s);
+    EXPECT_EQ(m[0][u"to"].toArray(), QJsonArray{u"ana@example.es"_s});
+    EXPECT_EQ(m[0][u"cc"].toArray(), QJsonArray{u"luis@example.es"_s});
 }
 
 } // namespace

@@ -13,6 +13,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace nod {
 namespace {
 
@@ -35,8 +37,8 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     prueba::ServidorCorreo servidor;
     ASSERT_NE(servidor.puerto(), 0) << servidor.error().toStdString();
     QTemporaryDir carpeta;
-    const QString adjunto = prueba::EscribeFichero(
-        QDir(carpeta.path()).filePath(QStringLiteral("factura.pdf")), "%PDF-1.4 factura");
+    const QString adjunto =
+        prueba::EscribeFichero(QDir(carpeta.path()).filePath(u"factura.pdf"_s), "%PDF-1.4 factura");
 
     const json r = pide(
         {{"fn", "EnviarEmail"},
@@ -46,8 +48,8 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     EXPECT_EQ(r["result"], true);
     ASSERT_EQ(servidor.mensajes().size(), 1);
     const QJsonObject m = servidor.mensajes().front();
-    EXPECT_EQ(m[u"subject"].toString(), QStringLiteral("Factura 7/2024"));
-    EXPECT_EQ(m[u"attachments"].toArray().at(0)[u"filename"].toString(), QStringLiteral("factura.pdf"));
+    EXPECT_EQ(m[u"subject"].toString(), u"Factura 7/2024"_s);
+    EXPECT_EQ(m[u"attachments"].toArray().at(0)[u"filename"].toString(), u"factura.pdf"_s);
 
     json config = correo(servidor);
     config["PuertoCorreo"] = prueba::ServidorHttp::puertoCerrado();
@@ -69,8 +71,7 @@ TEST(LoteComms, AScriptSendsAFaxAndChecksTheGateway) {
     servidor.respondeCon(aceptado);
     QTemporaryDir programa;
     FijaCarpetaPrograma(programa.path());
-    const QString doc =
-        prueba::EscribeFichero(QDir(programa.path()).filePath(QStringLiteral("a.pdf")), "%PDF");
+    const QString doc = prueba::EscribeFichero(QDir(programa.path()).filePath(u"a.pdf"_s), "%PDF");
 
     const json fax =
         pide({{"fn", "EnviarFAXInterFax"},
@@ -90,12 +91,11 @@ TEST(LoteComms, AScriptSendsAFaxAndChecksTheGateway) {
     ASSERT_FALSE(pasarela.contains("error")) << pasarela.dump();
     EXPECT_EQ(pasarela["result"], true);
     EXPECT_EQ(pasarela["dialogs"][1]["kind"], "MuestraMensaje");
-    EXPECT_TRUE(QFile::exists(oficina.ruta(QStringLiteral("xsd/PARTE_NOTARIO-1.7dll.xsd"))));
+    EXPECT_TRUE(QFile::exists(oficina.ruta(u"xsd/PARTE_NOTARIO-1.7dll.xsd"_s)));
 }
 
 TEST(LoteComms, PlainRoutinesAnswerWithTheirJsonTypes) {
-    prueba::OficinaPrueba oficina(QStringLiteral("[ALIAS]\nDB=") + prueba::OficinaMuestra() +
-                                  QStringLiteral("/DATOS\n"));
+    prueba::OficinaPrueba oficina(u"[ALIAS]\nDB="_s + prueba::OficinaMuestra() + u"/DATOS\n"_s);
     const std::pair<json, json> casos[] = {
         {{{"fn", "DameContenidoXML"}, {"args", {"<r><id>42</id></r>", "<id>", "</id>"}}}, "42"},
         {{{"fn", "PuedeActualizarEsteEquipo"},
@@ -117,7 +117,7 @@ TEST(LoteComms, PlainRoutinesAnswerWithTheirJsonTypes) {
     const json cliente = pide({{"fn", "tbInteresadosCalcFields"}, {"args", {1}}});
     EXPECT_NE(cliente["result"].get<std::string>().find(", "), std::string::npos) << cliente.dump();
     const json ini = pide({{"fn", "CompruebaPasarelaWebIni"}, {"args", json::array()}});
-    EXPECT_EQ(ini["result"], oficina.ruta(QStringLiteral("C/PasarelaWeb.ini")).toStdString());
+    EXPECT_EQ(ini["result"], oficina.ruta(u"C/PasarelaWeb.ini"_s).toStdString());
 }
 
 } // namespace

@@ -17,6 +17,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace nod {
 namespace {
 
@@ -41,23 +43,20 @@ QByteArray lee(const QString& ruta) {
 
 using prueba::EscribeFichero;
 
-const QStringList kLibrerias = QStringLiteral("PasarelaWebCGN.dll Base64.dll CGZipLibrary.dll msxml4.dll "
-                                              "msxml4a.dll msxml4r.dll Unzip32.dll zip32.dll")
-                                   .split(u' ');
+const QStringList kLibrerias = u"PasarelaWebCGN.dll Base64.dll CGZipLibrary.dll msxml4.dll "
+                               "msxml4a.dll msxml4r.dll Unzip32.dll zip32.dll"_s.split(u' ');
 const QStringList kConfiguracion =
-    QStringLiteral("conf/cgn_config.xml conf/cgn_config.xsd xsd_forms/common.xsd").split(u' ');
-const QStringList kEnviosUnicos = QStringLiteral("templates/acta_1.7.xml templates/parte_1.7.xml "
-                                                 "xsd/ACTA_NOTARIO-1.7dll.xsd xsd/PARTE_NOTARIO-1.7dll.xsd")
-                                      .split(u' ');
+    u"conf/cgn_config.xml conf/cgn_config.xsd xsd_forms/common.xsd"_s.split(u' ');
+const QStringList kEnviosUnicos = u"templates/acta_1.7.xml templates/parte_1.7.xml "
+                                  "xsd/ACTA_NOTARIO-1.7dll.xsd xsd/PARTE_NOTARIO-1.7dll.xsd"_s.split(u' ');
 
-const QString kPreguntaFicheros = QStringLiteral("Mensaje_SiNo|Alguno de los ficheros de la Pasarela Web no "
-                                                 "encontrados|No se han encontrado alguno de los "
-                                                 "ficheros de la Pasarela Web\n¿Descargar los ficheros para "
-                                                 "enviar Partes y Actas? Asegúrese de estar conectado");
-const QString kErrorFicheros =
-    QStringLiteral("Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
-                   "descargar alguno de los ficheros de instalación de la Pasarela Web");
-const QString kEsperaFicheros = QStringLiteral("Descargando ficheros del Portal de Zeb Soft...");
+const QString kPreguntaFicheros = u"Mensaje_SiNo|Alguno de los ficheros de la Pasarela Web no "
+                                  "encontrados|No se han encontrado alguno de los "
+                                  "ficheros de la Pasarela Web\n¿Descargar los ficheros para "
+                                  "enviar Partes y Actas? Asegúrese de estar conectado"_s;
+const QString kErrorFicheros = u"Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
+                               "descargar alguno de los ficheros de instalación de la Pasarela Web"_s;
+const QString kEsperaFicheros = u"Descargando ficheros del Portal de Zeb Soft..."_s;
 
 class PasarelaTest : public ::testing::Test {
 protected:
@@ -98,7 +97,7 @@ protected:
 // for download.
 TEST_F(PasarelaTest, LibrariesAndConfigurationAreCheckedSilently) {
     QStringList faltas = kLibrerias + kConfiguracion;
-    faltas << QStringLiteral("conf") << QStringLiteral("xsd_forms") << QString();
+    faltas << u"conf"_s << u"xsd_forms"_s << QString();
     for (const QString& falta : faltas) {
         QTemporaryDir otro;
         FijaCarpetaPrograma(otro.path());
@@ -108,8 +107,8 @@ TEST_F(PasarelaTest, LibrariesAndConfigurationAreCheckedSilently) {
                     EscribeFichero(QDir(otro.path()).filePath(f), "x");
         EXPECT_EQ(CompruebaFicherosPasarela(), falta.isEmpty()) << falta.toStdString();
     }
-    instalaTodo({QStringLiteral("Base64.dll")});
-    QDir(programa.path()).mkdir(QStringLiteral("Base64.dll"));
+    instalaTodo({u"Base64.dll"_s});
+    QDir(programa.path()).mkdir(u"Base64.dll"_s);
     FijaCarpetaPrograma(programa.path());
     EXPECT_FALSE(CompruebaFicherosPasarela()) << "a folder in place of a file";
     EXPECT_TRUE(guion.mostrados().isEmpty());
@@ -134,12 +133,10 @@ TEST_F(PasarelaTest, MissingSingleSendingFilesAreDownloadedIntoTheBaseFolder) {
     const QStringList d = Dialogos(guion);
     ASSERT_GE(d.size(), 7);
     EXPECT_EQ(d[0], kPreguntaFicheros);
-    EXPECT_EQ(d[1], QStringLiteral("MuestraMensaje||") + kEsperaFicheros);
-    EXPECT_EQ(d[2], QStringLiteral("CambiaMensaje||") + kEsperaFicheros);
-    EXPECT_EQ(d[3], QStringLiteral("CambiaMensaje||") + kEsperaFicheros +
-                        QStringLiteral("\ntemplates\\acta_1.7.xml"));
-    EXPECT_EQ(d.last(), QStringLiteral("CambiaMensaje||") + kEsperaFicheros +
-                            QStringLiteral("\nxsd\\PARTE_NOTARIO-1.7dll.xsd"));
+    EXPECT_EQ(d[1], u"MuestraMensaje||"_s + kEsperaFicheros);
+    EXPECT_EQ(d[2], u"CambiaMensaje||"_s + kEsperaFicheros);
+    EXPECT_EQ(d[3], u"CambiaMensaje||"_s + kEsperaFicheros + u"\ntemplates\\acta_1.7.xml"_s);
+    EXPECT_EQ(d.last(), u"CambiaMensaje||"_s + kEsperaFicheros + u"\nxsd\\PARTE_NOTARIO-1.7dll.xsd"_s);
     EXPECT_FALSE(guion.esperaVisible());
 }
 
@@ -190,7 +187,7 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
             esperado.append(kEnviosUnicos[i]);
         QStringList hay;
         const QDir raiz(propia.ruta());
-        for (const QString& carpeta : {QStringLiteral("templates"), QStringLiteral("xsd")})
+        for (const QString& carpeta : {u"templates"_s, u"xsd"_s})
             for (const QString& f :
                  QDir(raiz.filePath(carpeta)).entryList(QDir::Files | QDir::Hidden | QDir::System))
                 hay.append(carpeta + u'/' + f);
@@ -202,12 +199,12 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
 }
 
 TEST_F(PasarelaTest, SetUpProgramIsFetchedAfreshEveryTime) {
-    const QString setup = base(QStringLiteral("PasarelaSetup.exe"));
-    const QString pregunta = QStringLiteral(
-        "Mensaje_SiNo|Ficheros de la Pasarela Web no encontrados|No se han encontrado los ficheros de la "
-        "Pasarela Web\n¿Desea descargar ahora el fichero de Instalación? Asegúrese de que está conectado");
-    const QString error = QStringLiteral("Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
-                                         "descargar el fichero de instalación de la Pasarela Web");
+    const QString setup = base(u"PasarelaSetup.exe"_s);
+    const QString pregunta =
+        u"Mensaje_SiNo|Ficheros de la Pasarela Web no encontrados|No se han encontrado los ficheros de la "
+        "Pasarela Web\n¿Desea descargar ahora el fichero de Instalación? Asegúrese de que está conectado"_s;
+    const QString error = u"Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
+                          "descargar el fichero de instalación de la Pasarela Web"_s;
     servidor.respondeEn(kRuta + "PasarelaSetup.exe", fichero("MZ nuevo"));
 
     EscribeFichero(setup, "MZ viejo");
@@ -217,8 +214,7 @@ TEST_F(PasarelaTest, SetUpProgramIsFetchedAfreshEveryTime) {
     ASSERT_EQ(servidor.peticiones().size(), 1);
     EXPECT_EQ(servidor.peticiones()[0].ruta, kRuta + "PasarelaSetup.exe");
     EXPECT_EQ(Dialogos(guion).value(0), pregunta);
-    EXPECT_EQ(Dialogos(guion).value(1),
-              QStringLiteral("MuestraMensaje||Descargando fichero del Portal de Zeb Soft..."));
+    EXPECT_EQ(Dialogos(guion).value(1), u"MuestraMensaje||Descargando fichero del Portal de Zeb Soft..."_s);
     EXPECT_FALSE(Dialogos(guion).contains(error));
 
     bool bien = true;
@@ -235,7 +231,7 @@ TEST_F(PasarelaTest, SetUpProgramIsFetchedAfreshEveryTime) {
 // A set-up "program" that is a folder with something in it cannot be deleted (by root either): kept, and
 // nothing is asked.
 TEST_F(PasarelaTest, SetUpProgramThatCannotBeDeletedIsKept) {
-    EscribeFichero(base(QStringLiteral("PasarelaSetup.exe/dentro")), "x");
+    EscribeFichero(base(u"PasarelaSetup.exe/dentro"_s), "x");
     EXPECT_TRUE(DescargaFicherosPasarela());
     EXPECT_TRUE(guion.mostrados().isEmpty());
     EXPECT_TRUE(servidor.peticiones().isEmpty());
@@ -248,28 +244,25 @@ TEST_F(PasarelaTest, InstalaPasarelaStartsTheSetUpOnlyWhenPresentAndWanted) {
         lanzados.append(p);
         return arranca;
     });
-    const QString setup = base(QStringLiteral("PasarelaSetup.exe"));
-    const QString pregunta =
-        QStringLiteral("Mensaje_SiNo|Pasarela Web no instalada|No tiene instalada la Pasarela "
-                       "Web\n¿Desea instalar la Pasarela Web?");
+    const QString setup = base(u"PasarelaSetup.exe"_s);
+    const QString pregunta = u"Mensaje_SiNo|Pasarela Web no instalada|No tiene instalada la Pasarela "
+                             "Web\n¿Desea instalar la Pasarela Web?"_s;
 
     EXPECT_EQ(tras({}, InstalaPasarela),
-              QStringList{QStringLiteral("Mensaje_Error|Fichero de instalación no encontrado|No se ha "
-                                         "encontrado el fichero de instalación de la Pasarela Web")});
+              QStringList{u"Mensaje_Error|Fichero de instalación no encontrado|No se ha "
+                          "encontrado el fichero de instalación de la Pasarela Web"_s});
     EscribeFichero(setup, "MZ");
     EXPECT_EQ(tras({7}, InstalaPasarela), QStringList{pregunta});
     EXPECT_TRUE(lanzados.isEmpty());
     EXPECT_EQ(tras({6}, InstalaPasarela), QStringList{pregunta});
     EXPECT_EQ(lanzados, QStringList{setup});
     arranca = false;
-    EXPECT_TRUE(tras({6}, InstalaPasarela)
-                    .last()
-                    .startsWith(QStringLiteral("Mensaje_Error|Pasarela Web no instalada|")));
+    EXPECT_TRUE(tras({6}, InstalaPasarela).last().startsWith(u"Mensaje_Error|Pasarela Web no instalada|"_s));
     FijaLanzadorPrograma(nullptr);
 }
 
 TEST_F(PasarelaTest, GatewayIniIsWrittenOnceAndNeverOverwritten) {
-    const QString ruta = oficina.ruta(QStringLiteral("C/PasarelaWeb.ini"));
+    const QString ruta = oficina.ruta(u"C/PasarelaWeb.ini"_s);
     EXPECT_EQ(CompruebaPasarelaWebIni(), ruta);
     EXPECT_EQ(lee(ruta), "[Parameters]\r\nNIVEL_LOG=2\r\nFICHERO_LOG=C:\\PasarelaWeb.log\r\n"
                          "PROXY_SERVER=<CURRENT_USER>\r\nCONNECTOR_TIMEOUT=120000\r\n");
@@ -287,15 +280,15 @@ TEST_F(PasarelaTest, GatewayIniThatCannotBeWrittenIsReported) {
         prueba::OficinaPrueba propia;
         guion.limpia();
         if (sys)
-            Config.SetUnidadC(QStringLiteral("/sys"));
+            Config.SetUnidadC(u"/sys"_s);
         else
-            EscribeFichero(propia.ruta(QStringLiteral("C")), "x");
-        const QString ini = Config.RutaUnidadC(QStringLiteral("C:\\PasarelaWeb.ini"));
+            EscribeFichero(propia.ruta(u"C"_s), "x");
+        const QString ini = Config.RutaUnidadC(u"C:\\PasarelaWeb.ini"_s);
         EXPECT_EQ(CompruebaPasarelaWebIni(), ini);
         ASSERT_EQ(guion.mostrados().size(), 1);
-        EXPECT_EQ(guion.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
+        EXPECT_EQ(guion.mostrados()[0].kind, u"Mensaje_Error"_s);
         EXPECT_TRUE(guion.mostrados()[0].text.startsWith(
-            QStringLiteral("No se ha podido crear el fichero de configuración de la Pasarela Web")));
+            u"No se ha podido crear el fichero de configuración de la Pasarela Web"_s));
         EXPECT_FALSE(QFileInfo(ini).isFile());
     }
 }
@@ -326,15 +319,13 @@ TEST(PuedeActualizarEsteEquipo, TodosOnlyInCapitalsElseTheComputerName) {
     prueba::OficinaPrueba oficina;
     const QString equipo = DameNombreEquipo();
     ASSERT_FALSE(equipo.isEmpty());
-    ASSERT_NE(equipo.toUpper(), QStringLiteral("TODOS"));
+    ASSERT_NE(equipo.toUpper(), u"TODOS"_s);
     const struct {
         QString valor;
         bool puede;
     } casos[] = {
-        {QStringLiteral("TODOS"), true},  {QStringLiteral("todos"), false},
-        {QStringLiteral("Todos"), false}, {QStringLiteral(" TODOS"), false},
-        {equipo.toLower(), true},         {equipo.toUpper(), true},
-        {equipo + u'x', false},           {{}, false},
+        {u"TODOS"_s, true},       {u"todos"_s, false},      {u"Todos"_s, false},    {u" TODOS"_s, false},
+        {equipo.toLower(), true}, {equipo.toUpper(), true}, {equipo + u'x', false}, {{}, false},
     };
     for (const auto& c : casos) {
         Config.SetUsuarioParaActualizar(c.valor);
@@ -345,7 +336,7 @@ TEST(PuedeActualizarEsteEquipo, TodosOnlyInCapitalsElseTheComputerName) {
 class ConexionTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        Config.SetWebFabricante(servidor.base() + QStringLiteral("/"));
+        Config.SetWebFabricante(servidor.base() + u"/"_s);
         Config.SetEsperaConexionMs(500);
         FijaEstadoConexion([this] { return sistema; });
     }
@@ -369,14 +360,11 @@ TEST_F(ConexionTest, ReachingTheSiteIsWhatCounts) {
         {"any answer, even an error page", [this] { servidor.respondeCon("no", 404); }, true, 1},
         {"system reports no network", [this] { sistema = false; }, false, 0},
         {"nobody listening",
-         [] {
-             Config.SetWebFabricante(
-                 QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado()));
-         },
+         [] { Config.SetWebFabricante(u"http://127.0.0.1:%1"_s.arg(prueba::ServidorHttp::puertoCerrado())); },
          false, 0},
         {"connection closed unanswered", [this] { servidor.cierra(); }, false, -1},
         {"no answer in time", [this] { servidor.calla(); }, false, 1},
-        {"not an address", [] { Config.SetWebFabricante(QStringLiteral("zebsoft")); }, false, 0},
+        {"not an address", [] { Config.SetWebFabricante(u"zebsoft"_s); }, false, 0},
     };
     for (const Caso& c : casos) {
         SetUp();
@@ -404,15 +392,14 @@ TEST(DescargarFichero, ReportsProgressKeepsTheOldFileOnFailureAndTakesPagesOnlyA
     Config.SetEsperaDescargaMs(1000);
     prueba::ServidorHttp servidor;
     QTemporaryDir carpeta;
-    const QString destino = QDir(carpeta.path()).filePath(QStringLiteral("datos.bin"));
+    const QString destino = QDir(carpeta.path()).filePath(u"datos.bin"_s);
     const QByteArray contenido(300 * 1024, 'z');
     servidor.respondeEn("/datos.bin", fichero(contenido));
     qint64 ultimo = -1, total = -1;
-    EXPECT_TRUE(
-        DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"), destino, [&](qint64 r, qint64 t) {
-            ultimo = r;
-            total = t;
-        }));
+    EXPECT_TRUE(DescargarFichero(servidor.base() + u"/datos.bin"_s, destino, [&](qint64 r, qint64 t) {
+        ultimo = r;
+        total = t;
+    }));
     EXPECT_EQ(lee(destino), contenido);
     EXPECT_EQ(ultimo, contenido.size());
     EXPECT_EQ(total, contenido.size());
@@ -420,20 +407,19 @@ TEST(DescargarFichero, ReportsProgressKeepsTheOldFileOnFailureAndTakesPagesOnlyA
     RespuestaHttp cortada = fichero(QByteArray(300 * 1024, 'n'));
     cortada.corta = true;
     servidor.respondeEn("/datos.bin", cortada);
-    EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"), destino));
+    EXPECT_FALSE(DescargarFichero(servidor.base() + u"/datos.bin"_s, destino));
     EXPECT_EQ(lee(destino), contenido) << "the old file stays whole";
-    EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden),
-              QStringList{QStringLiteral("datos.bin")});
+    EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"datos.bin"_s});
 
-    EXPECT_FALSE(DescargarFichero(QStringLiteral("ftp://127.0.0.1/datos.bin"), destino));
-    EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"),
-                                  QDir(carpeta.path()).filePath(QStringLiteral("no/existe/datos.bin"))));
+    EXPECT_FALSE(DescargarFichero(u"ftp://127.0.0.1/datos.bin"_s, destino));
+    EXPECT_FALSE(DescargarFichero(servidor.base() + u"/datos.bin"_s,
+                                  QDir(carpeta.path()).filePath(u"no/existe/datos.bin"_s)));
 
     servidor.respondeCon(fichero("<html>hola</html>", "text/html"));
-    EXPECT_TRUE(DescargarFichero(servidor.base() + QStringLiteral("/ayuda.html"),
-                                 QDir(carpeta.path()).filePath(QStringLiteral("ayuda.html"))));
-    EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/ayuda.html"),
-                                  QDir(carpeta.path()).filePath(QStringLiteral("ayuda.xml"))));
+    EXPECT_TRUE(
+        DescargarFichero(servidor.base() + u"/ayuda.html"_s, QDir(carpeta.path()).filePath(u"ayuda.html"_s)));
+    EXPECT_FALSE(
+        DescargarFichero(servidor.base() + u"/ayuda.html"_s, QDir(carpeta.path()).filePath(u"ayuda.xml"_s)));
 }
 
 } // namespace

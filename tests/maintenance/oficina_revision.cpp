@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace nod::prueba {
 
 namespace {
@@ -34,7 +36,7 @@ QByteArray valor(const TCampoDbf& c, const TablaRevisionPrueba& t, qint64 i, qin
     if (c.nombre == t.campoCliente)
         v = QByteArray::number(cliente);
     else if (c.tipo == 'D')
-        v = QDate(2024, 1, 1).addDays(i).toString(QStringLiteral("yyyyMMdd")).toLatin1();
+        v = QDate(2024, 1, 1).addDays(i).toString(u"yyyyMMdd"_s).toLatin1();
     else if (c.nombre == QLatin1String("SERIE"))
         v = i % 2 ? "B" : "A";
     else if (c.tipo == 'C')
@@ -130,9 +132,9 @@ QString CarpetaDeModo(int modo) {
 }
 
 QString ConfigOficinaRevision() {
-    return QStringLiteral("[GENERAL]\nAliasNodrim=DB\nAliasNotario=DBNOTARIO\nNumeroNotarios=1\nNotario=1\n"
-                          "[ALIAS]\nDB=COMUN\nDBBORRADOR=BORRADOR\nDBARCHIVO=ARCHIVO\nDBNOTARIO1=NOTARIO1\n"
-                          "[TABLAS]\nEsperaBloqueo=200\n");
+    return u"[GENERAL]\nAliasNodrim=DB\nAliasNotario=DBNOTARIO\nNumeroNotarios=1\nNotario=1\n"
+           "[ALIAS]\nDB=COMUN\nDBBORRADOR=BORRADOR\nDBARCHIVO=ARCHIVO\nDBNOTARIO1=NOTARIO1\n"
+           "[TABLAS]\nEsperaBloqueo=200\n"_s;
 }
 
 void EscribeTablaRevision(const QString& ruta, const TablaRevisionPrueba& t, qint64 n,
@@ -147,7 +149,7 @@ void EscribeTablaRevision(const QString& ruta, const TablaRevisionPrueba& t, qin
 }
 
 void EscribeClientes(const QString& ruta, qint64 n, const std::function<qint64(qint64)>& conyuge) {
-    const TablaRevisionPrueba& t = TablaRevisionPorNombre(QStringLiteral("CLIENTES"));
+    const TablaRevisionPrueba& t = TablaRevisionPorNombre(u"CLIENTES"_s);
     escribe(ruta, t.campos, n, [&](qint64 i) {
         return QByteArray::number(i + 1).rightJustified(8, ' ') +
                ("APELLIDOS " + QByteArray::number(i)).leftJustified(40, ' ') +
