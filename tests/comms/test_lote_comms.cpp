@@ -20,10 +20,6 @@ namespace {
 
 using lote::json;
 
-json pide(const json& peticion) {
-    return lote::Atiende(peticion);
-}
-
 json correo(const prueba::ServidorCorreo& s) {
     return {{"ServidorCorreo", "127.0.0.1"},
             {"PuertoCorreo", s.puerto()},
@@ -40,7 +36,7 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     const QString adjunto =
         prueba::EscribeFichero(QDir(carpeta.path()).filePath(u"factura.pdf"_s), "%PDF-1.4 factura");
 
-    const json r = pide(
+    const json r = lote::Atiende(
         {{"fn", "EnviarEmail"},
          {"args", {"ana@example.es;", "Factura 7/2024", "Adjunta.", {adjunto.toStdString()}, "", "", false}},
          {"config", correo(servidor)}});
@@ -53,9 +49,9 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
 
     json config = correo(servidor);
     config["PuertoCorreo"] = prueba::ServidorHttp::puertoCerrado();
-    const json fallo = pide({{"fn", "EnviarEmail"},
-                             {"args", {"ana@example.es", "a", "b", json::array(), "", "", false}},
-                             {"config", config}});
+    const json fallo = lote::Atiende({{"fn", "EnviarEmail"},
+                                      {"args", {"ana@example.es", "a", "b", json::array(), "", "", false}},
+                                      {"config", config}});
     ASSERT_TRUE(fallo.contains("error"));
     EXPECT_NE(fallo["error"].get<std::string>().find("No se puede conectar con el servidor de correo"),
               std::string::npos)
@@ -74,19 +70,19 @@ TEST(LoteComms, AScriptSendsAFaxAndChecksTheGateway) {
     const QString doc = prueba::EscribeFichero(QDir(programa.path()).filePath(u"a.pdf"_s), "%PDF");
 
     const json fax =
-        pide({{"fn", "EnviarFAXInterFax"},
-              {"args", {{doc.toStdString()}, {"915551212", "935550000"}, "clave", "usuario", ""}},
-              {"config", {{"ServidorFAX", servidor.base().toStdString()}}}});
+        lote::Atiende({{"fn", "EnviarFAXInterFax"},
+                       {"args", {{doc.toStdString()}, {"915551212", "935550000"}, "clave", "usuario", ""}},
+                       {"config", {{"ServidorFAX", servidor.base().toStdString()}}}});
     ASSERT_FALSE(fax.contains("error")) << fax.dump();
     EXPECT_EQ(fax["result"], json({"555", "555"}));
 
     prueba::RespuestaHttp plantilla;
     plantilla.cuerpo = "<xml/>";
     servidor.respondeCon(plantilla);
-    const json pasarela = pide({{"fn", "CompruebaFicherosPasarelaParaEnviosUnicos"},
-                                {"args", json::array()},
-                                {"config", {{"PortalFabricante", servidor.base().toStdString()}}},
-                                {"answers", {6}}});
+    const json pasarela = lote::Atiende({{"fn", "CompruebaFicherosPasarelaParaEnviosUnicos"},
+                                         {"args", json::array()},
+                                         {"config", {{"PortalFabricante", servidor.base().toStdString()}}},
+                                         {"answers", {6}}});
     FijaCarpetaPrograma({});
     ASSERT_FALSE(pasarela.contains("error")) << pasarela.dump();
     EXPECT_EQ(pasarela["result"], true);
@@ -110,13 +106,13 @@ TEST(LoteComms, PlainRoutinesAnswerWithTheirJsonTypes) {
         {{{"fn", "tbInteresadosCalcFields"}, {"args", {0}}}, ""},
     };
     for (const auto& [peticion, resultado] : casos) {
-        const json r = pide(peticion);
+        const json r = lote::Atiende(peticion);
         ASSERT_FALSE(r.contains("error")) << r.dump();
         EXPECT_EQ(r["result"], resultado) << peticion.dump();
     }
-    const json cliente = pide({{"fn", "tbInteresadosCalcFields"}, {"args", {1}}});
+    const json cliente = lote::Atiende({{"fn", "tbInteresadosCalcFields"}, {"args", {1}}});
     EXPECT_NE(cliente["result"].get<std::string>().find(", "), std::string::npos) << cliente.dump();
-    const json ini = pide({{"fn", "CompruebaPasarelaWebIni"}, {"args", json::array()}});
+    const json ini = lote::Atiende({{"fn", "CompruebaPasarelaWebIni"}, {"args", json::array()}});
     EXPECT_EQ(ini["result"], oficina.ruta(u"C/PasarelaWeb.ini"_s).toStdString());
 }
 
