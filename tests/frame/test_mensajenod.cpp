@@ -21,6 +21,8 @@ struct Caja {
     QLabel* l2 = forma->findChild<QLabel*>(QStringLiteral("LMENSAJE2"));
     QPushButton* b1 = forma->findChild<QPushButton*>(QStringLiteral("BACEPTAR"));
     QPushButton* b2 = forma->findChild<QPushButton*>(QStringLiteral("BCANCELAR"));
+    QLabel* stop = forma->findChild<QLabel*>(QStringLiteral("IconoStop"));
+    QLabel* pregunta = forma->findChild<QLabel*>(QStringLiteral("IconoPregunta"));
 };
 
 } // namespace
@@ -42,19 +44,21 @@ TEST(MensajeNod, DesignValues) {
     EXPECT_EQ(c.l1->palette().color(QPalette::WindowText), QColor(Qt::white));
 }
 
+// One box shown again and again: the full layout comes back after a short one.
 TEST(MensajeNod, FormShowLaysTheBoxOutByWhichLinesArePresent) {
     const struct {
         const char *m1, *m2;
         int alto, topLinea2, topBotones;
         bool ve1, ve2;
     } casos[] = {
-        {"arriba", "abajo", 150, 56, 89, true, true},
         {"", "abajo", 123, 21, 62, false, true},
+        {"arriba", "abajo", 150, 56, 89, true, true},
         {"arriba", "", 123, 56, 62, true, false},
         {"", "", 123, 21, 62, false, false}, // no text at all: the short box with no line
     };
+    Caja c;
     for (const auto& k : casos) {
-        Caja c;
+        c.forma->hide();
         c.forma->CambiaTipoMensaje(3, {}, {});
         c.forma->CambiaMensaje1(QString::fromUtf8(k.m1));
         c.forma->CambiaMensaje2(QString::fromUtf8(k.m2));
@@ -67,19 +71,6 @@ TEST(MensajeNod, FormShowLaysTheBoxOutByWhichLinesArePresent) {
         EXPECT_EQ(c.l2->isVisible(), k.ve2);
         EXPECT_LE(c.b1->geometry().bottom(), c.forma->height()) << "buttons stay inside the box";
     }
-}
-
-TEST(MensajeNod, FormShowRestoresTheFullLayoutWhenShownAgainWithBothLines) {
-    Caja c;
-    c.forma->CambiaMensaje2(QStringLiteral("abajo"));
-    c.forma->show();
-    EXPECT_EQ(c.forma->height(), 123);
-    c.forma->hide();
-    c.forma->CambiaMensaje1(QStringLiteral("arriba"));
-    c.forma->show();
-    EXPECT_EQ(c.forma->height(), 150);
-    EXPECT_EQ(c.l2->y(), 56);
-    EXPECT_TRUE(c.l1->isVisible());
 }
 
 TEST(MensajeNod, SecondLineLongerThanFortyCharactersIsDrawnAtTenPoints) {
@@ -100,16 +91,14 @@ TEST(MensajeNod, ButtonSetsForEveryType) {
         bool ve2;
         int izquierda1;
         int foco; // 1 first, 2 second, 0 the box's default
-    } casos[] = {
-        {0, "&Aceptar", "&Cancelar", false, 491, 0},
-        {1, "&Si", "&No", true, 374, 1},
-        {2, "&Si", "&No", true, 374, 2},
-        {3, "&Aceptar", "&Cancelar", true, 374, 1},
-        {4, "&Aceptar", "&Cancelar", true, 374, 2},
-        {5, "Guardar", "Descartar", true, 374, 1},
-        {6, "Guardar", "Descartar", true, 374, 2},
-        {9, "&Aceptar", "&Cancelar", true, 374, 0},
-    };
+    } casos[] = {{0, "&Aceptar", "&Cancelar", false, 491, 0},
+                 {1, "&Si", "&No", true, 374, 1},
+                 {2, "&Si", "&No", true, 374, 2},
+                 {3, "&Aceptar", "&Cancelar", true, 374, 1},
+                 {4, "&Aceptar", "&Cancelar", true, 374, 2},
+                 {5, "Guardar", "Descartar", true, 374, 1},
+                 {6, "Guardar", "Descartar", true, 374, 2},
+                 {9, "&Aceptar", "&Cancelar", true, 374, 0}};
     for (const auto& k : casos) {
         Caja c;
         const int puntos = c.b1->font().pointSize();
@@ -125,10 +114,14 @@ TEST(MensajeNod, ButtonSetsForEveryType) {
         const bool personalizado = k.tipo == 5 || k.tipo == 6;
         EXPECT_EQ(c.b1->font().pointSize(), puntos + (personalizado ? 2 : 0)) << k.tipo;
         EXPECT_EQ(c.b1->icon().isNull(), personalizado) << k.tipo;
-        if (k.foco == 1) {
-            EXPECT_EQ(c.forma->focusWidget(), c.b1) << k.tipo;
-        } else if (k.foco == 2) {
-            EXPECT_EQ(c.forma->focusWidget(), c.b2) << k.tipo;
+        if (k.foco) { // the focus mark follows the buttons
+            QPushButton* enfocado = k.foco == 1 ? c.b1 : c.b2;
+            QPushButton* otro = k.foco == 1 ? c.b2 : c.b1;
+            EXPECT_EQ(c.forma->focusWidget(), enfocado) << k.tipo;
+            EXPECT_TRUE(TieneFocoMarcado(enfocado)) << k.tipo;
+            otro->setFocus();
+            EXPECT_FALSE(TieneFocoMarcado(enfocado)) << k.tipo;
+            EXPECT_TRUE(TieneFocoMarcado(otro)) << k.tipo;
         }
         EXPECT_EQ(c.forma->tipoMensaje(), k.tipo);
     }
@@ -163,22 +156,9 @@ TEST(MensajeNod, IconFollowsTheStopValue) {
     for (auto [icono, stop] : {std::pair{0, true}, {1, false}, {7, false}, {-1, false}}) {
         Caja c;
         c.forma->CambiaIcono(icono);
-        EXPECT_EQ(c.forma->findChild<QLabel*>(QStringLiteral("IconoStop"))->isVisibleTo(c.forma.get()), stop);
-        EXPECT_EQ(c.forma->findChild<QLabel*>(QStringLiteral("IconoPregunta"))->isVisibleTo(c.forma.get()),
-                  !stop);
+        EXPECT_EQ(c.stop->isVisibleTo(c.forma.get()), stop) << icono;
+        EXPECT_EQ(c.pregunta->isVisibleTo(c.forma.get()), !stop) << icono;
     }
-}
-
-TEST(MensajeNod, FocusMarkFollowsTheButtons) {
-    Caja c;
-    c.forma->CambiaTipoMensaje(1, {}, {});
-    c.forma->CambiaMensaje1(QStringLiteral("x"));
-    c.forma->show();
-    QApplication::setActiveWindow(c.forma.get());
-    EXPECT_TRUE(TieneFocoMarcado(c.b1));
-    c.b2->setFocus();
-    EXPECT_FALSE(TieneFocoMarcado(c.b1));
-    EXPECT_TRUE(TieneFocoMarcado(c.b2));
 }
 
 namespace {
@@ -193,40 +173,41 @@ PeticionMensajePerson peticion(int tipo) {
 }
 } // namespace
 
+// Every way to answer the real box. Escape answers 2 for every type, even when the second button is
+// hidden (type 0), and Enter presses the focused button. Plain "s" and "n" did nothing while the standard
+// Si/No boxes answered them: a plain letter presses its button, "x" (no button's letter) does nothing.
 TEST(MensajeNod, ModalResultsOfTheRealBox) {
-    // Escape answers 2 for every type, even when the second button is hidden (type 0).
-    for (int tipo : {0, 1, 2, 3, 4, 5, 6}) {
+    const struct {
+        int tipo;
+        Qt::Key tecla;     // pressed after "x"
+        const char* boton; // clicked instead when there is no key
+        int resultado;
+    } casos[] = {
+        {0, Qt::Key_Escape, nullptr, 2}, {1, Qt::Key_Escape, nullptr, 2}, {2, Qt::Key_Escape, nullptr, 2},
+        {3, Qt::Key_Escape, nullptr, 2}, {4, Qt::Key_Escape, nullptr, 2}, {5, Qt::Key_Escape, nullptr, 2},
+        {6, Qt::Key_Escape, nullptr, 2}, {0, {}, "BACEPTAR", 1},          {1, {}, "BACEPTAR", 1},
+        {1, {}, "BCANCELAR", 2},         {6, {}, "BCANCELAR", 2},         {1, Qt::Key_Return, nullptr, 1},
+        {2, Qt::Key_Return, nullptr, 2}, {1, Qt::Key_S, nullptr, 1},      {1, Qt::Key_N, nullptr, 2},
+        {2, Qt::Key_S, nullptr, 1},      {3, Qt::Key_C, nullptr, 2},      {0, Qt::Key_A, nullptr, 1}};
+    for (const auto& k : casos) {
         QString titulo;
         QColor fondo;
         prueba::AlAbrirseModal([&](QWidget* w) {
             titulo = w->windowTitle();
             fondo = w->palette().color(QPalette::Window);
-            QTest::keyClick(w, Qt::Key_Escape);
+            if (k.boton) {
+                QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(k.boton)), Qt::LeftButton);
+                return;
+            }
+            QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, Qt::Key_X);
+            QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, k.tecla);
         });
-        EXPECT_EQ(MuestraMensajePerson(peticion(tipo)), 2) << tipo;
+        EXPECT_EQ(MuestraMensajePerson(peticion(k.tipo)), k.resultado)
+            << k.tipo << " " << (k.boton ? k.boton : "key") << " " << k.tecla;
         EXPECT_EQ(titulo, QStringLiteral("Aviso"));
         EXPECT_EQ(fondo, QColor(0, 0, 0x8C));
         EXPECT_EQ(prueba::VentanasVisibles(), 0);
         EXPECT_TRUE(FMensajeNod.isNull()) << "the box is freed after the call";
-    }
-    const struct {
-        int tipo;
-        const char* boton;
-        int resultado;
-    } clics[] = {{0, "BACEPTAR", 1}, {1, "BACEPTAR", 1}, {1, "BCANCELAR", 2}, {6, "BCANCELAR", 2}};
-    for (const auto& k : clics) {
-        prueba::AlAbrirseModal([&](QWidget* w) {
-            QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(k.boton)), Qt::LeftButton);
-        });
-        EXPECT_EQ(MuestraMensajePerson(peticion(k.tipo)), k.resultado) << k.tipo << k.boton;
-        EXPECT_EQ(prueba::VentanasVisibles(), 0);
-    }
-}
-
-TEST(MensajeNod, EnterPressesTheFocusedButton) {
-    for (auto [tipo, esperado] : {std::pair{1, 1}, {2, 2}}) {
-        prueba::AlAbrirseModal([](QWidget* w) { QTest::keyClick(w->focusWidget(), Qt::Key_Return); });
-        EXPECT_EQ(MuestraMensajePerson(peticion(tipo)), esperado) << tipo;
     }
 }
 
@@ -297,23 +278,6 @@ TEST(MensajeNod, LineBreaksOfEveryKindAndMarkupAsTyped) {
     }
 }
 
-// Plain "s" and "n" did nothing while the standard Si/No boxes answered them.
-TEST(MensajeNod, PlainLettersPressTheirButtons) {
-    const struct {
-        int tipo;
-        Qt::Key tecla;
-        int resultado;
-    } casos[] = {
-        {1, Qt::Key_S, 1}, {1, Qt::Key_N, 2}, {2, Qt::Key_S, 1}, {3, Qt::Key_C, 2}, {0, Qt::Key_A, 1}};
-    for (const auto& k : casos) {
-        prueba::AlAbrirseModal([&](QWidget* w) {
-            QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, Qt::Key_X); // no button's letter
-            QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, k.tecla);
-        });
-        EXPECT_EQ(MuestraMensajePerson(peticion(k.tipo)), k.resultado) << k.tipo << " " << k.tecla;
-    }
-}
-
 // With a visible owner near the screen's edge the box was placed partly off the screen.
 TEST(MensajeNod, CentredOnAnOwnerAtTheScreensEdgeTheBoxStaysOnScreen) {
     const QRect zona = QGuiApplication::primaryScreen()->availableGeometry();
@@ -333,7 +297,7 @@ TEST(MensajeNod, CentredOnAnOwnerAtTheScreensEdgeTheBoxStaysOnScreen) {
 TEST(MensajeNod, TheStopIconStandsOutOnRed) {
     Caja c;
     c.forma->CambiaIcono(0);
-    const QImage icono = c.forma->findChild<QLabel*>(QStringLiteral("IconoStop"))->pixmap().toImage();
+    const QImage icono = c.stop->pixmap().toImage();
     ASSERT_FALSE(icono.isNull());
     int visibles = 0, opacos = 0;
     for (int y = 0; y < icono.height(); ++y)
