@@ -10,7 +10,7 @@
 
 using namespace nod;
 
-TEST(Ventanas, CreaObjetoFindsByNameAmongTheApplicationsObjectsOnly) {
+TEST(Ventanas, CreaObjetoFindsByNameAmongTheApplicationsObjectsAndForms) {
     auto* suelto = new QObject(qApp);
     suelto->setObjectName(QStringLiteral("DMEMAIL"));
     QWidget propietario;
@@ -36,11 +36,8 @@ TEST(Ventanas, CreaObjetoFindsByNameAmongTheApplicationsObjectsOnly) {
 
     BorraObjeto(nullptr, false); // nothing to free
     delete suelto;
-}
 
-TEST(Ventanas, CreaObjetoFindsTopLevelForms) {
-    TFMensajeNod forma;
-    bool existia = false;
+    TFMensajeNod forma; // top-level forms are the application's too
     EXPECT_EQ(CreaObjeto({}, QStringLiteral("FMENSAJENOD"), nullptr, existia), &forma);
     EXPECT_TRUE(existia);
 }
@@ -89,33 +86,6 @@ TEST(Ventanas, PosicionDelCursorLeavesThePointAloneOnFailure) {
     FijaLectorCursor(anterior);
 }
 
-TEST(Ventanas, OcultaYMuestraNodrim) {
-    QWidget a, b, oculta;
-    a.show();
-    b.show();
-    ListaVentanas lista;
-    OcultaNodrim(lista);
-    ASSERT_TRUE(lista);
-    EXPECT_EQ(lista->size(), 2);
-    EXPECT_FALSE(a.isVisible());
-    EXPECT_FALSE(b.isVisible());
-    EXPECT_FALSE(lista->contains(&oculta));
-    {
-        QWidget efimera; // a form freed while hidden is skipped when showing again
-        efimera.show();
-        ListaVentanas otra;
-        OcultaNodrim(otra);
-        EXPECT_EQ(otra->size(), 1);
-        lista->append(&efimera);
-    }
-    MuestraNodrim(lista);
-    EXPECT_FALSE(lista);
-    EXPECT_TRUE(a.isVisible());
-    EXPECT_TRUE(b.isVisible());
-    EXPECT_FALSE(oculta.isVisible());
-    MuestraNodrim(lista); // an empty list is ignored
-}
-
 TEST(Ventanas, OcultaNodrimHidesTheActiveWindowLastSoItComesBackOnTop) {
     // Creation order a, b, c; the list the suite walks keeps the active window first.
     const struct {
@@ -123,7 +93,7 @@ TEST(Ventanas, OcultaNodrimHidesTheActiveWindowLastSoItComesBackOnTop) {
         const char* ocultadas;
     } casos[] = {{-1, "cba"}, {1, "cab"}, {0, "cba"}, {2, "bac"}};
     for (const auto& k : casos) {
-        QWidget v[3];
+        QWidget v[3], oculta;
         for (int i = 0; i < 3; ++i) {
             v[i].setObjectName(QString(QLatin1Char('a' + i)));
             v[i].show();
@@ -131,12 +101,28 @@ TEST(Ventanas, OcultaNodrimHidesTheActiveWindowLastSoItComesBackOnTop) {
         QApplication::setActiveWindow(k.activa < 0 ? nullptr : &v[k.activa]);
         ListaVentanas lista;
         OcultaNodrim(lista);
+        ASSERT_TRUE(lista);
+        EXPECT_FALSE(lista->contains(&oculta)) << "a hidden window is left alone";
         QString ocultadas;
         for (const QPointer<QWidget>& w : *lista)
-            ocultadas += w->objectName();
+            ocultadas += w->isVisible() ? QStringLiteral("!") : w->objectName();
         EXPECT_EQ(ocultadas, QLatin1String(k.ocultadas)) << k.activa;
         MuestraNodrim(lista);
+        EXPECT_FALSE(lista);
+        for (const QWidget& w : v)
+            EXPECT_TRUE(w.isVisible()) << k.activa;
+        EXPECT_FALSE(oculta.isVisible());
     }
+    ListaVentanas lista;
+    {
+        QWidget efimera; // a form freed while hidden is skipped when showing again
+        efimera.show();
+        OcultaNodrim(lista);
+        EXPECT_EQ(lista->size(), 1);
+    }
+    MuestraNodrim(lista);
+    EXPECT_FALSE(lista);
+    MuestraNodrim(lista); // an empty list is ignored
 }
 
 TEST(Ventanas, TomaFocoLeavesTheWindowRestoredToItsPlacement) {
