@@ -47,15 +47,6 @@ TEST(Mensajes, ScriptedServiceTakesAnswersFromItsOwnersSource) {
     EXPECT_TRUE(guion.mostrados()[2].porDefecto);
 }
 
-TEST(Mensajes, WaitWindowIsTracked) {
-    ServicioMensajesGuionado guion;
-    ServicioMensajesInstalado instalado(guion);
-    MuestraMensaje(QStringLiteral("Espere..."));
-    EXPECT_TRUE(guion.esperaVisible());
-    CierraMensaje();
-    EXPECT_FALSE(guion.esperaVisible());
-}
-
 TEST(Mensajes, InstalledServiceIsRestoredAfterItsScope) {
     ServicioMensajesGuionado exterior;
     ServicioMensajesInstalado a(exterior);

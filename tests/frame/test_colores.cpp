@@ -9,13 +9,11 @@ TEST(Colores, EverySchemeAndTheSilverFallback) {
     const struct {
         int esquema;
         TColor max, min, maxMen, minMen;
-    } casos[] = {
-        {1, 0x8C0000, 0xFF1515, 0xA20000, 0xFFB546}, {2, 0x4B9667, 0x9DBFA7, 0x064105, 0xB4FEA9},
-        {3, 0x0051A2, 0x0070DF, 0x0051A2, 0x0070DF}, {4, 0xC0C0C0, 0xC0C0C0, 0x13386C, 0x8DE6F8},
-        {6, 0x808080, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0}, {5, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0},
-        {0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0}, {-1, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0},
-        {7, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0},
-    };
+    } casos[] = {{1, 0x8C0000, 0xFF1515, 0xA20000, 0xFFB546}, {2, 0x4B9667, 0x9DBFA7, 0x064105, 0xB4FEA9},
+                 {3, 0x0051A2, 0x0070DF, 0x0051A2, 0x0070DF}, {4, 0xC0C0C0, 0xC0C0C0, 0x13386C, 0x8DE6F8},
+                 {6, 0x808080, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0}, {5, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0},
+                 {0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0}, {-1, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0},
+                 {7, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0, 0xC0C0C0}};
     for (const auto& c : casos) {
         EXPECT_EQ(GetMaxColor(c.esquema), c.max) << c.esquema;
         EXPECT_EQ(GetMinColor(c.esquema), c.min) << c.esquema;
@@ -68,11 +66,4 @@ TEST(MensajePerson, SecondParameterIsTheLowerLineAndFifthTheUpperOne) {
     EXPECT_EQ(s.peticion.icono, 1);
     ASSERT_EQ(s.mostrados().size(), 1);
     EXPECT_EQ(s.mostrados()[0].text, QStringLiteral("arriba\nabajo"));
-}
-
-TEST(MensajePerson, EscapeAnswersTwoAndTheFinancialBoxAnswersYes) {
-    ServicioMensajesGuionado s; // no answers: every box is closed as Escape would
-    ServicioMensajesInstalado instalado(s);
-    EXPECT_EQ(Mensaje_Person(0, {}, 0, {}, QStringLiteral("x"), {}, {}, 0, 0, 0, 0), 2);
-    EXPECT_EQ(Mensaje_ActivosFinancieros(1), 6);
 }

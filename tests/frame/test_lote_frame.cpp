@@ -22,11 +22,6 @@ TEST(LoteFrame, MensajePersonAnsweredFromTheScript) {
     EXPECT_EQ(r["dialogs"][0]["text"], "Se va a borrar la escritura\n¿Desea continuar?");
 }
 
-TEST(LoteFrame, MensajePersonWithoutAnswersIsEscape) {
-    const json r = pide(R"({"fn":"Mensaje_Person","args":[0,"",0,"T","x","","",0,0,0,0]})");
-    EXPECT_EQ(r["result"], 2);
-}
-
 TEST(LoteFrame, ColourRoutinesAndTheirErrors) {
     EXPECT_EQ(pide(R"({"fn":"GetMaxColor","args":[1]})")["result"], 0x8C0000);
     EXPECT_EQ(pide(R"({"fn":"GetMinColorMen","args":[1]})")["result"], 0xFFB546);
@@ -36,7 +31,8 @@ TEST(LoteFrame, ColourRoutinesAndTheirErrors) {
     EXPECT_NE(e["error"].get<std::string>().find("GetMinColor(integer)"), std::string::npos) << e.dump();
 }
 
-TEST(LoteFrame, FinancialAssetsBoxAnswers) {
+TEST(LoteFrame, BoxesWithoutAnswersGiveEscapesAndAnAnswerIsTaken) {
+    EXPECT_EQ(pide(R"({"fn":"Mensaje_Person","args":[0,"",0,"T","x","","",0,0,0,0]})")["result"], 2);
     EXPECT_EQ(pide(R"({"fn":"Mensaje_ActivosFinancieros","args":[1]})")["result"], 6);
     EXPECT_EQ(pide(R"({"fn":"Mensaje_ActivosFinancieros","args":[1],"answers":[7]})")["result"], 7);
 }
