@@ -39,15 +39,13 @@ TEST(FiltroCaracteres, EditingKeysOverASelectionInADigitsEdit) {
         const char16_t* texto;
         const char* queda;
         int cursor;
-    } casos[] = {
-        {"Delete as X11 sends it", Qt::Key_Delete, u"\x7f", "1256", 2},
-        {"Backspace", Qt::Key_Backspace, u"\b", "1256", 2},
-        {"a refused letter leaves text and selection", Qt::Key_A, u"a", "123456", 4},
-        {"a refused point", Qt::Key_Period, u".", "123456", 4},
-        {"a digit replaces the selection", Qt::Key_9, u"9", "12956", 3},
-        {"Home", Qt::Key_Home, u"", "123456", 0},
-        {"End", Qt::Key_End, u"", "123456", 6},
-    };
+    } casos[] = {{"Delete as X11 sends it", Qt::Key_Delete, u"\x7f", "1256", 2},
+                 {"Backspace", Qt::Key_Backspace, u"\b", "1256", 2},
+                 {"a refused letter leaves text and selection", Qt::Key_A, u"a", "123456", 4},
+                 {"a refused point", Qt::Key_Period, u".", "123456", 4},
+                 {"a digit replaces the selection", Qt::Key_9, u"9", "12956", 3},
+                 {"Home", Qt::Key_Home, u"", "123456", 0},
+                 {"End", Qt::Key_End, u"", "123456", 6}};
     for (const auto& c : casos) {
         QLineEdit e;
         SoloDigitos(&e);

@@ -74,13 +74,11 @@ TEST(FindFileNoRecursivo, WindowsMasksIgnoringCaseFilesOnly) {
     const struct {
         const char* mascara;
         QStringList esperado;
-    } casos[] = {
-        {"*.jpg", lista({"0007.JPG", "b.jpg"})},
-        {"?.JP*G", lista({"a.jpeg", "b.jpg"})},
-        {"*.*", lista({"0007.JPG", "[1].doc", "a.jpeg", "b.jpg", "LEEME", "x.jpg.txt"})},
-        {"[1].doc", lista({"[1].doc"})}, // brackets are plain characters in a Windows mask
-        {"*.bmp", {}},
-    };
+    } casos[] = {{"*.jpg", lista({"0007.JPG", "b.jpg"})},
+                 {"?.JP*G", lista({"a.jpeg", "b.jpg"})},
+                 {"*.*", lista({"0007.JPG", "[1].doc", "a.jpeg", "b.jpg", "LEEME", "x.jpg.txt"})},
+                 {"[1].doc", lista({"[1].doc"})}, // brackets are plain characters in a Windows mask
+                 {"*.bmp", {}}};
     for (const auto& c : casos)
         EXPECT_EQ(FindFileNoRecursivo(QStringLiteral("D"), QString::fromLatin1(c.mascara)), c.esperado)
             << c.mascara;

@@ -125,8 +125,7 @@ TEST(Rnumcad, Fault14CutsNeverSplitASurrogatePair) {
     } casos[] = {
         {&StrLeft, "StrLeft", 1, QStringLiteral("a")}, {&StrLeft, "StrLeft", 2, QStringLiteral("a")},
         {&StrLeft, "StrLeft", 3, s.left(3)},           {&StrRight, "StrRight", 2, QStringLiteral("b")},
-        {&StrRight, "StrRight", 3, s.right(3)},        {&StrLeft, "StrLeft", 4, s},
-    };
+        {&StrRight, "StrRight", 3, s.right(3)},        {&StrLeft, "StrLeft", 4, s}};
     for (const auto& c : casos)
         EXPECT_EQ(c.rutina(s, c.n), c.esperado) << c.nombre << ' ' << c.n;
 }
@@ -223,8 +222,7 @@ TEST(LetrasEnCatalan, FormsGenderAndCase) {
          "nou-cents noranta-nou mil nou-cents noranta-nou milions nou-cents noranta-nou mil nou-cents "
          "noranta-nou"},
         {1000000000000, 'M', 'S', false, ""},
-        {-5, 'M', 'S', false, ""},
-    };
+        {-5, 'M', 'S', false, ""}};
     for (const auto& c : casos)
         EXPECT_EQ(letrasEnCatalan(c.n, QLatin1Char(c.genero), QLatin1Char(c.caso), c.corto), u8(c.esperado))
             << c.n;

@@ -21,8 +21,7 @@ TEST(TextoVisible, EveryKindOfLineBreakBreaksAndControlCharactersAreBlanks) {
          u"e",
          u"a b c d e"},
         {u"<b>Pérez & Cía</b>", u"<b>Pérez & Cía</b>", u"<b>Pérez & Cía</b>"}, // markup is not touched
-        {u"", u"", u""},
-    };
+        {u"", u"", u""}};
     for (const auto& c : casos) {
         const QString entrada = QString::fromUtf16(c.entrada);
         EXPECT_EQ(NormalizaSaltos(entrada), QString::fromUtf16(c.saltos)) << entrada.toStdString();

@@ -8,9 +8,6 @@
 using namespace nod;
 
 namespace {
-QByteArray campo(const QByteArray& img, int offset, int largo) {
-    return img.mid(offset, largo);
-}
 QByteArray hastaNul(const QByteArray& img, int offset) {
     return QByteArray(img.constData() + offset);
 }
@@ -30,16 +27,15 @@ TEST(DOSExe, ImageFillsTheFieldsAndKeepsEverythingElse) {
     const QString programa = QStringLiteral("C:\\NODRIM\\UTIL\\COPIAS.EXE");
     const QByteArray img = ImagenPif(programa, QStringLiteral("/A /B"), QStringLiteral("Copias"));
     ASSERT_EQ(img.size(), kTamanoPif);
-    EXPECT_EQ(campo(img, 2, 30), QByteArray("Copias").leftJustified(30, ' '));
+    EXPECT_EQ(img.mid(2, 30), QByteArray("Copias").leftJustified(30, ' '));
     EXPECT_EQ(hastaNul(img, 36), "C:\\NODRIM\\UTIL\\COPIAS.EXE");
     EXPECT_EQ(hastaNul(img, 101), "C:\\NODRIM\\UTIL\\");
     EXPECT_EQ(hastaNul(img, 165), "/A /B");
     EXPECT_EQ(hastaNul(img, 453), "/A /B");
     // Outside the five fields and their NULs, the template's bytes stand as they were.
     QByteArray t = PlantillaPif();
-    for (auto [offset, largo] : {std::pair{2, 30}, {36, 64}, {101, 64}, {165, 64}, {453, 64}}) {
+    for (auto [offset, largo] : {std::pair{2, 30}, {36, 64}, {101, 64}, {165, 64}, {453, 64}})
         t.replace(offset, largo, img.mid(offset, largo));
-    }
     EXPECT_EQ(img, t);
 }
 
@@ -50,7 +46,7 @@ TEST(DOSExe, LongTextsAreCut) {
     EXPECT_EQ(hastaNul(img, 36).size(), 63);
     EXPECT_EQ(img[36 + 63], '\0');
     EXPECT_EQ(hastaNul(img, 165).size(), 63);
-    EXPECT_EQ(campo(img, 2, 30), QByteArray(30, 'T'));
+    EXPECT_EQ(img.mid(2, 30), QByteArray(30, 'T'));
     EXPECT_EQ(img[32], PlantillaPif()[32]) << "the title never spills into the next field";
 }
 
@@ -65,10 +61,6 @@ TEST(DOSExe, StartUpFolderIsTheProgramsFolderPart) {
         const QByteArray img = ImagenPif(QLatin1String(k.programa), {}, {});
         EXPECT_EQ(hastaNul(img, 101), QByteArray(k.carpeta)) << k.programa;
     }
-}
-
-TEST(DOSExe, TextOutsideWindows1252GivesNoImage) {
-    EXPECT_TRUE(ImagenPif(QStringLiteral("C:\\A.EXE"), QStringLiteral("\u4E2D"), QString()).isEmpty());
 }
 
 TEST(DOSExe, RunsTheProgramAndRemovesTheImage) {
@@ -91,7 +83,8 @@ TEST(DOSExe, RunsTheProgramAndRemovesTheImage) {
     FijaCarpetaPif({});
 }
 
-TEST(DOSExe, UnwritableFolderReturnsFalse) {
+TEST(DOSExe, TextOutsideWindows1252OrAnUnwritableFolderRunNothing) {
+    EXPECT_TRUE(ImagenPif(QStringLiteral("C:\\A.EXE"), QStringLiteral("\u4E2D"), QString()).isEmpty());
     FijaCarpetaPif(QStringLiteral("/proc/no-such-folder"));
     EXPECT_FALSE(DOSExe(QStringLiteral("/bin/true"), QString(), QString()));
     FijaCarpetaPif({});

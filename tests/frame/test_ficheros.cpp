@@ -17,20 +17,6 @@ void toca(const QString& ruta) {
 }
 } // namespace
 
-TEST(Ficheros, FicheroTemporalNodCreatesAUniqueEmptyFile) {
-    const QString a = FicheroTemporalNod(QStringLiteral("NODRIM"));
-    const QString b = FicheroTemporalNod(QStringLiteral("NODRIM"));
-    ASSERT_FALSE(a.isEmpty());
-    EXPECT_NE(a, b);
-    const QFileInfo fa(a);
-    EXPECT_TRUE(fa.exists());
-    EXPECT_EQ(fa.size(), 0);
-    EXPECT_TRUE(fa.fileName().startsWith(QStringLiteral("NOD")));
-    EXPECT_TRUE(fa.fileName().endsWith(QStringLiteral(".tmp")));
-    QFile::remove(a);
-    QFile::remove(b);
-}
-
 // The temporary folder of a test: TMPDIR points at "tmp" inside a folder of its own while it lives, so
 // that what lands beside the temporary folder can be seen too.
 class CarpetaTemporal {
@@ -93,10 +79,17 @@ TEST(Ficheros, Fault13TemporaryFilesKeepToTheTemporaryFolder) {
     for (const char* prefijo : {"../", "/tm", "a/b", "..\\", "C:x", "\n"})
         EXPECT_EQ(FicheroTemporalNod(QString::fromLatin1(prefijo)), QString()) << prefijo;
     EXPECT_EQ(QDir(tmp.fuera({})).entryList(QDir::Files), antes) << "nothing was created outside";
-    for (const char* prefijo : {"NOD", "", "..", "ÑÇ"}) {
+    QStringList creados;
+    for (const char* prefijo : {"NOD", "NOD", "", "..", "ÑÇ"}) {
         const QString f = FicheroTemporalNod(QString::fromUtf8(prefijo));
-        EXPECT_EQ(QFileInfo(f).absolutePath(), tmp.carpeta()) << prefijo;
+        const QFileInfo fi(f);
+        EXPECT_EQ(fi.absolutePath(), tmp.carpeta()) << prefijo;
+        EXPECT_TRUE(fi.exists() && fi.size() == 0) << prefijo << ": a new empty file";
+        EXPECT_TRUE(fi.fileName().endsWith(QStringLiteral(".tmp"))) << prefijo;
+        EXPECT_FALSE(creados.contains(f)) << prefijo << ": a name of its own";
+        creados << f;
     }
+    EXPECT_TRUE(QFileInfo(creados[0]).fileName().startsWith(QStringLiteral("NOD")));
 }
 
 TEST(Ficheros, FicheroAbierto) {
