@@ -147,27 +147,20 @@ TEST(DialogosMarco, ModalResultsOfTheSmallFrameDialogs) {
     prueba::OficinaPrueba o;
     AbridorDePrueba abridor;
     RelojDePrueba reloj;
-    const auto version = [] { return TFVersionNod().exec(); };
-    const auto zeb = [] { return TFPreguntaZEB(nullptr, QStringLiteral("texto")).exec(); };
-    const auto relojNod = [] { return TFRelojNod().exec(); };
-    const auto activos0 = [] { return MuestraActivosFinancieros(0); };
-    const auto activos1 = [] { return MuestraActivosFinancieros(1); };
+    const auto abre = [](std::string_view d) {
+        if (d == "version") return TFVersionNod().exec();
+        if (d == "zeb") return TFPreguntaZEB(nullptr, QStringLiteral("texto")).exec();
+        if (d == "reloj") return TFRelojNod().exec();
+        return MuestraActivosFinancieros(d == "activos 1" ? 1 : 0);
+    };
     const struct {
         const char* dialogo;
-        std::function<int()> abre;
         const char* accion; // a control's name to click, or nullptr for Escape
         int resultado;
-    } casos[] = {{"version", version, "BBAceptar", 1},
-                 {"version", version, nullptr, 2},
-                 {"zeb", zeb, nullptr, 2},
-                 {"zeb", zeb, "Imagen", 2},
-                 {"reloj", relojNod, nullptr, 2},
-                 {"reloj", relojNod, "BBCancelar", 2},
-                 {"activos 1", activos1, nullptr, 6},
-                 {"activos 0", activos0, nullptr, 6},
-                 {"activos 1", activos1, "BBSi", 6},
-                 {"activos 1", activos1, "BBNo", 7},
-                 {"activos 0", activos0, "BBAceptar", 1}};
+    } casos[] = {{"version", "BBAceptar", 1}, {"version", nullptr, 2},      {"zeb", nullptr, 2},
+                 {"zeb", "Imagen", 2},        {"reloj", nullptr, 2},        {"reloj", "BBCancelar", 2},
+                 {"activos 1", nullptr, 6},   {"activos 0", nullptr, 6},    {"activos 1", "BBSi", 6},
+                 {"activos 1", "BBNo", 7},    {"activos 0", "BBAceptar", 1}};
     for (const auto& k : casos) {
         prueba::AlAbrirseModal([&](QWidget* w) {
             if (k.accion)
@@ -175,13 +168,13 @@ TEST(DialogosMarco, ModalResultsOfTheSmallFrameDialogs) {
             else
                 QTest::keyClick(w, Qt::Key_Escape);
         });
-        EXPECT_EQ(k.abre(), k.resultado) << k.dialogo << " " << (k.accion ? k.accion : "Escape");
+        EXPECT_EQ(abre(k.dialogo), k.resultado) << k.dialogo << " " << (k.accion ? k.accion : "Escape");
         EXPECT_EQ(prueba::VentanasVisibles(), 0);
     }
     EXPECT_TRUE(reloj.pedidas.isEmpty());
 }
 
-TEST(VersionNod, GridListsTheTablesOfTheSuiteAlias) {
+TEST(VersionNod, GridListsTheTablesOfTheSuiteAliasOrSaysItHasNoFolder) {
     prueba::OficinaPrueba o(QStringLiteral("[GENERAL]\nAliasNodrim=DB\n[ALIAS]\nDB=DATOS\n"));
     for (const char* f : {"DATOS/CLIENTES.DBF", "DATOS/provin.dbf", "DATOS/CLIENTES.DBT", "DATOS/nota.txt"})
         o.escribe(QLatin1String(f), QStringLiteral("x"));
@@ -196,14 +189,12 @@ TEST(VersionNod, GridListsTheTablesOfTheSuiteAlias) {
     EXPECT_EQ(grid->item(1, 0)->text(), QStringLiteral("provin.dbf"));
     EXPECT_EQ(v.findChild<QLabel*>(QStringLiteral("LFecha"))->text(), QStringLiteral("21/04/22"));
     EXPECT_EQ(v.findChild<QLabel*>(QStringLiteral("LAviso")), nullptr);
-}
 
-TEST(VersionNod, AliasWithoutFolderSaysSo) {
-    prueba::OficinaPrueba o(QStringLiteral("[GENERAL]\nAliasNodrim=NADA\n"));
+    prueba::OficinaPrueba sinCarpeta(QStringLiteral("[GENERAL]\nAliasNodrim=NADA\n"));
     EXPECT_TRUE(TablasDelAlias(QStringLiteral("NADA")).isEmpty());
-    TFVersionNod v;
-    EXPECT_EQ(v.findChild<QTableWidget*>(QStringLiteral("SGTablas"))->rowCount(), 0);
-    auto* aviso = v.findChild<QLabel*>(QStringLiteral("LAviso"));
+    TFVersionNod vacia;
+    EXPECT_EQ(vacia.findChild<QTableWidget*>(QStringLiteral("SGTablas"))->rowCount(), 0);
+    auto* aviso = vacia.findChild<QLabel*>(QStringLiteral("LAviso"));
     ASSERT_NE(aviso, nullptr);
     EXPECT_TRUE(aviso->text().contains(QStringLiteral("NADA")));
 }
