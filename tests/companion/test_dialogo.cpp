@@ -79,7 +79,7 @@ TEST(ConvencionesDialogo, EnterMovesTheFocusFromEveryControlAndNeverAccepts) {
     EXPECT_EQ(sin.aceptados, 1);
 }
 
-TEST(ConvencionesDialogo, EscapeCloseButtonAndRejectGiveTheCancelResult) {
+TEST(ConvencionesDialogo, EscapeCloseButtonAndRejectGiveTheCancelResultUnlessTheWindowCannotBeCancelled) {
     struct PropioReject : Formulario {
         void reject() override { done(7); }
     };
@@ -114,9 +114,6 @@ TEST(ConvencionesDialogo, EscapeCloseButtonAndRejectGiveTheCancelResult) {
         EXPECT_EQ(f->exec(), c.esperado) << c.caso;
         EXPECT_EQ(f->result(), c.esperado) << c.caso;
     }
-}
-
-TEST(ConvencionesDialogo, AWindowThatCannotBeCancelledIgnoresEscapeAndTheCloseButton) {
     OpcionesDialogo o;
     o.escapeCierra = false;
     Formulario f(o);

@@ -2,6 +2,7 @@
 #include "frame/mensajeperson.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
@@ -35,35 +36,26 @@ public:
 };
 } // namespace
 
-TEST(MensajePerson, BackgroundComesFromTheSchemeOnlyWhenItIsPositive) {
+// The second parameter is the lower line and the fifth the upper one.
+TEST(MensajePerson, ParametersReachTheBoxAndTheBackgroundComesFromAPositiveScheme) {
     const struct {
         int esquema;
         TColor esperado;
     } casos[] = {{1, 0x8C0000}, {6, 0x808080}, {5, 0xC0C0C0}, {0, 0x123456}, {-4, 0x123456}};
     for (const auto& c : casos) {
-        ServicioQueGuarda s;
+        ServicioQueGuarda s({1});
         ServicioMensajesInstalado instalado(s);
-        Mensaje_Person(0, {}, 0, QStringLiteral("T"), QStringLiteral("m"), {}, {}, c.esquema, 0x123456,
-                       0xFFFFFF, 1);
-        EXPECT_EQ(s.peticion.fondo, c.esperado) << c.esquema;
-        EXPECT_EQ(s.peticion.letras, 0xFFFFFFu);
+        EXPECT_EQ(Mensaje_Person(5, QStringLiteral("abajo"), 1, QStringLiteral("Título"),
+                                 QStringLiteral("arriba"), QStringLiteral("Uno"), QStringLiteral("Dos"),
+                                 c.esquema, 0x123456, 0xFFFFFF, 0),
+                  1);
+        const PeticionMensajePerson& p = s.peticion;
+        EXPECT_EQ(p.fondo, c.esperado) << c.esquema;
+        EXPECT_EQ(p.letras, 0xFFFFFFu);
+        EXPECT_EQ(std::tuple(p.mensaje1, p.mensaje2, p.titulo, p.boton1, p.boton2, p.tipo, p.icono),
+                  std::tuple(QStringLiteral("arriba"), QStringLiteral("abajo"), QStringLiteral("Título"),
+                             QStringLiteral("Uno"), QStringLiteral("Dos"), 5, 1));
+        ASSERT_EQ(s.mostrados().size(), 1);
+        EXPECT_EQ(s.mostrados()[0].text, QStringLiteral("arriba\nabajo"));
     }
-}
-
-TEST(MensajePerson, SecondParameterIsTheLowerLineAndFifthTheUpperOne) {
-    ServicioQueGuarda s({1});
-    ServicioMensajesInstalado instalado(s);
-    const int r =
-        Mensaje_Person(5, QStringLiteral("abajo"), 1, QStringLiteral("Título"), QStringLiteral("arriba"),
-                       QStringLiteral("Uno"), QStringLiteral("Dos"), 0, 0, 0, 0);
-    EXPECT_EQ(r, 1);
-    EXPECT_EQ(s.peticion.mensaje1, QStringLiteral("arriba"));
-    EXPECT_EQ(s.peticion.mensaje2, QStringLiteral("abajo"));
-    EXPECT_EQ(s.peticion.titulo, QStringLiteral("Título"));
-    EXPECT_EQ(s.peticion.boton1, QStringLiteral("Uno"));
-    EXPECT_EQ(s.peticion.boton2, QStringLiteral("Dos"));
-    EXPECT_EQ(s.peticion.tipo, 5);
-    EXPECT_EQ(s.peticion.icono, 1);
-    ASSERT_EQ(s.mostrados().size(), 1);
-    EXPECT_EQ(s.mostrados()[0].text, QStringLiteral("arriba\nabajo"));
 }

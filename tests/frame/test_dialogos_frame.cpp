@@ -66,6 +66,7 @@ TEST(ActivosFinancieros, ButtonsByType) {
     }
 }
 
+// Escape hid the progress window while the work went on, and later updates went to a hidden window.
 TEST(EsperaListado, ProgressWindowLifecycle) {
     TFEsperaListado* f = MuestraProgreso(QStringLiteral("Listando clientes"));
     ASSERT_NE(f, nullptr);
@@ -76,6 +77,10 @@ TEST(EsperaListado, ProgressWindowLifecycle) {
     EXPECT_EQ(barra->minimum(), 0);
     EXPECT_EQ(barra->maximum(), 100);
     f->show();
+    QApplication::setActiveWindow(f);
+    QTest::keyClick(f, Qt::Key_Escape);
+    EXPECT_FALSE(f->close());
+    EXPECT_TRUE(f->isVisible()) << "neither Escape nor the close button hide it";
     for (auto [dada, queda] : {std::pair{40, 40}, {100, 100}, {150, 100}, {-5, 0}}) {
         CambiaProgreso(QStringLiteral("Paso %1").arg(dada), dada, f);
         EXPECT_EQ(barra->value(), queda) << dada;
@@ -324,19 +329,6 @@ TEST(ActivosFinancieros, TheHelpTextIsReachedAndScrolledFromTheKeyboard) {
     EXPECT_TRUE(TFMensajeActivosFinancieros::TextoAyuda().contains(QStringLiteral("ZXX")));
 }
 
-// Escape hid the progress window while the work went on, and later updates went to a hidden window.
-TEST(EsperaListado, EscapeAndTheCloseButtonLeaveTheProgressWindowShown) {
-    std::unique_ptr<TFEsperaListado> f(MuestraProgreso(QStringLiteral("Listando")));
-    f->show();
-    QApplication::setActiveWindow(f.get());
-    QTest::keyClick(f.get(), Qt::Key_Escape);
-    EXPECT_TRUE(f->isVisible());
-    EXPECT_FALSE(f->close());
-    EXPECT_TRUE(f->isVisible());
-    CambiaProgreso(QStringLiteral("Listando 50 %"), 50, f.get());
-    EXPECT_EQ(f->posicion(), 50);
-}
-
 // A long wait message made a window wider than the screen with both ends cut.
 TEST(ServicioQt, ALongWaitMessageWrapsInsideTheScreen) {
     ServicioMensajesQt qt;
@@ -373,9 +365,8 @@ TEST(PreguntaZEB, WithoutConfiguredAddressesTheLinksAreDisabled) {
     EXPECT_TRUE(Config.GetWebFabricante().isEmpty());
     EXPECT_TRUE(Config.GetCorreoFabricante().isEmpty());
     AbridorDePrueba abridor;
-    TFPreguntaZEB f(nullptr, QStringLiteral("<b>Soporte</b>"));
+    TFPreguntaZEB f(nullptr, QStringLiteral("Soporte"));
     f.show();
-    EXPECT_EQ(f.findChild<QLabel*>(QStringLiteral("LMensaje"))->text(), QStringLiteral("<b>Soporte</b>"));
     for (const char* nombre : {"LMDZeb", "LMDCorreo"}) {
         auto* l = f.findChild<QLabel*>(QLatin1String(nombre));
         EXPECT_FALSE(l->isEnabled()) << nombre;

@@ -33,7 +33,6 @@ TEST(MensajeNod, DesignValues) {
     EXPECT_EQ(c.forma->windowTitle(), QStringLiteral("Mensaje"));
     EXPECT_EQ(c.forma->size(), QSize(590, 149));
     EXPECT_EQ(c.forma->palette().color(QPalette::Window), QColor(Qt::red));
-    EXPECT_EQ(c.l1->geometry(), QRect(59, 5, 526, 61));
     EXPECT_EQ(c.l2->geometry(), QRect(45, 72, 540, 19));
     EXPECT_EQ(c.l1->font().pixelSize(), 15);
     EXPECT_EQ(c.l2->font().pixelSize(), 16);
@@ -127,14 +126,16 @@ TEST(MensajeNod, ButtonSetsForEveryType) {
     }
 }
 
-TEST(MensajeNod, FormCreateCentresOnAVisibleOwnerWindowElseOnTheScreen) {
+// With a visible owner near the screen's edge the box was placed partly off the screen.
+TEST(MensajeNod, FormCreateCentresOnAVisibleOwnerWindowElseOnTheScreenAndStaysOnIt) {
     QWidget ventana;
     ventana.setGeometry(30, 40, 700, 500);
     auto* control = new QWidget(&ventana);
     control->setGeometry(0, 0, 50, 20);
     QWidget oculta;
     oculta.setGeometry(30, 40, 700, 500);
-    const QPoint pantalla = QGuiApplication::primaryScreen()->availableGeometry().center();
+    const QRect zona = QGuiApplication::primaryScreen()->availableGeometry();
+    const QPoint pantalla = zona.center();
     const struct {
         const char* caso;
         QWidget* owner;
@@ -150,32 +151,18 @@ TEST(MensajeNod, FormCreateCentresOnAVisibleOwnerWindowElseOnTheScreen) {
         const QPoint esperado = k.enVentana ? ventana.frameGeometry().center() : pantalla;
         EXPECT_LE((forma.geometry().center() - esperado).manhattanLength(), 1) << k.caso;
     }
-}
-
-TEST(MensajeNod, IconFollowsTheStopValue) {
-    for (auto [icono, stop] : {std::pair{0, true}, {1, false}, {7, false}, {-1, false}}) {
-        Caja c;
-        c.forma->CambiaIcono(icono);
-        EXPECT_EQ(c.stop->isVisibleTo(c.forma.get()), stop) << icono;
-        EXPECT_EQ(c.pregunta->isVisibleTo(c.forma.get()), !stop) << icono;
+    for (const QPoint& p : {zona.bottomRight() - QPoint(100, 60), zona.topLeft() - QPoint(150, 40)}) {
+        ventana.setGeometry(QRect(p, QSize(300, 200)));
+        TFMensajeNod forma(&ventana);
+        forma.show();
+        EXPECT_TRUE(zona.contains(forma.frameGeometry())) << p.x() << "," << p.y();
     }
 }
 
-namespace {
-PeticionMensajePerson peticion(int tipo) {
-    PeticionMensajePerson p;
-    p.tipo = tipo;
-    p.titulo = QStringLiteral("Aviso");
-    p.mensaje1 = QStringLiteral("Se ha guardado la escritura");
-    p.fondo = 0x8C0000;
-    p.letras = 0xFFFFFF;
-    return p;
-}
-} // namespace
-
-// Every way to answer the real box. Escape answers 2 for every type, even when the second button is
-// hidden (type 0), and Enter presses the focused button. Plain "s" and "n" did nothing while the standard
-// Si/No boxes answered them: a plain letter presses its button, "x" (no button's letter) does nothing.
+// Every way to answer the real box, reached through the Qt service. Escape answers 2 for every type, even
+// when the second button is hidden (type 0), and Enter presses the focused button. Plain "s" and "n" did
+// nothing while the standard Si/No boxes answered them: a plain letter presses its button, "x" (no button's
+// letter) does nothing.
 TEST(MensajeNod, ModalResultsOfTheRealBox) {
     const struct {
         int tipo;
@@ -189,12 +176,16 @@ TEST(MensajeNod, ModalResultsOfTheRealBox) {
         {1, {}, "BCANCELAR", 2},         {6, {}, "BCANCELAR", 2},         {1, Qt::Key_Return, nullptr, 1},
         {2, Qt::Key_Return, nullptr, 2}, {1, Qt::Key_S, nullptr, 1},      {1, Qt::Key_N, nullptr, 2},
         {2, Qt::Key_S, nullptr, 1},      {3, Qt::Key_C, nullptr, 2},      {0, Qt::Key_A, nullptr, 1}};
+    ServicioMensajesQt qt;
+    ServicioMensajesInstalado instalado(qt);
     for (const auto& k : casos) {
-        QString titulo;
+        QString titulo, arriba, abajo;
         QColor fondo;
         prueba::AlAbrirseModal([&](QWidget* w) {
             titulo = w->windowTitle();
             fondo = w->palette().color(QPalette::Window);
+            arriba = w->findChild<QLabel*>(QStringLiteral("lmensaje"))->text();
+            abajo = w->findChild<QLabel*>(QStringLiteral("LMENSAJE2"))->text();
             if (k.boton) {
                 QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(k.boton)), Qt::LeftButton);
                 return;
@@ -202,29 +193,16 @@ TEST(MensajeNod, ModalResultsOfTheRealBox) {
             QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, Qt::Key_X);
             QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, k.tecla);
         });
-        EXPECT_EQ(MuestraMensajePerson(peticion(k.tipo)), k.resultado)
+        EXPECT_EQ(Mensaje_Person(k.tipo, QStringLiteral("abajo"), 1, QStringLiteral("Aviso"),
+                                 QStringLiteral("arriba"), {}, {}, 0, 0x8C0000, 0xFFFFFF, 0),
+                  k.resultado)
             << k.tipo << " " << (k.boton ? k.boton : "key") << " " << k.tecla;
         EXPECT_EQ(titulo, QStringLiteral("Aviso"));
+        EXPECT_EQ(std::pair(arriba, abajo), std::pair(QStringLiteral("arriba"), QStringLiteral("abajo")));
         EXPECT_EQ(fondo, QColor(0, 0, 0x8C));
         EXPECT_EQ(prueba::VentanasVisibles(), 0);
         EXPECT_TRUE(FMensajeNod.isNull()) << "the box is freed after the call";
     }
-}
-
-TEST(MensajeNod, MensajePersonThroughTheQtService) {
-    ServicioMensajesQt qt;
-    ServicioMensajesInstalado instalado(qt);
-    QString texto1, texto2;
-    prueba::AlAbrirseModal([&](QWidget* w) {
-        texto1 = w->findChild<QLabel*>(QStringLiteral("lmensaje"))->text();
-        texto2 = w->findChild<QLabel*>(QStringLiteral("LMENSAJE2"))->text();
-        QTest::mouseClick(w->findChild<QPushButton*>(QStringLiteral("BACEPTAR")), Qt::LeftButton);
-    });
-    EXPECT_EQ(Mensaje_Person(1, QStringLiteral("abajo"), 1, QStringLiteral("T"), QStringLiteral("arriba"), {},
-                             {}, 2, 0, 0xFFFFFF, 0),
-              1);
-    EXPECT_EQ(texto1, QStringLiteral("arriba"));
-    EXPECT_EQ(texto2, QStringLiteral("abajo"));
 }
 
 // An upper text longer than three lines overflowed at both ends: a 2,000-character message showed only
@@ -278,25 +256,14 @@ TEST(MensajeNod, LineBreaksOfEveryKindAndMarkupAsTyped) {
     }
 }
 
-// With a visible owner near the screen's edge the box was placed partly off the screen.
-TEST(MensajeNod, CentredOnAnOwnerAtTheScreensEdgeTheBoxStaysOnScreen) {
-    const QRect zona = QGuiApplication::primaryScreen()->availableGeometry();
-    const QPoint esquinas[] = {zona.bottomRight() - QPoint(100, 60), zona.topLeft() - QPoint(150, 40)};
-    for (const QPoint& p : esquinas) {
-        QWidget duena;
-        duena.setGeometry(QRect(p, QSize(300, 200)));
-        duena.show();
-        TFMensajeNod forma(&duena);
-        forma.CambiaMensaje1(QStringLiteral("texto"));
-        forma.show();
-        EXPECT_TRUE(zona.contains(forma.frameGeometry())) << p.x() << "," << p.y();
-    }
-}
-
 // The stop icon was nearly invisible on the default red background.
-TEST(MensajeNod, TheStopIconStandsOutOnRed) {
+TEST(MensajeNod, IconFollowsTheStopValueAndTheStopIconStandsOutOnRed) {
     Caja c;
-    c.forma->CambiaIcono(0);
+    for (auto [icono, stop] : {std::pair{1, false}, {7, false}, {-1, false}, {0, true}}) {
+        c.forma->CambiaIcono(icono);
+        EXPECT_EQ(c.stop->isVisibleTo(c.forma.get()), stop) << icono;
+        EXPECT_EQ(c.pregunta->isVisibleTo(c.forma.get()), !stop) << icono;
+    }
     const QImage icono = c.stop->pixmap().toImage();
     ASSERT_FALSE(icono.isNull());
     int visibles = 0, opacos = 0;

@@ -20,13 +20,10 @@ TEST(Notarios, AliasNotario) {
 TEST(Notarios, AliasNotarioActualFollowsTheSelectedNotary) {
     OficinaPrueba o(QStringLiteral("[GENERAL]\nNotario=2\n"));
     EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO2"));
-    Config.SetsNotario(QStringLiteral("3"));
-    EXPECT_EQ(Config.GetsNotario(), QStringLiteral("3"));
-    EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO3"));
-    Config.SetsNotario(QStringLiteral("0"));
-    EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO1"));
-    Config.SetsNotario(QStringLiteral("x"));
-    EXPECT_EQ(AliasNotarioActual(), QStringLiteral("DBNOTARIO1"));
+    for (auto [notario, alias] : {std::pair{"3", "DBNOTARIO3"}, {"0", "DBNOTARIO1"}, {"x", "DBNOTARIO1"}}) {
+        Config.SetsNotario(QLatin1String(notario));
+        EXPECT_EQ(AliasNotarioActual(), QLatin1String(alias)) << notario;
+    }
 }
 
 TEST(Notarios, NumeroDeNotariosNeverBelowOne) {
