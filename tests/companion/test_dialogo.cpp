@@ -18,6 +18,7 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
@@ -83,36 +84,32 @@ TEST(ConvencionesDialogo, EscapeCloseButtonAndRejectGiveTheCancelResultUnlessThe
     struct PropioReject : Formulario {
         void reject() override { done(7); }
     };
-    const struct {
-        const char* caso;
-        int resultadoEscape;
-        bool propio;
-        int como; // 0 Escape, 1 close button, 2 "&Cancelar", 3 reject()
-        int esperado;
-    } casos[] = {{"Escape", 2, false, 0, 2},
-                 {"close button", 2, false, 1, 2},
-                 {"Cancelar of a button box", 2, false, 2, 2},
-                 {"reject()", 2, false, 3, 2},
-                 {"another result", 6, false, 0, 6},
-                 {"the dialog's own reject()", 2, true, 0, 7}};
-    for (const auto& c : casos) {
+    // como: 0 Escape, 1 close button, 2 "&Cancelar", 3 reject()
+    const std::tuple<const char*, int, bool, int, int> casos[] = {
+        {"Escape", 2, false, 0, 2},
+        {"close button", 2, false, 1, 2},
+        {"Cancelar of a button box", 2, false, 2, 2},
+        {"reject()", 2, false, 3, 2},
+        {"another result", 6, false, 0, 6},
+        {"the dialog's own reject()", 2, true, 0, 7}};
+    for (const auto& [caso, resultadoEscape, propio, como, esperado] : casos) {
         OpcionesDialogo o;
-        o.resultadoEscape = c.resultadoEscape;
+        o.resultadoEscape = resultadoEscape;
         std::unique_ptr<Formulario> f =
-            c.propio ? std::make_unique<PropioReject>() : std::make_unique<Formulario>();
+            propio ? std::make_unique<PropioReject>() : std::make_unique<Formulario>();
         AplicaConvencionesDialogo(f.get(), o);
         prueba::AlAbrirseModal([&](QWidget* w) {
-            if (c.como == 0)
+            if (como == 0)
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-            else if (c.como == 1)
+            else if (como == 1)
                 w->close();
-            else if (c.como == 2)
+            else if (como == 2)
                 QTest::mouseClick(f->cancelar, Qt::LeftButton);
             else
                 f->reject();
         });
-        EXPECT_EQ(f->exec(), c.esperado) << c.caso;
-        EXPECT_EQ(f->result(), c.esperado) << c.caso;
+        EXPECT_EQ(f->exec(), esperado) << caso;
+        EXPECT_EQ(f->result(), esperado) << caso;
     }
     OpcionesDialogo o;
     o.escapeCierra = false;
@@ -223,13 +220,10 @@ TEST(ConvencionesDialogo, ShownNextToAScreenEdgeTheWindowStaysInside) {
 }
 
 TEST(ConvencionesDialogo, AcceleratorsAreUniqueAmongVisibleControls) {
-    const struct {
-        const char* texto;
-        QChar letra;
-    } letras[] = {
+    const std::tuple<const char*, QChar> letras[] = {
         {"Cata&stro", u's'}, {"&Ñ", u'ñ'}, {"Pérez && Cía", QChar()}, {"&& &Otro", u'o'}, {"fin&", QChar()}};
-    for (const auto& l : letras)
-        EXPECT_EQ(Acelerador(QString::fromUtf8(l.texto)), l.letra) << l.texto;
+    for (const auto& [texto, letra] : letras)
+        EXPECT_EQ(Acelerador(QString::fromUtf8(texto)), letra) << texto;
 
     Formulario f;
     EXPECT_TRUE(AceleradoresRepetidos(&f).isEmpty());
@@ -253,19 +247,16 @@ TEST(ConvencionesDialogo, ATextTooLongForItsLabelKeepsItsBeginning) {
     QString largo;
     for (int i = 0; largo.size() < 2000; ++i)
         largo += QStringLiteral("palabra%1 ").arg(i);
-    const struct {
-        QString texto;
-        bool cabe;
-    } casos[] = {{QStringLiteral("Corto\r<b>dos</b>"), true},
-                 {largo, false},
-                 {QString(2000, u'x'), false},
-                 {QString(100000, u'y'), false},
-                 {QStringLiteral("uno\ndos\ntres\ncuatro\ncinco"), false}};
-    for (const auto& c : casos) {
-        EXPECT_EQ(PonTextoAjustado(&l, c.texto), c.cabe) << c.texto.left(20).toStdString();
+    const std::tuple<QString, bool> casos[] = {{QStringLiteral("Corto\r<b>dos</b>"), true},
+                                               {largo, false},
+                                               {QString(2000, u'x'), false},
+                                               {QString(100000, u'y'), false},
+                                               {QStringLiteral("uno\ndos\ntres\ncuatro\ncinco"), false}};
+    for (const auto& [texto, cabe] : casos) {
+        EXPECT_EQ(PonTextoAjustado(&l, texto), cabe) << texto.left(20).toStdString();
         EXPECT_EQ(l.textFormat(), Qt::PlainText);
-        EXPECT_TRUE(l.text().startsWith(TextoVisible(c.texto).left(5))) << "the beginning is shown";
-        if (c.cabe) {
+        EXPECT_TRUE(l.text().startsWith(TextoVisible(texto).left(5))) << "the beginning is shown";
+        if (cabe) {
             EXPECT_EQ(l.text(), QStringLiteral("Corto\n<b>dos</b>"));
             EXPECT_EQ(l.alignment(), Qt::AlignLeft | Qt::AlignVCenter);
             EXPECT_TRUE(l.toolTip().isEmpty());
@@ -276,9 +267,9 @@ TEST(ConvencionesDialogo, ATextTooLongForItsLabelKeepsItsBeginning) {
             const QFontMetrics fm(l.font());
             for (const QString& linea : l.text().split(u'\n'))
                 EXPECT_LE(fm.horizontalAdvance(linea), l.contentsRect().width());
-            EXPECT_EQ(l.accessibleDescription(), c.texto.size() > kMaximoTextoAyuda
-                                                     ? c.texto.left(kMaximoTextoAyuda) + QStringLiteral("…")
-                                                     : TextoVisible(c.texto));
+            EXPECT_EQ(l.accessibleDescription(), texto.size() > kMaximoTextoAyuda
+                                                     ? texto.left(kMaximoTextoAyuda) + QStringLiteral("…")
+                                                     : TextoVisible(texto));
             EXPECT_FALSE(l.toolTip().isEmpty());
         }
     }

@@ -22,6 +22,7 @@
 #include <QTextEdit>
 #include <QTimeEdit>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
@@ -50,19 +51,15 @@ struct AbridorDePrueba {
 } // namespace
 
 TEST(ActivosFinancieros, ButtonsByType) {
-    const struct {
-        int tipo;
-        bool si, no, aceptar;
-    } casos[] = {
+    const std::tuple<int, bool, bool, bool> casos[] = {
         {0, false, false, true}, {1, true, true, false}, {2, true, true, true}, {-1, true, true, true}};
-    for (const auto& k : casos) {
+    for (const auto& [tipo, si, no, aceptar] : casos) {
         TFMensajeActivosFinancieros f;
-        f.CambiaTipoMensaje(k.tipo);
+        f.CambiaTipoMensaje(tipo);
         EXPECT_EQ(f.windowTitle(), QStringLiteral("Información sobre los Activos Financieros"));
-        EXPECT_EQ(f.findChild<QPushButton*>(QStringLiteral("BBSi"))->isVisibleTo(&f), k.si) << k.tipo;
-        EXPECT_EQ(f.findChild<QPushButton*>(QStringLiteral("BBNo"))->isVisibleTo(&f), k.no) << k.tipo;
-        EXPECT_EQ(f.findChild<QPushButton*>(QStringLiteral("BBAceptar"))->isVisibleTo(&f), k.aceptar)
-            << k.tipo;
+        EXPECT_EQ(f.findChild<QPushButton*>(QStringLiteral("BBSi"))->isVisibleTo(&f), si) << tipo;
+        EXPECT_EQ(f.findChild<QPushButton*>(QStringLiteral("BBNo"))->isVisibleTo(&f), no) << tipo;
+        EXPECT_EQ(f.findChild<QPushButton*>(QStringLiteral("BBAceptar"))->isVisibleTo(&f), aceptar) << tipo;
     }
 }
 
@@ -158,22 +155,20 @@ TEST(DialogosMarco, ModalResultsOfTheSmallFrameDialogs) {
         if (d == "reloj") return TFRelojNod().exec();
         return MuestraActivosFinancieros(d == "activos 1" ? 1 : 0);
     };
-    const struct {
-        const char* dialogo;
-        const char* accion; // a control's name to click, or nullptr for Escape
-        int resultado;
-    } casos[] = {{"version", "BBAceptar", 1}, {"version", nullptr, 2},      {"zeb", nullptr, 2},
-                 {"zeb", "Imagen", 2},        {"reloj", nullptr, 2},        {"reloj", "BBCancelar", 2},
-                 {"activos 1", nullptr, 6},   {"activos 0", nullptr, 6},    {"activos 1", "BBSi", 6},
-                 {"activos 1", "BBNo", 7},    {"activos 0", "BBAceptar", 1}};
-    for (const auto& k : casos) {
+    // accion: a control's name to click, or nullptr for Escape
+    const std::tuple<const char*, const char*, int> casos[] = {
+        {"version", "BBAceptar", 1}, {"version", nullptr, 2},      {"zeb", nullptr, 2},
+        {"zeb", "Imagen", 2},        {"reloj", nullptr, 2},        {"reloj", "BBCancelar", 2},
+        {"activos 1", nullptr, 6},   {"activos 0", nullptr, 6},    {"activos 1", "BBSi", 6},
+        {"activos 1", "BBNo", 7},    {"activos 0", "BBAceptar", 1}};
+    for (const auto& [dialogo, accion, resultado] : casos) {
         prueba::AlAbrirseModal([&](QWidget* w) {
-            if (k.accion)
-                QTest::mouseClick(w->findChild<QWidget*>(QLatin1String(k.accion)), Qt::LeftButton);
+            if (accion)
+                QTest::mouseClick(w->findChild<QWidget*>(QLatin1String(accion)), Qt::LeftButton);
             else
                 QTest::keyClick(w, Qt::Key_Escape);
         });
-        EXPECT_EQ(abre(k.dialogo), k.resultado) << k.dialogo << " " << (k.accion ? k.accion : "Escape");
+        EXPECT_EQ(abre(dialogo), resultado) << dialogo << " " << (accion ? accion : "Escape");
         EXPECT_EQ(prueba::VentanasVisibles(), 0);
     }
     EXPECT_TRUE(reloj.pedidas.isEmpty());
@@ -211,27 +206,24 @@ TEST(PreguntaZEB, LinksReactToTheMouseAndOpenThroughTheShell) {
     TFPreguntaZEB f(nullptr, QStringLiteral("¿Llamar al fabricante?"));
     EXPECT_EQ(f.findChild<QLabel*>(QStringLiteral("LMensaje"))->text(),
               QStringLiteral("¿Llamar al fabricante?"));
-    const struct {
-        const char* nombre;
-        QColor encima, reposo;
-        const char* url;
-    } casos[] = {{"LMDZeb", QColor(0x01, 0xC1, 0xFA), QColor(0, 0, 0xFF), "https://fabricante.example"},
-                 {"LMDCorreo", QColor(0xB9, 0, 0), QColor(0x80, 0, 0), "mailto:ayuda@fabricante.example"}};
-    for (const auto& k : casos) {
-        auto* l = f.findChild<QLabel*>(QLatin1String(k.nombre));
+    const std::tuple<const char*, QColor, QColor, const char*> casos[] = {
+        {"LMDZeb", QColor(0x01, 0xC1, 0xFA), QColor(0, 0, 0xFF), "https://fabricante.example"},
+        {"LMDCorreo", QColor(0xB9, 0, 0), QColor(0x80, 0, 0), "mailto:ayuda@fabricante.example"}};
+    for (const auto& [nombre, encima, reposo, url] : casos) {
+        auto* l = f.findChild<QLabel*>(QLatin1String(nombre));
         ASSERT_NE(l, nullptr);
         const int puntos = l->font().pointSize();
-        EXPECT_EQ(l->palette().color(QPalette::WindowText), k.reposo);
+        EXPECT_EQ(l->palette().color(QPalette::WindowText), reposo);
         f.EntraEnlace(l);
         EXPECT_EQ(l->font().pointSize(), puntos + 1);
-        EXPECT_EQ(l->palette().color(QPalette::WindowText), k.encima);
+        EXPECT_EQ(l->palette().color(QPalette::WindowText), encima);
         EXPECT_EQ(l->cursor().shape(), Qt::PointingHandCursor);
         f.SaleEnlace(l);
         EXPECT_EQ(l->font().pointSize(), puntos);
-        EXPECT_EQ(l->palette().color(QPalette::WindowText), k.reposo);
+        EXPECT_EQ(l->palette().color(QPalette::WindowText), reposo);
         QTest::mouseClick(l, Qt::LeftButton);
         ASSERT_FALSE(abridor.abiertas.isEmpty());
-        EXPECT_EQ(abridor.abiertas.last(), QUrl(QLatin1String(k.url)));
+        EXPECT_EQ(abridor.abiertas.last(), QUrl(QLatin1String(url)));
     }
     f.show();
     QTest::mouseClick(f.findChild<QLabel*>(QStringLiteral("Imagen")), Qt::LeftButton);

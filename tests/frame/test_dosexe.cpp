@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
@@ -51,15 +52,14 @@ TEST(DOSExe, LongTextsAreCut) {
 }
 
 TEST(DOSExe, StartUpFolderIsTheProgramsFolderPart) {
-    const struct {
-        const char *programa, *carpeta;
-    } casos[] = {{"C:\\NOD\\COPIAS.EXE", "C:\\NOD\\"},
-                 {"C:COPIAS.EXE", "C:"},
-                 {"COPIAS.EXE", ""},
-                 {"\\\\SERVIDOR\\NOD\\X.BAT", "\\\\SERVIDOR\\NOD\\"}};
-    for (const auto& k : casos) {
-        const QByteArray img = ImagenPif(QLatin1String(k.programa), {}, {});
-        EXPECT_EQ(hastaNul(img, 101), QByteArray(k.carpeta)) << k.programa;
+    const std::tuple<const char*, const char*> casos[] = {
+        {"C:\\NOD\\COPIAS.EXE", "C:\\NOD\\"},
+        {"C:COPIAS.EXE", "C:"},
+        {"COPIAS.EXE", ""},
+        {"\\\\SERVIDOR\\NOD\\X.BAT", "\\\\SERVIDOR\\NOD\\"}};
+    for (const auto& [programa, carpeta] : casos) {
+        const QByteArray img = ImagenPif(QLatin1String(programa), {}, {});
+        EXPECT_EQ(hastaNul(img, 101), QByteArray(carpeta)) << programa;
     }
 }
 

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <tuple>
 #include <unistd.h>
 
 using namespace nod;
@@ -114,17 +115,14 @@ TEST(Ficheros, FicheroAbierto) {
 }
 
 TEST(Ficheros, ExtraePath) {
-    const struct {
-        const char* nombre;
-        const char* carpeta;
-    } casos[] = {{"C:\\NOD\\DATOS\\A.DBF", "C:\\NOD\\DATOS\\"},
-                 {"C:A.DBF", "C:"},
-                 {"/srv/nod/a.dbf", "/srv/nod/"},
-                 {"A.DBF", ""},
-                 {"", ""},
-                 {"C:\\NOD\\", "C:\\NOD\\"}};
-    for (const auto& c : casos)
-        EXPECT_EQ(ExtraePath(QString::fromUtf8(c.nombre)), QString::fromUtf8(c.carpeta)) << c.nombre;
+    const std::tuple<const char*, const char*> casos[] = {{"C:\\NOD\\DATOS\\A.DBF", "C:\\NOD\\DATOS\\"},
+                                                          {"C:A.DBF", "C:"},
+                                                          {"/srv/nod/a.dbf", "/srv/nod/"},
+                                                          {"A.DBF", ""},
+                                                          {"", ""},
+                                                          {"C:\\NOD\\", "C:\\NOD\\"}};
+    for (const auto& [nombre, carpeta] : casos)
+        EXPECT_EQ(ExtraePath(QString::fromUtf8(nombre)), QString::fromUtf8(carpeta)) << nombre;
 }
 
 TEST(Ficheros, GetDateCountsFromTheFirstOfJanuaryOfYearOne) {

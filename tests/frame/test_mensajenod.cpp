@@ -10,6 +10,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 #include <memory>
+#include <tuple>
 
 using namespace nod;
 
@@ -45,29 +46,25 @@ TEST(MensajeNod, DesignValues) {
 
 // One box shown again and again: the full layout comes back after a short one.
 TEST(MensajeNod, FormShowLaysTheBoxOutByWhichLinesArePresent) {
-    const struct {
-        const char *m1, *m2;
-        int alto, topLinea2, topBotones;
-        bool ve1, ve2;
-    } casos[] = {
+    const std::tuple<const char*, const char*, int, int, int, bool, bool> casos[] = {
         {"", "abajo", 123, 21, 62, false, true},
         {"arriba", "abajo", 150, 56, 89, true, true},
         {"arriba", "", 123, 56, 62, true, false},
         {"", "", 123, 21, 62, false, false}, // no text at all: the short box with no line
     };
     Caja c;
-    for (const auto& k : casos) {
+    for (const auto& [m1, m2, alto, topLinea2, topBotones, ve1, ve2] : casos) {
         c.forma->hide();
         c.forma->CambiaTipoMensaje(3, {}, {});
-        c.forma->CambiaMensaje1(QString::fromUtf8(k.m1));
-        c.forma->CambiaMensaje2(QString::fromUtf8(k.m2));
+        c.forma->CambiaMensaje1(QString::fromUtf8(m1));
+        c.forma->CambiaMensaje2(QString::fromUtf8(m2));
         c.forma->show();
-        EXPECT_EQ(c.forma->height(), k.alto) << k.m1 << "|" << k.m2;
-        EXPECT_EQ(c.l2->y(), k.topLinea2) << k.m1 << "|" << k.m2;
-        EXPECT_EQ(c.b1->y(), k.topBotones) << k.m1 << "|" << k.m2;
-        EXPECT_EQ(c.b2->y(), k.topBotones) << k.m1 << "|" << k.m2;
-        EXPECT_EQ(c.l1->isVisible(), k.ve1);
-        EXPECT_EQ(c.l2->isVisible(), k.ve2);
+        EXPECT_EQ(c.forma->height(), alto) << m1 << "|" << m2;
+        EXPECT_EQ(c.l2->y(), topLinea2) << m1 << "|" << m2;
+        EXPECT_EQ(c.b1->y(), topBotones) << m1 << "|" << m2;
+        EXPECT_EQ(c.b2->y(), topBotones) << m1 << "|" << m2;
+        EXPECT_EQ(c.l1->isVisible(), ve1);
+        EXPECT_EQ(c.l2->isVisible(), ve2);
         EXPECT_LE(c.b1->geometry().bottom(), c.forma->height()) << "buttons stay inside the box";
     }
 }
@@ -84,45 +81,41 @@ TEST(MensajeNod, SecondLineLongerThanFortyCharactersIsDrawnAtTenPoints) {
 }
 
 TEST(MensajeNod, ButtonSetsForEveryType) {
-    const struct {
-        int tipo;
-        const char *c1, *c2;
-        bool ve2;
-        int izquierda1;
-        int foco; // 1 first, 2 second, 0 the box's default
-    } casos[] = {{0, "&Aceptar", "&Cancelar", false, 491, 0},
-                 {1, "&Si", "&No", true, 374, 1},
-                 {2, "&Si", "&No", true, 374, 2},
-                 {3, "&Aceptar", "&Cancelar", true, 374, 1},
-                 {4, "&Aceptar", "&Cancelar", true, 374, 2},
-                 {5, "Guardar", "Descartar", true, 374, 1},
-                 {6, "Guardar", "Descartar", true, 374, 2},
-                 {9, "&Aceptar", "&Cancelar", true, 374, 0}};
-    for (const auto& k : casos) {
+    // foco: 1 first, 2 second, 0 the box's default
+    const std::tuple<int, const char*, const char*, bool, int, int> casos[] = {
+        {0, "&Aceptar", "&Cancelar", false, 491, 0},
+        {1, "&Si", "&No", true, 374, 1},
+        {2, "&Si", "&No", true, 374, 2},
+        {3, "&Aceptar", "&Cancelar", true, 374, 1},
+        {4, "&Aceptar", "&Cancelar", true, 374, 2},
+        {5, "Guardar", "Descartar", true, 374, 1},
+        {6, "Guardar", "Descartar", true, 374, 2},
+        {9, "&Aceptar", "&Cancelar", true, 374, 0}};
+    for (const auto& [tipo, c1, c2, ve2, izquierda1, foco] : casos) {
         Caja c;
         const int puntos = c.b1->font().pointSize();
-        c.forma->CambiaTipoMensaje(k.tipo, QStringLiteral("Guardar"), QStringLiteral("Descartar"));
+        c.forma->CambiaTipoMensaje(tipo, QStringLiteral("Guardar"), QStringLiteral("Descartar"));
         c.forma->CambiaMensaje1(QStringLiteral("texto"));
         c.forma->show();
         QApplication::setActiveWindow(c.forma.get());
-        EXPECT_EQ(c.b1->text(), QLatin1String(k.c1)) << k.tipo;
-        EXPECT_EQ(c.b2->text(), QLatin1String(k.c2)) << k.tipo;
-        EXPECT_EQ(c.b2->isVisible(), k.ve2) << k.tipo;
-        EXPECT_EQ(c.b1->x(), k.izquierda1) << k.tipo;
-        EXPECT_EQ(c.b2->x(), 491) << k.tipo;
-        const bool personalizado = k.tipo == 5 || k.tipo == 6;
-        EXPECT_EQ(c.b1->font().pointSize(), puntos + (personalizado ? 2 : 0)) << k.tipo;
-        EXPECT_EQ(c.b1->icon().isNull(), personalizado) << k.tipo;
-        if (k.foco) { // the focus mark follows the buttons
-            QPushButton* enfocado = k.foco == 1 ? c.b1 : c.b2;
-            QPushButton* otro = k.foco == 1 ? c.b2 : c.b1;
-            EXPECT_EQ(c.forma->focusWidget(), enfocado) << k.tipo;
-            EXPECT_TRUE(TieneFocoMarcado(enfocado)) << k.tipo;
+        EXPECT_EQ(c.b1->text(), QLatin1String(c1)) << tipo;
+        EXPECT_EQ(c.b2->text(), QLatin1String(c2)) << tipo;
+        EXPECT_EQ(c.b2->isVisible(), ve2) << tipo;
+        EXPECT_EQ(c.b1->x(), izquierda1) << tipo;
+        EXPECT_EQ(c.b2->x(), 491) << tipo;
+        const bool personalizado = tipo == 5 || tipo == 6;
+        EXPECT_EQ(c.b1->font().pointSize(), puntos + (personalizado ? 2 : 0)) << tipo;
+        EXPECT_EQ(c.b1->icon().isNull(), personalizado) << tipo;
+        if (foco) { // the focus mark follows the buttons
+            QPushButton* enfocado = foco == 1 ? c.b1 : c.b2;
+            QPushButton* otro = foco == 1 ? c.b2 : c.b1;
+            EXPECT_EQ(c.forma->focusWidget(), enfocado) << tipo;
+            EXPECT_TRUE(TieneFocoMarcado(enfocado)) << tipo;
             otro->setFocus();
-            EXPECT_FALSE(TieneFocoMarcado(enfocado)) << k.tipo;
-            EXPECT_TRUE(TieneFocoMarcado(otro)) << k.tipo;
+            EXPECT_FALSE(TieneFocoMarcado(enfocado)) << tipo;
+            EXPECT_TRUE(TieneFocoMarcado(otro)) << tipo;
         }
-        EXPECT_EQ(c.forma->tipoMensaje(), k.tipo);
+        EXPECT_EQ(c.forma->tipoMensaje(), tipo);
     }
 }
 
@@ -136,20 +129,17 @@ TEST(MensajeNod, FormCreateCentresOnAVisibleOwnerWindowElseOnTheScreenAndStaysOn
     oculta.setGeometry(30, 40, 700, 500);
     const QRect zona = QGuiApplication::primaryScreen()->availableGeometry();
     const QPoint pantalla = zona.center();
-    const struct {
-        const char* caso;
-        QWidget* owner;
-        bool enVentana; // centred on `ventana`, else on the screen
-    } casos[] = {{"none", nullptr, false},
-                 {"visible window", &ventana, true},
-                 {"hidden window", &oculta, false},
-                 {"control of a visible window", control, false}};
+    // enVentana: centred on `ventana`, else on the screen
+    const std::tuple<const char*, QWidget*, bool> casos[] = {{"none", nullptr, false},
+                                                             {"visible window", &ventana, true},
+                                                             {"hidden window", &oculta, false},
+                                                             {"control of a visible window", control, false}};
     ventana.show();
     ASSERT_NE(ventana.frameGeometry().center(), pantalla);
-    for (const auto& k : casos) {
-        TFMensajeNod forma(k.owner);
-        const QPoint esperado = k.enVentana ? ventana.frameGeometry().center() : pantalla;
-        EXPECT_LE((forma.geometry().center() - esperado).manhattanLength(), 1) << k.caso;
+    for (const auto& [caso, owner, enVentana] : casos) {
+        TFMensajeNod forma(owner);
+        const QPoint esperado = enVentana ? ventana.frameGeometry().center() : pantalla;
+        EXPECT_LE((forma.geometry().center() - esperado).manhattanLength(), 1) << caso;
     }
     for (const QPoint& p : {zona.bottomRight() - QPoint(100, 60), zona.topLeft() - QPoint(150, 40)}) {
         ventana.setGeometry(QRect(p, QSize(300, 200)));
@@ -164,12 +154,8 @@ TEST(MensajeNod, FormCreateCentresOnAVisibleOwnerWindowElseOnTheScreenAndStaysOn
 // nothing while the standard Si/No boxes answered them: a plain letter presses its button, "x" (no button's
 // letter) does nothing.
 TEST(MensajeNod, ModalResultsOfTheRealBox) {
-    const struct {
-        int tipo;
-        Qt::Key tecla;     // pressed after "x"
-        const char* boton; // clicked instead when there is no key
-        int resultado;
-    } casos[] = {
+    // tecla: pressed after "x"; boton: clicked instead when there is no key
+    const std::tuple<int, Qt::Key, const char*, int> casos[] = {
         {0, Qt::Key_Escape, nullptr, 2}, {1, Qt::Key_Escape, nullptr, 2}, {2, Qt::Key_Escape, nullptr, 2},
         {3, Qt::Key_Escape, nullptr, 2}, {4, Qt::Key_Escape, nullptr, 2}, {5, Qt::Key_Escape, nullptr, 2},
         {6, Qt::Key_Escape, nullptr, 2}, {0, {}, "BACEPTAR", 1},          {1, {}, "BACEPTAR", 1},
@@ -178,7 +164,7 @@ TEST(MensajeNod, ModalResultsOfTheRealBox) {
         {2, Qt::Key_S, nullptr, 1},      {3, Qt::Key_C, nullptr, 2},      {0, Qt::Key_A, nullptr, 1}};
     ServicioMensajesQt qt;
     ServicioMensajesInstalado instalado(qt);
-    for (const auto& k : casos) {
+    for (const auto& [tipo, tecla, boton, resultado] : casos) {
         QString titulo, arriba, abajo;
         QColor fondo;
         prueba::AlAbrirseModal([&](QWidget* w) {
@@ -186,17 +172,17 @@ TEST(MensajeNod, ModalResultsOfTheRealBox) {
             fondo = w->palette().color(QPalette::Window);
             arriba = w->findChild<QLabel*>(QStringLiteral("lmensaje"))->text();
             abajo = w->findChild<QLabel*>(QStringLiteral("LMENSAJE2"))->text();
-            if (k.boton) {
-                QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(k.boton)), Qt::LeftButton);
+            if (boton) {
+                QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(boton)), Qt::LeftButton);
                 return;
             }
             QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, Qt::Key_X);
-            QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, k.tecla);
+            QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, tecla);
         });
-        EXPECT_EQ(Mensaje_Person(k.tipo, QStringLiteral("abajo"), 1, QStringLiteral("Aviso"),
+        EXPECT_EQ(Mensaje_Person(tipo, QStringLiteral("abajo"), 1, QStringLiteral("Aviso"),
                                  QStringLiteral("arriba"), {}, {}, 0, 0x8C0000, 0xFFFFFF, 0),
-                  k.resultado)
-            << k.tipo << " " << (k.boton ? k.boton : "key") << " " << k.tecla;
+                  resultado)
+            << tipo << " " << (boton ? boton : "key") << " " << tecla;
         EXPECT_EQ(titulo, QStringLiteral("Aviso"));
         EXPECT_EQ(std::pair(arriba, abajo), std::pair(QStringLiteral("arriba"), QStringLiteral("abajo")));
         EXPECT_EQ(fondo, QColor(0, 0, 0x8C));
@@ -212,23 +198,20 @@ TEST(MensajeNod, ALongUpperTextKeepsItsBeginning) {
     QString largo = QStringLiteral("Principio del aviso: ");
     while (largo.size() < 2000)
         largo += QStringLiteral("la copia no se ha podido firmar, ");
-    const struct {
-        QString texto;
-        bool cabe;
-    } casos[] = {{QStringLiteral("No se ha encontrado el cliente."), true},
-                 {largo, false},
-                 {QString(100000, u'x'), false}};
-    for (const auto& k : casos) {
+    const std::tuple<QString, bool> casos[] = {{QStringLiteral("No se ha encontrado el cliente."), true},
+                                               {largo, false},
+                                               {QString(100000, u'x'), false}};
+    for (const auto& [texto, cabe] : casos) {
         Caja c;
-        c.forma->CambiaMensaje1(k.texto);
+        c.forma->CambiaMensaje1(texto);
         c.forma->show();
-        EXPECT_TRUE(c.l1->text().startsWith(k.texto.left(10))) << k.texto.left(30).toStdString();
-        EXPECT_EQ(c.l1->alignment() & Qt::AlignVertical_Mask, k.cabe ? Qt::AlignVCenter : Qt::AlignTop);
+        EXPECT_TRUE(c.l1->text().startsWith(texto.left(10))) << texto.left(30).toStdString();
+        EXPECT_EQ(c.l1->alignment() & Qt::AlignVertical_Mask, cabe ? Qt::AlignVCenter : Qt::AlignTop);
         EXPECT_EQ(c.l1->geometry(), QRect(59, 5, 526, 61)) << "the design's place, whatever the text";
         EXPECT_EQ(c.forma->height(), 123);
-        if (!k.cabe) {
+        if (!cabe) {
             EXPECT_TRUE(c.l1->text().endsWith(QStringLiteral("…")));
-            EXPECT_TRUE(c.l1->toolTip().contains(k.texto.mid(100, 20))) << "the whole text in the tooltip";
+            EXPECT_TRUE(c.l1->toolTip().contains(texto.mid(100, 20))) << "the whole text in the tooltip";
         }
     }
 }

@@ -3,18 +3,17 @@
 #include "tests/support/oficina_prueba.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 using nod::prueba::OficinaPrueba;
 
 TEST(Notarios, AliasNotario) {
     OficinaPrueba o(QStringLiteral("[GENERAL]\nAliasNotario=DBNOT\n"));
-    const struct {
-        int numero;
-        const char* alias;
-    } casos[] = {{0, "DBNOT1"}, {1, "DBNOT1"}, {2, "DBNOT2"}, {12, "DBNOT12"}, {-3, "DBNOT-3"}};
-    for (const auto& c : casos)
-        EXPECT_EQ(AliasNotario(c.numero), QLatin1String(c.alias)) << c.numero;
+    const std::tuple<int, const char*> casos[] = {
+        {0, "DBNOT1"}, {1, "DBNOT1"}, {2, "DBNOT2"}, {12, "DBNOT12"}, {-3, "DBNOT-3"}};
+    for (const auto& [numero, alias] : casos)
+        EXPECT_EQ(AliasNotario(numero), QLatin1String(alias)) << numero;
 }
 
 TEST(Notarios, AliasNotarioActualFollowsTheSelectedNotary) {

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
@@ -60,16 +61,13 @@ TEST(Ventanas, MostrarNoModalReusesTheOwnersFormByClassName) {
 }
 
 TEST(Ventanas, CentroDeRoundsHalvesToEven) {
-    const struct {
-        QSize tamano;
-        QPoint centro;
-    } casos[] = {{{1920, 1080}, {960, 540}},
-                 {{1367, 769}, {684, 384}},
-                 {{1365, 767}, {682, 384}},
-                 {{1, 3}, {0, 2}},
-                 {{0, 0}, {0, 0}}};
-    for (const auto& c : casos)
-        EXPECT_EQ(CentroDe(c.tamano), c.centro) << c.tamano.width() << "x" << c.tamano.height();
+    const std::tuple<QSize, QPoint> casos[] = {{{1920, 1080}, {960, 540}},
+                                               {{1367, 769}, {684, 384}},
+                                               {{1365, 767}, {682, 384}},
+                                               {{1, 3}, {0, 2}},
+                                               {{0, 0}, {0, 0}}};
+    for (const auto& [tamano, centro] : casos)
+        EXPECT_EQ(CentroDe(tamano), centro) << tamano.width() << "x" << tamano.height();
     EXPECT_EQ(CentroDeLaPantalla(), CentroDe(QGuiApplication::primaryScreen()->virtualSize()));
 }
 
@@ -126,21 +124,19 @@ TEST(Ventanas, OcultaNodrimHidesTheActiveWindowLastSoItComesBackOnTop) {
 }
 
 TEST(Ventanas, TomaFocoLeavesTheWindowRestoredToItsPlacement) {
-    const struct {
-        bool maximizada, minimizada; // before the call
-    } casos[] = {{false, false}, {false, true}, {true, false}, {true, true}};
-    for (const auto& k : casos) {
-        QWidget principal;
-        k.maximizada ? principal.showMaximized() : principal.show();
-        if (k.minimizada) principal.showMinimized();
-        FijaVentanaPrincipal(&principal);
-        TomaFocoNodrim();
-        EXPECT_FALSE(principal.isMinimized()) << k.maximizada << k.minimizada;
-        EXPECT_EQ(principal.isMaximized(), k.maximizada) << k.maximizada << k.minimizada;
-        EXPECT_TRUE(principal.isVisible());
-        EXPECT_EQ(VentanaPrincipal(), &principal);
-        FijaVentanaPrincipal(nullptr);
-    }
+    for (bool maximizada : {false, true})
+        for (bool minimizada : {false, true}) { // the placement before the call
+            QWidget principal;
+            maximizada ? principal.showMaximized() : principal.show();
+            if (minimizada) principal.showMinimized();
+            FijaVentanaPrincipal(&principal);
+            TomaFocoNodrim();
+            EXPECT_FALSE(principal.isMinimized()) << maximizada << minimizada;
+            EXPECT_EQ(principal.isMaximized(), maximizada) << maximizada << minimizada;
+            EXPECT_TRUE(principal.isVisible());
+            EXPECT_EQ(VentanaPrincipal(), &principal);
+            FijaVentanaPrincipal(nullptr);
+        }
     TomaFoco(WId(0)); // not a window of the program: ignored
 }
 
