@@ -49,17 +49,14 @@ TEST(Rnumcad, RedondeaDecHalfAwayFromZeroOnTheWrittenDigits) {
 }
 
 TEST(Rnumcad, ParteEnteraDecimal) {
-    const struct {
-        const char* numero;
-        const char* entera;
-        const char* decimal;
-    } casos[] = {{"1234,05", "1234", "05"}, {"21", "21", ""}, {"-0,25", "-0", "25"},
-                 {"3.5", "3", "5"},         {"", "", ""},     {",5", "", "5"}};
-    for (const auto& c : casos) {
-        QString entera = QStringLiteral("x"), decimal = QStringLiteral("x");
-        ParteEnteraDecimal(QString::fromLatin1(c.numero), entera, decimal);
-        EXPECT_EQ(entera, QString::fromLatin1(c.entera)) << c.numero;
-        EXPECT_EQ(decimal, QString::fromLatin1(c.decimal)) << c.numero;
+    const std::tuple<const char*, const char*, const char*> casos[] = {
+        {"1234,05", "1234", "05"}, {"21", "21", ""}, {"-0,25", "-0", "25"},
+        {"3.5", "3", "5"},         {"", "", ""},     {",5", "", "5"}};
+    for (const auto& [numero, entera, decimal] : casos) {
+        QString e = QStringLiteral("x"), d = QStringLiteral("x");
+        ParteEnteraDecimal(QString::fromLatin1(numero), e, d);
+        EXPECT_EQ(e, QString::fromLatin1(entera)) << numero;
+        EXPECT_EQ(d, QString::fromLatin1(decimal)) << numero;
     }
 }
 

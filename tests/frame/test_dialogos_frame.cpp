@@ -234,33 +234,29 @@ TEST(ServicioQt, QuestionsAnswerYesOrNoAndEscapeIsNo) {
     ServicioMensajesQt qt;
     ServicioMensajesInstalado instalado(qt);
     // Plain letters answer like Alt+letter.
-    const struct {
-        const char* boton; // "BSi", "BNo" or nullptr for the key
-        Qt::Key tecla;
-        bool focoEnSi;
-        int resultado;
-        const char* enfocado;
-    } casos[] = {{"BSi", {}, true, 1, "BSi"},
-                 {"BNo", {}, true, 2, "BSi"},
-                 {nullptr, Qt::Key_Escape, true, 2, "BSi"},
-                 {nullptr, Qt::Key_Escape, false, 2, "BNo"},
-                 {nullptr, Qt::Key_S, true, 1, "BSi"},
-                 {nullptr, Qt::Key_N, true, 2, "BSi"}};
-    for (const auto& k : casos) {
-        QString enfocado, titulo;
+    // boton: "BSi", "BNo" or nullptr for the key
+    const std::tuple<const char*, Qt::Key, bool, int, const char*> casos[] = {
+        {"BSi", {}, true, 1, "BSi"},
+        {"BNo", {}, true, 2, "BSi"},
+        {nullptr, Qt::Key_Escape, true, 2, "BSi"},
+        {nullptr, Qt::Key_Escape, false, 2, "BNo"},
+        {nullptr, Qt::Key_S, true, 1, "BSi"},
+        {nullptr, Qt::Key_N, true, 2, "BSi"}};
+    for (const auto& [boton, tecla, focoEnSi, resultado, enfocado] : casos) {
+        QString foco, titulo;
         prueba::AlAbrirseModal([&](QWidget* w) {
-            enfocado = w->focusWidget() ? w->focusWidget()->objectName() : QString();
+            foco = w->focusWidget() ? w->focusWidget()->objectName() : QString();
             titulo = w->windowTitle();
-            if (k.boton)
-                QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(k.boton)), Qt::LeftButton);
+            if (boton)
+                QTest::mouseClick(w->findChild<QPushButton*>(QLatin1String(boton)), Qt::LeftButton);
             else
-                QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, k.tecla);
+                QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, tecla);
         });
         EXPECT_EQ(qt.pregunta(QStringLiteral("Mensaje_SiNo"), QStringLiteral("¿Seguro?"),
-                              QStringLiteral("Pregunta"), k.focoEnSi),
-                  k.resultado)
-            << (k.boton ? k.boton : "key") << " " << k.tecla;
-        EXPECT_EQ(enfocado, QLatin1String(k.enfocado));
+                              QStringLiteral("Pregunta"), focoEnSi),
+                  resultado)
+            << (boton ? boton : "key") << " " << tecla;
+        EXPECT_EQ(foco, QLatin1String(enfocado));
         EXPECT_EQ(titulo, QStringLiteral("Pregunta"));
     }
 }
@@ -271,26 +267,23 @@ TEST(DialogosMarco, EnterMovesTheFocusToTheNextControl) {
     TFVersionNod version;
     TFMensajeActivosFinancieros activos;
     activos.CambiaTipoMensaje(1);
-    const struct {
-        QDialog* forma;
-        const char *desde, *hasta;
-    } casos[] = {{&reloj, "DTPFecha", "DTPHora"},
-                 {&reloj, "DTPHora", "BBAceptar"},
-                 // Enter on "Aceptar" accepted the clock (the button box's default button).
-                 {&reloj, "BBAceptar", "BBCancelar"},
-                 {&version, "SGTablas", "BBAceptar"},
-                 {&activos, "BBSi", "BBNo"}};
-    for (const auto& k : casos)
+    const std::tuple<QDialog*, const char*, const char*> casos[] = {
+        {&reloj, "DTPFecha", "DTPHora"},
+        {&reloj, "DTPHora", "BBAceptar"},
+        // Enter on "Aceptar" accepted the clock (the button box's default button).
+        {&reloj, "BBAceptar", "BBCancelar"},
+        {&version, "SGTablas", "BBAceptar"},
+        {&activos, "BBSi", "BBNo"}};
+    for (const auto& [forma, desde, hasta] : casos)
         for (Qt::Key tecla : {Qt::Key_Return, Qt::Key_Enter}) {
-            k.forma->show();
-            QApplication::setActiveWindow(k.forma);
-            auto* desde = k.forma->findChild<QWidget*>(QLatin1String(k.desde));
-            ASSERT_NE(desde, nullptr) << k.desde;
-            desde->setFocus();
-            QTest::keyClick(desde, tecla);
-            EXPECT_TRUE(k.forma->isVisible()) << k.desde << " " << tecla;
-            EXPECT_EQ(k.forma->focusWidget()->objectName(), QLatin1String(k.hasta))
-                << k.desde << " " << tecla;
+            forma->show();
+            QApplication::setActiveWindow(forma);
+            auto* control = forma->findChild<QWidget*>(QLatin1String(desde));
+            ASSERT_NE(control, nullptr) << desde;
+            control->setFocus();
+            QTest::keyClick(control, tecla);
+            EXPECT_TRUE(forma->isVisible()) << desde << " " << tecla;
+            EXPECT_EQ(forma->focusWidget()->objectName(), QLatin1String(hasta)) << desde << " " << tecla;
         }
     EXPECT_TRUE(relojDelSistema.pedidas.isEmpty());
     EXPECT_FALSE(reloj.findChild<QPushButton*>(QStringLiteral("BBAceptar"))->isDefault());

@@ -218,22 +218,21 @@ TEST(MensajeNod, ALongUpperTextKeepsItsBeginning) {
 
 // "\r" showed as a blank, "<b>" and "<no existe>" were read as markup.
 TEST(MensajeNod, LineBreaksOfEveryKindAndMarkupAsTyped) {
-    const struct {
-        const char16_t *dado, *mostrado;
-    } casos[] = {{u"uno\rdos", u"uno\ndos"},
-                 {u"uno\r\ndos", u"uno\ndos"},
-                 {u"<b>Pérez & Cía</b>", u"<b>Pérez & Cía</b>"},
-                 {u"<no existe>", u"<no existe>"}};
-    for (const auto& k : casos) {
+    const std::tuple<const char16_t*, const char16_t*> casos[] = {
+        {u"uno\rdos", u"uno\ndos"},
+        {u"uno\r\ndos", u"uno\ndos"},
+        {u"<b>Pérez & Cía</b>", u"<b>Pérez & Cía</b>"},
+        {u"<no existe>", u"<no existe>"}};
+    for (const auto& [dado, mostrado] : casos) {
         Caja c;
-        c.forma->CambiaMensaje1(QString::fromUtf16(k.dado));
-        c.forma->CambiaMensaje2(QString::fromUtf16(k.dado));
+        c.forma->CambiaMensaje1(QString::fromUtf16(dado));
+        c.forma->CambiaMensaje2(QString::fromUtf16(dado));
         c.forma->show();
-        const QString mostrado = QString::fromUtf16(k.mostrado);
-        EXPECT_EQ(c.l1->text(), mostrado);
+        const QString visto = QString::fromUtf16(mostrado);
+        EXPECT_EQ(c.l1->text(), visto);
         // The lower line holds one line: a second one is announced with "…" and carried in the tooltip.
         EXPECT_EQ(c.l2->text(),
-                  mostrado.contains(u'\n') ? mostrado.section(u'\n', 0, 0) + QStringLiteral(" …") : mostrado);
+                  visto.contains(u'\n') ? visto.section(u'\n', 0, 0) + QStringLiteral(" …") : visto);
         for (QLabel* l : {c.l1, c.l2})
             EXPECT_EQ(l->textFormat(), Qt::PlainText);
     }

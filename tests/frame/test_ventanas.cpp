@@ -86,29 +86,27 @@ TEST(Ventanas, PosicionDelCursorLeavesThePointAloneOnFailure) {
 
 TEST(Ventanas, OcultaNodrimHidesTheActiveWindowLastSoItComesBackOnTop) {
     // Creation order a, b, c; the list the suite walks keeps the active window first.
-    const struct {
-        int activa; // index of the active window, -1 none
-        const char* ocultadas;
-    } casos[] = {{-1, "cba"}, {1, "cab"}, {0, "cba"}, {2, "bac"}};
-    for (const auto& k : casos) {
+    // activa: index of the active window, -1 none
+    const std::tuple<int, const char*> casos[] = {{-1, "cba"}, {1, "cab"}, {0, "cba"}, {2, "bac"}};
+    for (const auto& [activa, ocultadas] : casos) {
         QWidget v[3], oculta;
         for (int i = 0; i < 3; ++i) {
             v[i].setObjectName(QString(QLatin1Char('a' + i)));
             v[i].show();
         }
-        QApplication::setActiveWindow(k.activa < 0 ? nullptr : &v[k.activa]);
+        QApplication::setActiveWindow(activa < 0 ? nullptr : &v[activa]);
         ListaVentanas lista;
         OcultaNodrim(lista);
         ASSERT_TRUE(lista);
         EXPECT_FALSE(lista->contains(&oculta)) << "a hidden window is left alone";
-        QString ocultadas;
+        QString orden;
         for (const QPointer<QWidget>& w : *lista)
-            ocultadas += w->isVisible() ? QStringLiteral("!") : w->objectName();
-        EXPECT_EQ(ocultadas, QLatin1String(k.ocultadas)) << k.activa;
+            orden += w->isVisible() ? QStringLiteral("!") : w->objectName();
+        EXPECT_EQ(orden, QLatin1String(ocultadas)) << activa;
         MuestraNodrim(lista);
         EXPECT_FALSE(lista);
         for (const QWidget& w : v)
-            EXPECT_TRUE(w.isVisible()) << k.activa;
+            EXPECT_TRUE(w.isVisible()) << activa;
         EXPECT_FALSE(oculta.isVisible());
     }
     ListaVentanas lista;
