@@ -103,17 +103,12 @@ TEST(Rnumcad, CutsAndZeros) {
 TEST(Rnumcad, Fault14CutsNeverSplitASurrogatePair) {
     const QString s = QString::fromUtf8("a\xF0\x9F\x98\x80"
                                         "b"); // a, U+1F600 (two units), b
-    const struct {
-        QString (*rutina)(const QString&, int);
-        const char* nombre;
-        int n;
-        QString esperado;
-    } casos[] = {
+    const std::tuple<QString (*)(const QString&, int), const char*, int, QString> casos[] = {
         {&StrLeft, "StrLeft", 1, QStringLiteral("a")}, {&StrLeft, "StrLeft", 2, QStringLiteral("a")},
         {&StrLeft, "StrLeft", 3, s.left(3)},           {&StrRight, "StrRight", 2, QStringLiteral("b")},
         {&StrRight, "StrRight", 3, s.right(3)},        {&StrLeft, "StrLeft", 4, s}};
-    for (const auto& c : casos)
-        EXPECT_EQ(c.rutina(s, c.n), c.esperado) << c.nombre << ' ' << c.n;
+    for (const auto& [rutina, nombre, n, esperado] : casos)
+        EXPECT_EQ(rutina(s, n), esperado) << nombre << ' ' << n;
 }
 
 TEST(Rnumcad, CaseKeepsTheLength) {

@@ -327,7 +327,6 @@ TEST(ServicioQt, ALongWaitMessageWrapsInsideTheScreen) {
     EXPECT_TRUE(w->isVisible());
     auto* l = w->findChild<QLabel*>(QStringLiteral("LEspera"));
     const QRect zona = w->screen()->availableGeometry();
-    EXPECT_LE(w->frameGeometry().width(), zona.width());
     EXPECT_TRUE(zona.contains(w->frameGeometry()));
     EXPECT_TRUE(l->wordWrap());
     EXPECT_TRUE(l->text().startsWith(QStringLiteral("Consultando el catastro")));
@@ -346,9 +345,7 @@ TEST(ServicioQt, ALongWaitMessageWrapsInsideTheScreen) {
 
 // The library shipped invented addresses for the maker's web site and support desk.
 TEST(PreguntaZEB, WithoutConfiguredAddressesTheLinksAreDisabled) {
-    prueba::OficinaPrueba o;
-    EXPECT_TRUE(Config.GetWebFabricante().isEmpty());
-    EXPECT_TRUE(Config.GetCorreoFabricante().isEmpty());
+    prueba::OficinaPrueba o; // no maker's addresses configured
     AbridorDePrueba abridor;
     TFPreguntaZEB f(nullptr, QStringLiteral("Soporte"));
     f.show();

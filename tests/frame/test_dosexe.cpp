@@ -14,17 +14,7 @@ QByteArray hastaNul(const QByteArray& img, int offset) {
 }
 } // namespace
 
-TEST(DOSExe, TemplateHasTheClassicSections) {
-    const QByteArray& t = PlantillaPif();
-    ASSERT_EQ(t.size(), kTamanoPif);
-    EXPECT_EQ(hastaNul(t, 0x171), "MICROSOFT PIFEX");
-    EXPECT_EQ(hastaNul(t, 0x187), "WINDOWS 386 3.0");
-    EXPECT_EQ(hastaNul(t, 0x205), "WINDOWS VMM 4.0");
-    EXPECT_TRUE(t.contains("Terminal"));
-    EXPECT_TRUE(t.contains("Lucida Console"));
-}
-
-TEST(DOSExe, ImageFillsTheFieldsAndKeepsEverythingElse) {
+TEST(DOSExe, ImageFillsTheFieldsAndKeepsTheTemplatesClassicSections) {
     const QString programa = QStringLiteral("C:\\NODRIM\\UTIL\\COPIAS.EXE");
     const QByteArray img = ImagenPif(programa, QStringLiteral("/A /B"), QStringLiteral("Copias"));
     ASSERT_EQ(img.size(), kTamanoPif);
@@ -33,8 +23,13 @@ TEST(DOSExe, ImageFillsTheFieldsAndKeepsEverythingElse) {
     EXPECT_EQ(hastaNul(img, 101), "C:\\NODRIM\\UTIL\\");
     EXPECT_EQ(hastaNul(img, 165), "/A /B");
     EXPECT_EQ(hastaNul(img, 453), "/A /B");
-    // Outside the five fields and their NULs, the template's bytes stand as they were.
     QByteArray t = PlantillaPif();
+    ASSERT_EQ(t.size(), kTamanoPif);
+    for (auto [offset, seccion] :
+         {std::pair{0x171, "MICROSOFT PIFEX"}, {0x187, "WINDOWS 386 3.0"}, {0x205, "WINDOWS VMM 4.0"}})
+        EXPECT_EQ(hastaNul(t, offset), seccion);
+    EXPECT_TRUE(t.contains("Terminal") && t.contains("Lucida Console")) << "the console's fonts";
+    // Outside the five fields and their NULs, the template's bytes stand as they were.
     for (auto [offset, largo] : {std::pair{2, 30}, {36, 64}, {101, 64}, {165, 64}, {453, 64}})
         t.replace(offset, largo, img.mid(offset, largo));
     EXPECT_EQ(img, t);
