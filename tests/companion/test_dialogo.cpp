@@ -160,17 +160,24 @@ TEST(ConvencionesDialogo, PlainLettersPressButtonsWhenTheFocusSitsOnOne) {
     EXPECT_EQ(cancelado.size(), 1);
 }
 
-TEST(ConvencionesDialogo, LabelsArePlainTextAndEnterIsLeftToAMultiLineEdit) {
+// Controls added after the conventions were applied follow them too.
+TEST(ConvencionesDialogo, LabelsArePlainTextEnterIsLeftToAMultiLineEditAndTheFocusIsMarked) {
     Formulario f;
+    auto* barra = new QStatusBar(&f);
+    f.layout()->addWidget(barra);
+    f.dos->setToolTip(QStringLiteral("El segundo"));
+    OpcionesDialogo o;
+    o.marcaFoco = MarcaFoco::Campos;
+    o.barraAyuda = barra;
+    AplicaConvencionesDialogo(&f, o);
     auto* memo = new QTextEdit(&f);
     auto* ayuda = new QTextEdit(&f);
+    auto* tarde = new QLabel(&f);
+    for (QWidget* w : std::initializer_list<QWidget*>{memo, ayuda, tarde})
+        f.layout()->addWidget(w);
     ayuda->setReadOnly(true);
     ayuda->setFocusPolicy(Qt::ClickFocus);
     memo->setToolTip(QStringLiteral("Observaciones"));
-    f.layout()->addWidget(memo);
-    f.layout()->addWidget(ayuda);
-    auto* tarde = new QLabel(&f);
-    f.layout()->addWidget(tarde);
     f.nota->setText(QStringLiteral("<b>Pérez & Cía</b>"));
     tarde->setText(QStringLiteral("<i>añadida después</i>"));
     f.muestra();
@@ -183,18 +190,7 @@ TEST(ConvencionesDialogo, LabelsArePlainTextAndEnterIsLeftToAMultiLineEdit) {
     EXPECT_TRUE(ayuda->focusPolicy() & Qt::TabFocus) << "a read-only text is reached with Tab";
     EXPECT_EQ(memo->accessibleName(), QStringLiteral("Observaciones")) << "a field without label: its hint";
     EXPECT_TRUE(f.uno->accessibleName().isEmpty()) << "a field with a label is named by the label";
-}
 
-TEST(ConvencionesDialogo, FocusMarkAndHintInTheStatusBar) {
-    Formulario f;
-    auto* barra = new QStatusBar(&f);
-    f.layout()->addWidget(barra);
-    f.dos->setToolTip(QStringLiteral("El segundo"));
-    OpcionesDialogo o;
-    o.marcaFoco = MarcaFoco::Campos;
-    o.barraAyuda = barra;
-    AplicaConvencionesDialogo(&f, o);
-    f.muestra();
     f.dos->setFocus();
     EXPECT_TRUE(TieneFocoMarcado(f.dos));
     EXPECT_EQ(barra->currentMessage(), QStringLiteral("El segundo"));

@@ -20,26 +20,17 @@ void toca(const QString& ruta) {
 
 // The temporary folder of a test: TMPDIR points at "tmp" inside a folder of its own while it lives, so
 // that what lands beside the temporary folder can be seen too.
-class CarpetaTemporal {
-public:
-    CarpetaTemporal()
-        : m_antes(qgetenv("TMPDIR")) {
+struct CarpetaTemporal {
+    QTemporaryDir m_dir;
+    const QByteArray m_antes = qgetenv("TMPDIR");
+    CarpetaTemporal() {
         QDir(m_dir.path()).mkdir(QStringLiteral("tmp"));
         qputenv("TMPDIR", QFile::encodeName(carpeta()));
     }
-    ~CarpetaTemporal() {
-        if (m_antes.isEmpty())
-            qunsetenv("TMPDIR");
-        else
-            qputenv("TMPDIR", m_antes);
-    }
+    ~CarpetaTemporal() { m_antes.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", m_antes); }
     QString carpeta() const { return m_dir.filePath(QStringLiteral("tmp")); }
     QString ruta(const QString& nombre) const { return carpeta() + QLatin1Char('/') + nombre; }
     QString fuera(const QString& nombre) const { return m_dir.filePath(nombre); }
-
-private:
-    QTemporaryDir m_dir;
-    QByteArray m_antes;
 };
 
 TEST(Ficheros, EliminaTablaTemporalDeletesTheThreeCompanionsOnly) {
