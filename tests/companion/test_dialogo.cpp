@@ -120,14 +120,18 @@ TEST(ConvencionesDialogo, EscapeCloseButtonAndRejectGiveTheCancelResultUnlessThe
     EXPECT_TRUE(f.isVisible());
 }
 
-TEST(ConvencionesDialogo, DefaultButtonRule) {
+TEST(ConvencionesDialogo, DefaultButtonRuleAndPlainLettersOnButtons) {
     OpcionesDialogo o;
     o.enter = ReglaEnter::BotonPorDefecto;
+    o.letrasPulsanBotones = true;
     Formulario f(o);
     QSignalSpy cancelado(f.cancelar, &QPushButton::clicked);
     f.aceptar->setDefault(true);
     f.muestra();
     f.uno->setFocus();
+    QTest::keyClick(f.uno, Qt::Key_C);
+    EXPECT_EQ(f.uno->text(), QStringLiteral("c")) << "in a field a letter is a letter";
+    EXPECT_EQ(cancelado.size(), 0);
     QTest::keyClick(f.uno, Qt::Key_Return);
     EXPECT_EQ(f.aceptados, 1) << "Enter in a field presses the default button";
     f.muestra();
@@ -136,28 +140,17 @@ TEST(ConvencionesDialogo, DefaultButtonRule) {
     EXPECT_EQ(cancelado.size(), 1) << "Enter on a button presses that button";
     EXPECT_EQ(f.aceptados, 1);
     f.muestra();
+    f.aceptar->setFocus();
+    QTest::keyClick(f.aceptar, Qt::Key_X);
+    EXPECT_TRUE(f.isVisible()) << "a letter of no button does nothing";
+    QTest::keyClick(f.aceptar, Qt::Key_C);
+    EXPECT_EQ(cancelado.size(), 2) << "a plain letter presses its button when the focus sits on one";
+    f.muestra();
     f.aceptar->setDefault(false);
     f.aceptar->hide();
     f.uno->setFocus();
     QTest::keyClick(f.uno, Qt::Key_Return);
     EXPECT_EQ(QApplication::focusWidget(), f.dos) << "with no default button shown Enter moves on";
-}
-
-TEST(ConvencionesDialogo, PlainLettersPressButtonsWhenTheFocusSitsOnOne) {
-    OpcionesDialogo o;
-    o.letrasPulsanBotones = true;
-    Formulario f(o);
-    f.muestra();
-    QSignalSpy cancelado(f.cancelar, &QPushButton::clicked);
-    f.uno->setFocus();
-    QTest::keyClick(f.uno, Qt::Key_C);
-    EXPECT_EQ(f.uno->text(), QStringLiteral("c")) << "in a field a letter is a letter";
-    EXPECT_EQ(cancelado.size(), 0);
-    f.aceptar->setFocus();
-    QTest::keyClick(f.aceptar, Qt::Key_X);
-    EXPECT_TRUE(f.isVisible()) << "a letter of no button does nothing";
-    QTest::keyClick(f.aceptar, Qt::Key_C);
-    EXPECT_EQ(cancelado.size(), 1);
 }
 
 // Controls added after the conventions were applied follow them too.
