@@ -72,10 +72,8 @@ TEST(EditImporte, TypedKeysFollowTheRule) {
         otro->setFocus();
         EXPECT_EQ(e->text(), QLatin1String(alSalir)) << tecleado;
         e->setFocus();
-        if (e->EsValido()) {
-            EXPECT_FALSE(e->text().contains(u'.'))
-                << "edited again, the amount stands without thousands points";
-        }
+        EXPECT_FALSE(e->EsValido() && e->text().contains(u'.'))
+            << tecleado << ": edited again, the amount stands without thousands points";
     }
 }
 
