@@ -10,15 +10,7 @@ TEST(TextoVisible, EveryKindOfLineBreakBreaksAndControlCharactersAreBlanks) {
         {u"uno\rdos\r\ntres\n", u"uno\ndos\ntres\n", u"uno\ndos\ntres\n"},
         {u"\r\r\n\n", u"\n\n\n", u"\n\n\n"}, // "\r" then "\r\n" then "\n": three breaks, not four
         {u"\n\r", u"\n\n", u"\n\n"},         // "\n\r" is two breaks
-        {u"a\tb\x01"
-         u"c\x7f"
-         u"d\x85"
-         u"e",
-         u"a\tb\x01"
-         u"c\x7f"
-         u"d\x85"
-         u"e",
-         u"a b c d e"},
+        {u"a\tb\u0001c\u007fd\u0085e", u"a\tb\u0001c\u007fd\u0085e", u"a b c d e"},
         {u"<b>Pérez & Cía</b>", u"<b>Pérez & Cía</b>", u"<b>Pérez & Cía</b>"}, // markup is not touched
         {u"", u"", u""}};
     for (const auto& [entrada, saltos, visible] : casos) {
