@@ -1,6 +1,5 @@
 #include "frame/dosexe.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
