@@ -155,12 +155,18 @@ TEST(PreguntaDatos, InvoiceNumberComposition) {
     struct Caso {
         const char *serie, *numero, *bis;
         const char *serieResultado, *anoNumero, *bisResultado;
+        const char* prefijo = nullptr; // with the configured prefix and year, which win over the notary
+        int anoFacturas = 0;           // and today's year
     } casos[] = {
         {"A", "23", "", "2A", "202400023 ", ""},          {"a", "23b", "t", "2A", "202400023B", "T"},
         {"1B", "199800010a", "", "1B", "199800010a", ""}, {"A", "", "", "2A", "202400000 ", ""},
-        {"A", "123456", "", "2A", "2024123456 ", ""},
+        {"A", "123456", "", "2A", "2024123456 ", ""},     {"A", "23", "", "7A", "200900023 ", "", "7", 2009},
     };
     for (const Caso& c : casos) {
+        if (c.prefijo) {
+            Config.SetPrefijoFacturas(QString::fromUtf8(c.prefijo));
+            Config.SetnAnoFacturas(c.anoFacturas);
+        }
         TFPreguntaDatos f(nullptr, QStringLiteral("NumeroFactura"));
         muestra(f);
         teclea(f.ENOTARIOSERIE, QString::fromUtf8(c.serie));
@@ -172,16 +178,6 @@ TEST(PreguntaDatos, InvoiceNumberComposition) {
         EXPECT_EQ(f.AnoNumeroResultado, QString::fromUtf8(c.anoNumero)) << c.numero;
         EXPECT_EQ(f.BisResultado, QString::fromUtf8(c.bisResultado)) << c.numero;
     }
-    // The configured prefix and year win over the notary's number and today's year.
-    Config.SetPrefijoFacturas(QStringLiteral("7"));
-    Config.SetnAnoFacturas(2009);
-    TFPreguntaDatos f(nullptr, QStringLiteral("NumeroFactura"));
-    muestra(f);
-    teclea(f.ENOTARIOSERIE, QStringLiteral("A"));
-    teclea(f.EANONUMEROBIS, QStringLiteral("23"));
-    f.btnAceptarClick();
-    EXPECT_EQ(f.SerieResultado, QStringLiteral("7A"));
-    EXPECT_EQ(f.AnoNumeroResultado, QStringLiteral("200900023 "));
 }
 
 TEST(PreguntaDatos, ALetterEndsAnInvoiceNumber) {
@@ -198,40 +194,29 @@ TEST(PreguntaDatos, MinuteNumbers) {
     ServicioMensajesInstalado instalado(mensajes);
     for (const char* tipo : {"NumeroMinuta", "NumeroMinuta2"}) {
         SCOPED_TRACE(tipo);
-        // 0 is accepted.
-        {
-            TFPreguntaDatos f(nullptr, QString::fromUtf8(tipo));
-            muestra(f);
-            f.seNumero9->selectAll();
-            teclea(f.seNumero9, QStringLiteral("0"));
-            sale(f.seNumero9);
-            f.btnAceptarClick();
-            EXPECT_EQ(f.result(), 1);
-            EXPECT_EQ(f.seNumero9->value(), 0);
-        }
-        // 100000 cannot be typed: the sixth digit is refused.
-        {
-            TFPreguntaDatos f(nullptr, QString::fromUtf8(tipo));
-            muestra(f);
-            f.seNumero9->selectAll();
-            teclea(f.seNumero9, QStringLiteral("100000"));
-            EXPECT_EQ(f.seNumero9->value(), 10000);
-        }
+        // A fresh form with `texto` typed over its number, and Enter after it when `enter`.
+        const auto escribe = [tipo](const char* texto, bool enter) {
+            auto f = std::make_unique<TFPreguntaDatos>(nullptr, QString::fromUtf8(tipo));
+            muestra(*f);
+            f->seNumero9->selectAll();
+            teclea(f->seNumero9, QString::fromUtf8(texto));
+            if (enter) sale(f->seNumero9);
+            return f;
+        };
+        const auto cero = escribe("0", true);
+        cero->btnAceptarClick();
+        EXPECT_EQ(cero->result(), 1);
+        EXPECT_EQ(cero->seNumero9->value(), 0);
+        EXPECT_EQ(escribe("100000", false)->seNumero9->value(), 10000); // the sixth digit is refused
         // -1: the renumbering request closes the second kind as cancelled; the first cannot take it.
-        {
-            TFPreguntaDatos f(nullptr, QString::fromUtf8(tipo));
-            muestra(f);
-            f.seNumero9->selectAll();
-            teclea(f.seNumero9, QStringLiteral("-1"));
-            sale(f.seNumero9);
-            if (QString::fromUtf8(tipo) == u"NumeroMinuta2") {
-                EXPECT_EQ(f.seNumero9->value(), -1);
-                EXPECT_EQ(f.result(), 2);
-                EXPECT_FALSE(f.isVisible());
-            } else {
-                EXPECT_GE(f.seNumero9->value(), 0);
-                EXPECT_TRUE(f.isVisible());
-            }
+        const auto menos = escribe("-1", true);
+        if (QString::fromUtf8(tipo) == u"NumeroMinuta2") {
+            EXPECT_EQ(menos->seNumero9->value(), -1);
+            EXPECT_EQ(menos->result(), 2);
+            EXPECT_FALSE(menos->isVisible());
+        } else {
+            EXPECT_GE(menos->seNumero9->value(), 0);
+            EXPECT_TRUE(menos->isVisible());
         }
     }
     EXPECT_TRUE(mensajes.mostrados().isEmpty());

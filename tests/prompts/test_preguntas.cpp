@@ -104,23 +104,6 @@ TEST(Preguntas, NumeroFacturaPadsSeriesToTwoAndNumberToTen) {
     }
 }
 
-TEST(Preguntas, DesdeHastaFacturaWithEveryBoxTicked) {
-    Hoy hoy(2024, 3, 15);
-    Responde r([](TFPreguntaDatos& f) {
-        for (QCheckBox* c :
-             {f.cbTipoPendientes, f.cbTipoDispensadas, f.cbTipoCobradas, f.cbTipoEspeciales, f.cbTipoMorosos})
-            c->click();
-        f.dtpDesde3->setDate(QDate(2024, 1, 1));
-        acepta(f);
-    });
-    TDateTime desde = 0, hasta = 0;
-    QString tipos = QStringLiteral("x");
-    ASSERT_TRUE(PreguntaDesdeHastaFactura(desde, hasta, tipos, 0, QStringLiteral("Relación"), 0));
-    EXPECT_EQ(tipos, QStringLiteral("NDSEM"));
-    EXPECT_EQ(desde, EncodeDate(2024, 1, 1));
-    EXPECT_EQ(hasta, EncodeDate(2024, 3, 15));
-}
-
 TEST(Preguntas, SerieGastosAndMonedaShowNothingWhenTheOfficeSaysSo) {
     prueba::OficinaPrueba oficina(QStringLiteral("[FACTURACION]\nSerieGastos=S\n"));
     Responde r([](TFPreguntaDatos& f) {

@@ -96,44 +96,30 @@ TEST(RespuestaFormulario, ValuesGoInInTabOrderSoAFieldIsEnabledBeforeItIsFilled)
 
 TEST(RespuestaFormulario, AnswersThatDoNotFitAreRefusedNamingTheControl) {
     prueba::OficinaPrueba oficina; // no invoice table: "&Aceptar" of the invoice number is disabled
+    // An unknown control, a boolean for a year, an item not in the list and a disabled "&Aceptar" are
+    // refused the same way through `nodrim batch` (tests/nodrim/test_formularios.cpp).
+    const auto fija = [](const char* control, const QVariant& v) {
+        return RespuestaFormulario{{{QString::fromUtf8(control), v}}, {}};
+    };
     struct Caso {
         const char* tipo;
         RespuestaFormulario r;
         const char* error;
     } casos[] = {
-        {"MesAño",
-         {{{QStringLiteral("cbMez"), 1}}, {}},
-         "the form \"Indique el mes y el año.\" has no control \"cbMez\""},
-        {"MesAño",
-         {{{QStringLiteral("seAno4"), true}}, {}},
-         "control \"seAno4\" takes a string or an integer, not a boolean"},
-        {"MesAño",
-         {{{QStringLiteral("cbMes"), QStringLiteral("Enero")}}, {}},
-         "control \"cbMes\" has no item \"Enero\""},
-        {"MesAño", {{{QStringLiteral("cbMes"), 12}}, {}}, "control \"cbMes\" has no item 12"},
+        {"MesAño", fija("cbMes", 12), "control \"cbMes\" has no item 12"},
         {"MesAño",
          {{}, QStringLiteral("btnNada")},
          "the form \"Indique el mes y el año.\" has no button \"btnNada\""},
-        {"MesAño", {{{QStringLiteral("btnAceptar"), true}}, {}}, "control \"btnAceptar\" takes no value"},
-        {"SerieGastos",
-         {{{QStringLiteral("rbSerieR"), false}}, {}},
+        {"MesAño", fija("btnAceptar", true), "control \"btnAceptar\" takes no value"},
+        {"SerieGastos", fija("rbSerieR", false),
          "radio button \"rbSerieR\" is cleared by choosing another one"},
-        {"DesdeDia",
-         {{{QStringLiteral("dtpDesdeFecha"), QStringLiteral("15/03/2024")}}, {}},
+        {"DesdeDia", fija("dtpDesdeFecha", QStringLiteral("15/03/2024")),
          "control \"dtpDesdeFecha\" takes a date \"YYYY-MM-DD\", not a string"},
-        {"Texto",
-         {{{QStringLiteral("eTexto"), 12}}, {}},
-         "control \"eTexto\" takes a string, not an integer"},
-        {"PideNumeroFactura", {{}, {}}, "button \"btnAceptar\" is disabled"},
-        {"PideNumeroFactura",
-         {{{QStringLiteral("ENUMEROFAC"), 7}}, {}},
-         "control \"ENUMEROFAC\" is disabled"},
-        {"CantidadMaxMin",
-         {{{QStringLiteral("lblCantidad"), QStringLiteral("1")}}, {}},
+        {"Texto", fija("eTexto", 12), "control \"eTexto\" takes a string, not an integer"},
+        {"PideNumeroFactura", fija("ENUMEROFAC", 7), "control \"ENUMEROFAC\" is disabled"},
+        {"CantidadMaxMin", fija("lblCantidad", QStringLiteral("1")),
          "control \"lblCantidad\" takes no value"},
-        {"Cantidad",
-         {{{QStringLiteral("FECantidadMaxima"), 5}}, {}},
-         "control \"FECantidadMaxima\" is not shown"},
+        {"Cantidad", fija("FECantidadMaxima", 5), "control \"FECantidadMaxima\" is not shown"},
     };
     for (const Caso& c : casos) {
         TFPreguntaDatos f(nullptr, QString::fromUtf8(c.tipo));
