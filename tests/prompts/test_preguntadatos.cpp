@@ -3,10 +3,9 @@
 #include "companion/config.h"
 #include "companion/editimporte.h"
 #include "companion/foco.h"
-#include "companion/hoy.h"
 #include "companion/mensajes.h"
-#include "prompts/preguntadatos.h"
 #include "tables/tablas.h"
+#include "tests/prompts/prueba_preguntas.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QCheckBox>
@@ -24,31 +23,9 @@
 #include <gtest/gtest.h>
 
 using namespace nod;
+using namespace nod::prueba;
 
 namespace {
-
-// Today fixed for one test.
-struct Hoy {
-    explicit Hoy(int a, int m, int d) { FijaAhora(EncodeDate(a, m, d) + 0.5); }
-    ~Hoy() { FijaAhora(std::nullopt); }
-};
-
-void muestra(QDialog& f) {
-    f.show();
-    QApplication::setActiveWindow(&f);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
-}
-
-// Puts the focus on `w` as a clerk clicking it would, then types `texto` into it.
-void teclea(QWidget* w, const QString& texto) {
-    w->setFocus(Qt::MouseFocusReason);
-    QTest::keyClicks(w, texto);
-}
-
-// Leaves the focused control the way the clerk does, with Enter.
-void sale(QWidget* w) {
-    QTest::keyClick(w, Qt::Key_Return);
-}
 
 TEST(PreguntaDatos, EveryKindShowsItsPanelAtEightEightSizedAroundIt) {
     prueba::OficinaPrueba oficina;
@@ -149,40 +126,8 @@ TEST(PreguntaDatos, MonthKindsProposeThePreviousMonth) {
     EXPECT_TRUE(g.gbBalanMensualCobroMes->isVisibleTo(&g));
 }
 
-TEST(PreguntaDatos, InvoiceNumberComposition) {
-    prueba::OficinaPrueba oficina(QStringLiteral("[GENERAL]\nNotario=2\n"));
-    Hoy hoy(2024, 3, 1);
-    struct Caso {
-        const char *serie, *numero, *bis;
-        const char *serieResultado, *anoNumero, *bisResultado;
-        const char* prefijo = nullptr; // with the configured prefix and year, which win over the notary
-        int anoFacturas = 0;           // and today's year
-    } casos[] = {
-        {"A", "23", "", "2A", "202400023 ", ""},          {"a", "23b", "t", "2A", "202400023B", "T"},
-        {"1B", "199800010a", "", "1B", "199800010a", ""}, {"A", "", "", "2A", "202400000 ", ""},
-        {"A", "123456", "", "2A", "2024123456 ", ""},     {"A", "23", "", "7A", "200900023 ", "", "7", 2009},
-    };
-    for (const Caso& c : casos) {
-        if (c.prefijo) {
-            Config.SetPrefijoFacturas(QString::fromUtf8(c.prefijo));
-            Config.SetnAnoFacturas(c.anoFacturas);
-        }
-        TFPreguntaDatos f(nullptr, QStringLiteral("NumeroFactura"));
-        muestra(f);
-        teclea(f.ENOTARIOSERIE, QString::fromUtf8(c.serie));
-        teclea(f.EANONUMEROBIS, QString::fromUtf8(c.numero));
-        teclea(f.ENUMEROBIS, QString::fromUtf8(c.bis));
-        QTest::keyClick(f.btnAceptar, Qt::Key_Space);
-        EXPECT_EQ(f.result(), 1);
-        EXPECT_EQ(f.SerieResultado, QString::fromUtf8(c.serieResultado)) << c.numero;
-        EXPECT_EQ(f.AnoNumeroResultado, QString::fromUtf8(c.anoNumero)) << c.numero;
-        EXPECT_EQ(f.BisResultado, QString::fromUtf8(c.bisResultado)) << c.numero;
-    }
-}
-
 TEST(PreguntaDatos, ALetterEndsAnInvoiceNumber) {
-    TFPreguntaDatos f(nullptr, QStringLiteral("NumeroFactura"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("NumeroFactura"));
     teclea(f.EANONUMEROBIS, QStringLiteral("2x3y"));
     EXPECT_EQ(f.EANONUMEROBIS->text(), QStringLiteral("2x")); // the bis letter; nothing may follow it
     teclea(f.ENUMEROBIS, QStringLiteral("12b"));
@@ -196,8 +141,7 @@ TEST(PreguntaDatos, MinuteNumbers) {
         SCOPED_TRACE(tipo);
         // A fresh form with `texto` typed over its number, and Enter after it when `enter`.
         const auto escribe = [tipo](const char* texto, bool enter) {
-            auto f = std::make_unique<TFPreguntaDatos>(nullptr, QString::fromUtf8(tipo));
-            muestra(*f);
+            auto f = std::make_unique<FormularioVisible>(QString::fromUtf8(tipo));
             f->seNumero9->selectAll();
             teclea(f->seNumero9, QString::fromUtf8(texto));
             if (enter) sale(f->seNumero9);
@@ -228,8 +172,7 @@ TEST(PreguntaDatos, YearFieldsCompleteTwoDigitYearsOnLeaving) {
         int ano;
     } casos[] = {{"05", 2005}, {"5", 2005}, {"98", 1998}, {"150", 150}, {"2024", 2024}};
     for (const Caso& c : casos) {
-        TFPreguntaDatos f(nullptr, QStringLiteral("NumeroAño"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("NumeroAño"));
         f.seAno7->setFocus(Qt::TabFocusReason);
         f.seAno7->selectAll();
         QTest::keyClicks(f.seAno7, QString::fromUtf8(c.escrito));
@@ -240,8 +183,7 @@ TEST(PreguntaDatos, YearFieldsCompleteTwoDigitYearsOnLeaving) {
 }
 
 TEST(PreguntaDatos, YearFieldsRefuseLettersAndYearsPastTheirRange) {
-    TFPreguntaDatos f(nullptr, QStringLiteral("Año"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("Año"));
     f.seAno->selectAll();
     teclea(f.seAno, QStringLiteral("2a0x"));
     EXPECT_EQ(f.seAno->text(), QStringLiteral("20"));
@@ -251,8 +193,7 @@ TEST(PreguntaDatos, YearFieldsRefuseLettersAndYearsPastTheirRange) {
 }
 
 TEST(PreguntaDatos, MonthListDigitsAndLetters) {
-    TFPreguntaDatos f(nullptr, QStringLiteral("MesAño"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("MesAño"));
     struct Paso {
         const char* teclas;
         const char* texto;
@@ -283,8 +224,7 @@ TEST(PreguntaDatos, DigitsPastTheEndOfAShortListLeaveItWithoutAnItem) {
         const char* teclas;
     } casos[] = {{"TrimestreAño", "12"}, {"TrimestreAño", "5"}, {"SemestreAño", "12"}, {"SemestreAño", "3"}};
     for (const Caso& c : casos) {
-        TFPreguntaDatos f(nullptr, QString::fromUtf8(c.tipo));
-        muestra(f);
+        FormularioVisible f(QString::fromUtf8(c.tipo));
         QComboBox* lista = f.cbTrimestre ? f.cbTrimestre : f.cbSemestre;
         lista->setCurrentIndex(lista->count() - 1);
         lista->setFocus(Qt::TabFocusReason);
@@ -295,8 +235,7 @@ TEST(PreguntaDatos, DigitsPastTheEndOfAShortListLeaveItWithoutAnItem) {
 }
 
 TEST(PreguntaDatos, EnterMovesToTheNextControlAndEscapeCancels) {
-    TFPreguntaDatos f(nullptr, QStringLiteral("MesAño"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("MesAño"));
     EXPECT_TRUE(f.cbMes->hasFocus());
     for (QWidget* siguiente : std::initializer_list<QWidget*>{f.seAno4, f.btnAceptar, f.btnCANCELAR}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
@@ -317,8 +256,7 @@ TEST(PreguntaDatos, GaragePricesInEuros) {
 TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     // FENuevo1Change: the new range keeps the old one's length.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("Renumerar"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("Renumerar"));
         f.FEPoliza1->PonValor(100);
         f.FEPoliza2->PonValor(140);
         f.FENuevo1->clear();
@@ -327,16 +265,14 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     }
     // CBExclusionClick: the letter only while nothing is excluded.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("TrimestralSinNif"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("TrimestralSinNif"));
         EXPECT_FALSE(f.ELetraNIF->isEnabled());
         QTest::mouseClick(f.CBExclusion, Qt::LeftButton);
         EXPECT_TRUE(f.ELetraNIF->isEnabled());
     }
     // EDiasChange: two figures move on to "&Aceptar"; a third is undone, pasted or typed.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("XDias"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("XDias"));
         f.EDias->clear();
         teclea(f.EDias, QStringLiteral("15"));
         EXPECT_TRUE(f.btnAceptar->hasFocus());
@@ -346,8 +282,7 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     }
     // EnteroPress: digits and Backspace only; Delete still deletes.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("ImpresionTestamentos"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("ImpresionTestamentos"));
         f.EDesde->clear();
         teclea(f.EDesde, QStringLiteral("1a2-3"));
         EXPECT_EQ(f.EDesde->text(), QStringLiteral("123"));
@@ -361,8 +296,7 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     // gbBalanMensualCobroMesExit: the month chosen gives the deeds' dates on leaving the group.
     {
         Hoy hoy(2024, 6, 10);
-        TFPreguntaDatos f(nullptr, QStringLiteral("BalanMensualCobro"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("BalanMensualCobro"));
         f.cbMes16->setFocus(Qt::TabFocusReason);
         QTest::keyClicks(f.cbMes16, QStringLiteral("2"));
         f.seAno16->setValue(2024);
@@ -374,8 +308,7 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     }
     // The focus mark follows the focus.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("NumeroAño"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("NumeroAño"));
         EXPECT_TRUE(TieneFocoMarcado(f.seNumero2));
         sale(f.seNumero2);
         EXPECT_FALSE(TieneFocoMarcado(f.seNumero2));
@@ -385,8 +318,7 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
 
 TEST(PreguntaDatos, VatRateTakesTwoFiguresAndTwoDecimals) {
     prueba::OficinaPrueba oficina(QStringLiteral("[NOTARIA]\nColegio=5\n[FACTURACION]\nTipoIva=21\n"));
-    TFPreguntaDatos f(nullptr, QStringLiteral("BalanMensaEspecial"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("BalanMensaEspecial"));
     EXPECT_EQ(f.lblIVA2->text(), QStringLiteral("Tipo de IGIC:"));
     EXPECT_EQ(f.eIVA2->text(), QStringLiteral("21,00"));
     f.eIVA2->clear();

@@ -2,11 +2,10 @@
 // Forms are answered in place through the modal seam, as a clerk would answer them.
 #include "companion/config.h"
 #include "companion/editimporte.h"
-#include "companion/hoy.h"
 #include "companion/modal.h"
 #include "companion/pideclave.h"
-#include "prompts/preguntadatos.h"
 #include "prompts/preguntas.h"
+#include "tests/prompts/prueba_preguntas.h"
 #include "tests/support/modal.h"
 #include "tests/support/oficina_prueba.h"
 
@@ -25,13 +24,9 @@
 #include <gtest/gtest.h>
 
 using namespace nod;
+using namespace nod::prueba;
 
 namespace {
-
-struct Hoy {
-    explicit Hoy(int a, int m, int d) { FijaAhora(EncodeDate(a, m, d) + 0.25); }
-    ~Hoy() { FijaAhora(std::nullopt); }
-};
 
 // Answers every form with `accion`, run on the form once it is shown; the form's own result is
 // returned (the clerk's press sets it), or `accion`'s when it returns one.
@@ -79,28 +74,43 @@ TEST(Preguntas, ProfesionJuridica) {
     }
 }
 
-TEST(Preguntas, NumeroFacturaPadsSeriesToTwoAndNumberToTen) {
-    Hoy hoy(2024, 2, 2);
+// The series takes the notary's number (or the configured prefix), the number the year (today's or the
+// configured one); then the series is padded to two, the number to ten and the bis to one.
+TEST(Preguntas, NumeroFacturaComposesAndPads) {
+    prueba::OficinaPrueba oficina(QStringLiteral("[GENERAL]\nNotario=2\n"));
+    Hoy hoy(2024, 3, 1);
     struct Caso {
         const char *serie, *numero, *bis;
         const char *s, *n, *b;
-    } casos[] = {{"A", "23", "", "1A", "202400023 ", " "},
-                 {"", "", "", "  ", "202400000 ", " "},
-                 {"1B", "199800010a", "c", "1B", "199800010a", "C"}};
+        const char* prefijo = nullptr;
+        int anoFacturas = 0;
+    } casos[] = {
+        {"A", "23", "", "2A", "202400023 ", " "},
+        {"a", "23b", "t", "2A", "202400023B", "T"},
+        {"1B", "199800010a", "c", "1B", "199800010a", "C"},
+        {"", "", "", "  ", "202400000 ", " "},
+        {"A", "", "", "2A", "202400000 ", " "},
+        {"A", "123456", "", "2A", "2024123456", " "},
+        {"A", "23", "", "7A", "200900023 ", " ", "7", 2009},
+    };
     for (const Caso& c : casos) {
+        if (c.prefijo) {
+            Config.SetPrefijoFacturas(QString::fromUtf8(c.prefijo));
+            Config.SetnAnoFacturas(c.anoFacturas);
+        }
         Responde r([&](TFPreguntaDatos& f) {
-            f.ENOTARIOSERIE->setText(QString::fromUtf8(c.serie));
-            f.EANONUMEROBIS->setText(QString::fromUtf8(c.numero));
-            QTest::keyClicks(f.ENUMEROBIS, QString::fromUtf8(c.bis));
+            for (auto [campo, texto] :
+                 {std::pair{f.ENOTARIOSERIE, c.serie}, {f.EANONUMEROBIS, c.numero}, {f.ENUMEROBIS, c.bis}}) {
+                campo->setFocus(Qt::MouseFocusReason);
+                QTest::keyClicks(campo, QString::fromUtf8(texto));
+            }
             acepta(f);
         });
         QString serie, numero, bis;
         ASSERT_TRUE(PreguntaNumeroFactura(serie, numero, bis));
-        EXPECT_EQ(serie, QString::fromUtf8(c.s));
-        EXPECT_EQ(numero, QString::fromUtf8(c.n));
-        EXPECT_EQ(bis, QString::fromUtf8(c.b));
-        EXPECT_EQ(serie.size(), 2);
-        EXPECT_EQ(numero.size(), 10);
+        EXPECT_EQ(serie, QString::fromUtf8(c.s)) << c.numero;
+        EXPECT_EQ(numero, QString::fromUtf8(c.n)) << c.numero;
+        EXPECT_EQ(bis, QString::fromUtf8(c.b)) << c.numero;
     }
 }
 

@@ -1,9 +1,8 @@
 // Answering a form without a clerk: what the form reports, values entered through its handlers, and a
 // clear refusal naming the control for every answer that does not fit.
-#include "companion/hoy.h"
 #include "companion/pideclave.h"
 #include "companion/respuestaformulario.h"
-#include "prompts/preguntadatos.h"
+#include "tests/prompts/prueba_preguntas.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QComboBox>
@@ -11,24 +10,13 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTest>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 using namespace nod;
+using namespace nod::prueba;
 
 namespace {
-
-struct Hoy {
-    explicit Hoy(int a, int m, int d) { FijaAhora(EncodeDate(a, m, d)); }
-    ~Hoy() { FijaAhora(std::nullopt); }
-};
-
-void muestra(QDialog& f) {
-    f.show();
-    QApplication::setActiveWindow(&f);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
-}
 
 QVariant valor(const FormularioMostrado& m, const char* control) {
     for (const ValorControl& v : m.valores)
@@ -38,8 +26,7 @@ QVariant valor(const FormularioMostrado& m, const char* control) {
 
 TEST(RespuestaFormulario, DescribesTheVisiblePanelAndItsValuesAsShown) {
     Hoy hoy(2024, 3, 10);
-    TFPreguntaDatos f(nullptr, QStringLiteral("TrimestralSinNif"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("TrimestralSinNif"));
     const FormularioMostrado m = DescribeFormulario(f);
     EXPECT_EQ(m.titulo, QStringLiteral("Indique el trimestre y el año."));
     EXPECT_EQ(m.panel, QStringLiteral("pnlTrimestralSinNif"));
@@ -54,8 +41,7 @@ TEST(RespuestaFormulario, DescribesTheVisiblePanelAndItsValuesAsShown) {
 
 TEST(RespuestaFormulario, ValuesGoInThroughTheHandlers) {
     Hoy hoy(2024, 3, 10);
-    TFPreguntaDatos f(nullptr, QStringLiteral("TrimestralSinNif"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("TrimestralSinNif"));
     const QString e = RespondeFormulario(f, {{{QStringLiteral("cbTrimestre2"), 1},
                                               {QStringLiteral("seAno12"), QStringLiteral("05")},
                                               {QStringLiteral("CBExclusion"), false},
@@ -122,8 +108,7 @@ TEST(RespuestaFormulario, AnswersThatDoNotFitAreRefusedNamingTheControl) {
         {"Cantidad", fija("FECantidadMaxima", 5), "control \"FECantidadMaxima\" is not shown"},
     };
     for (const Caso& c : casos) {
-        TFPreguntaDatos f(nullptr, QString::fromUtf8(c.tipo));
-        muestra(f);
+        FormularioVisible f(QString::fromUtf8(c.tipo));
         const QString e = RespondeFormulario(f, c.r);
         EXPECT_TRUE(e.startsWith(QString::fromUtf8(c.error))) << c.tipo << ": " << e.toStdString();
         EXPECT_TRUE(f.isVisible()) << c.tipo; // nothing pressed
