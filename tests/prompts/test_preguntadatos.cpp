@@ -48,16 +48,20 @@ TEST(PreguntaDatos, EveryKindShowsItsPanelAtEightEightSizedAroundIt) {
         EXPECT_FALSE(f.btnAceptar->geometry().intersects(f.btnCANCELAR->geometry()));
         QList<QWidget*> vistos;
         for (QWidget* w : p->findChildren<QWidget*>()) {
+            const bool control = qobject_cast<QAbstractButton*>(w) || qobject_cast<QComboBox*>(w) ||
+                                 qobject_cast<QAbstractSpinBox*>(w) || qobject_cast<TEditImporte*>(w);
+            // Every control a script can name carries a name.
+            if (control || (qobject_cast<QLineEdit*>(w) && !w->parentWidget()->inherits("QAbstractSpinBox") &&
+                            !w->parentWidget()->inherits("QComboBox"))) {
+                EXPECT_FALSE(w->objectName().isEmpty()) << w->metaObject()->className();
+            }
             if (w->window() != &f || !w->isVisibleTo(p)) continue; // lists and calendars pop up apart
             const QRect enPanel(w->mapTo(p, QPoint(0, 0)), w->size());
             EXPECT_TRUE(p->rect().contains(enPanel)) << w->objectName().toStdString();
             if (auto* l = qobject_cast<QLabel*>(w); l && !l->wordWrap()) {
                 EXPECT_GE(l->width(), l->sizeHint().width()) << l->text().toStdString();
             }
-            if (qobject_cast<QLabel*>(w) || qobject_cast<QAbstractButton*>(w) ||
-                qobject_cast<QComboBox*>(w) || qobject_cast<QAbstractSpinBox*>(w) ||
-                qobject_cast<TEditImporte*>(w))
-                vistos << w;
+            if (control || qobject_cast<QLabel*>(w)) vistos << w;
         }
         // No two labels or controls of the same group overlap.
         for (int i = 0; i < vistos.size(); ++i)
@@ -67,14 +71,6 @@ TEST(PreguntaDatos, EveryKindShowsItsPanelAtEightEightSizedAroundIt) {
                         << vistos[i]->objectName().toStdString() << " / "
                         << vistos[j]->objectName().toStdString();
                 }
-        // Every control a script can name carries a name.
-        for (QWidget* w : p->findChildren<QWidget*>())
-            if ((qobject_cast<QAbstractButton*>(w) || qobject_cast<QComboBox*>(w) ||
-                 qobject_cast<QAbstractSpinBox*>(w) ||
-                 (qobject_cast<QLineEdit*>(w) && !w->parentWidget()->inherits("QAbstractSpinBox") &&
-                  !w->parentWidget()->inherits("QComboBox")))) {
-                EXPECT_FALSE(w->objectName().isEmpty()) << w->metaObject()->className();
-            }
     }
 }
 
@@ -134,34 +130,22 @@ TEST(PreguntaDatos, ALetterEndsAnInvoiceNumber) {
     EXPECT_EQ(f.ENUMEROBIS->text(), QStringLiteral("B"));
 }
 
-TEST(PreguntaDatos, MinuteNumbers) {
+// What -1 does in each kind is answered through `nodrim batch` (tests/nodrim/test_formularios.cpp).
+TEST(PreguntaDatos, MinuteNumbersTakeZeroButNotASixthDigit) {
     ServicioMensajesGuionado mensajes;
     ServicioMensajesInstalado instalado(mensajes);
     for (const char* tipo : {"NumeroMinuta", "NumeroMinuta2"}) {
         SCOPED_TRACE(tipo);
-        // A fresh form with `texto` typed over its number, and Enter after it when `enter`.
-        const auto escribe = [tipo](const char* texto, bool enter) {
-            auto f = std::make_unique<FormularioVisible>(QString::fromUtf8(tipo));
-            f->seNumero9->selectAll();
-            teclea(f->seNumero9, QString::fromUtf8(texto));
-            if (enter) sale(f->seNumero9);
-            return f;
-        };
-        const auto cero = escribe("0", true);
-        cero->btnAceptarClick();
-        EXPECT_EQ(cero->result(), 1);
-        EXPECT_EQ(cero->seNumero9->value(), 0);
-        EXPECT_EQ(escribe("100000", false)->seNumero9->value(), 10000); // the sixth digit is refused
-        // -1: the renumbering request closes the second kind as cancelled; the first cannot take it.
-        const auto menos = escribe("-1", true);
-        if (QString::fromUtf8(tipo) == u"NumeroMinuta2") {
-            EXPECT_EQ(menos->seNumero9->value(), -1);
-            EXPECT_EQ(menos->result(), 2);
-            EXPECT_FALSE(menos->isVisible());
-        } else {
-            EXPECT_GE(menos->seNumero9->value(), 0);
-            EXPECT_TRUE(menos->isVisible());
-        }
+        FormularioVisible f(QString::fromUtf8(tipo));
+        f.seNumero9->selectAll();
+        teclea(f.seNumero9, QStringLiteral("100000"));
+        EXPECT_EQ(f.seNumero9->value(), 10000);
+        f.seNumero9->selectAll();
+        teclea(f.seNumero9, QStringLiteral("0"));
+        sale(f.seNumero9);
+        f.btnAceptarClick();
+        EXPECT_EQ(f.result(), 1);
+        EXPECT_EQ(f.seNumero9->value(), 0);
     }
     EXPECT_TRUE(mensajes.mostrados().isEmpty());
 }

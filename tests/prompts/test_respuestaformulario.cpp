@@ -24,7 +24,8 @@ QVariant valor(const FormularioMostrado& m, const char* control) {
     return {};
 }
 
-TEST(RespuestaFormulario, DescribesTheVisiblePanelAndItsValuesAsShown) {
+// What the form reports is its visible panel with the values as shown; what goes in passes its handlers.
+TEST(RespuestaFormulario, DescribesTheVisiblePanelAndValuesGoInThroughTheHandlers) {
     Hoy hoy(2024, 3, 10);
     FormularioVisible f(QStringLiteral("TrimestralSinNif"));
     const FormularioMostrado m = DescribeFormulario(f);
@@ -37,11 +38,6 @@ TEST(RespuestaFormulario, DescribesTheVisiblePanelAndItsValuesAsShown) {
     EXPECT_EQ(valor(m, "ELetraNIF"), QVariant(QString()));
     EXPECT_FALSE(valor(m, "seAno").isValid()); // controls of other panels do not exist
     EXPECT_EQ(m.valores.size(), 6);
-}
-
-TEST(RespuestaFormulario, ValuesGoInThroughTheHandlers) {
-    Hoy hoy(2024, 3, 10);
-    FormularioVisible f(QStringLiteral("TrimestralSinNif"));
     const QString e = RespondeFormulario(f, {{{QStringLiteral("cbTrimestre2"), 1},
                                               {QStringLiteral("seAno12"), QStringLiteral("05")},
                                               {QStringLiteral("CBExclusion"), false},
