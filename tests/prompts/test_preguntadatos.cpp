@@ -93,18 +93,16 @@ TEST(PreguntaDatos, QuarterAndSemesterComeFromTodayShiftedBack) {
         const char* item;
         int ano;
     } casos[] = {
-        {"TrimestreAño", 2024, 1, 15, "CUARTO", 2023},     {"TrimestreAño", 2024, 4, 15, "PRIMERO", 2024},
-        {"TrimestralSinNif", 2024, 1, 15, "CUARTO", 2023}, {"SemestreAño", 2024, 7, 3, "PRIMERO", 2024},
+        {"TrimestreAño", 2024, 1, 15, "CUARTO", 2023},
+        {"TrimestreAño", 2024, 4, 15, "PRIMERO", 2024},
+        {"SemestreAño", 2024, 7, 3, "PRIMERO", 2024},
         {"SemestreAño", 2024, 6, 30, "SEGUNDO", 2023},
     };
     for (const Caso& c : casos) {
         Hoy hoy(c.a, c.m, c.d);
         TFPreguntaDatos f(nullptr, QString::fromUtf8(c.tipo));
-        const QString tipo = QString::fromUtf8(c.tipo);
-        QComboBox* lista = tipo == u"SemestreAño"    ? f.cbSemestre
-                           : tipo == u"TrimestreAño" ? f.cbTrimestre
-                                                     : f.cbTrimestre2;
-        QSpinBox* ano = tipo == u"SemestreAño" ? f.seAno6 : tipo == u"TrimestreAño" ? f.seAno5 : f.seAno12;
+        QComboBox* lista = f.cbSemestre ? f.cbSemestre : f.cbTrimestre;
+        QSpinBox* ano = f.cbSemestre ? f.seAno6 : f.seAno5;
         EXPECT_EQ(lista->currentText(), QString::fromUtf8(c.item)) << c.tipo << " " << c.m;
         EXPECT_EQ(ano->value(), c.ano) << c.tipo << " " << c.m;
     }
