@@ -39,7 +39,6 @@ bool encaja(const QString& texto, const std::string& patron) {
 
 } // namespace
 
-// Options, the office, and standard streams that are closed, full or not files at all.
 TEST(NodrimCommandLine, UsageOfficeAndStreamErrorsGiveTheirExitStatusAndMessage) {
     const std::string& p = kPeticion;
     const struct {

@@ -16,15 +16,6 @@ using nod::prueba::OficinaPrueba;
 
 namespace {
 
-// Asks `n` yes/no questions after an error box (which asks nothing) and counts the yeses.
-int pregunta(int n) {
-    Mensaje_Error(QStringLiteral("Aviso"), QStringLiteral("Error"));
-    int sies = 0;
-    for (int i = 0; i < n; ++i)
-        sies += NoSi(QStringLiteral("¿Seguro?"));
-    return sies;
-}
-
 Rutinas rutinasDePrueba() {
     Rutinas r;
     r.agrega(
@@ -41,7 +32,15 @@ Rutinas rutinasDePrueba() {
         "caracter", +[](QChar c) { return QString(c); });
     r.agrega(
         "lanza", +[](int) -> bool { throw std::runtime_error("boom"); });
-    r.agrega("pregunta", &pregunta);
+    // Asks `n` yes/no questions after an error box (which asks nothing) and counts the yeses.
+    r.agrega(
+        "pregunta", +[](int n) {
+            Mensaje_Error(QStringLiteral("Aviso"), QStringLiteral("Error"));
+            int sies = 0;
+            for (int i = 0; i < n; ++i)
+                sies += NoSi(QStringLiteral("¿Seguro?"));
+            return sies;
+        });
     r.agrega(
         "avisa", +[](const QString& texto) {
             if (!texto.isEmpty()) qCWarning(lcTablas).noquote() << texto;

@@ -359,17 +359,12 @@ TEST_F(FacturaA, AnEmptyMissingOrDamagedTableLeavesOnlySalir) {
 
 TEST(PreguntaDatos, OfficialsComeFromTheStaffTableInItsOrder) {
     prueba::OficinaPrueba oficina(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
-    {
-        TFPreguntaDatos f(nullptr, QStringLiteral("Oficial")); // no table: an empty list, no error
-        EXPECT_EQ(f.CBOficial->count(), 0);
-    }
+    // No table, then an empty one: an empty list, no error.
+    EXPECT_EQ(TFPreguntaDatos(nullptr, QStringLiteral("Oficial")).CBOficial->count(), 0);
     QDir().mkpath(oficina.ruta(QStringLiteral("DATOS")));
     const QString ruta = oficina.ruta(QStringLiteral("DATOS/EMPLEADO.DBF"));
     CreaFicheroDbf(ruta, {{QStringLiteral("CODUSER"), 'N', 4, 0}, {QStringLiteral("NOMBRE"), 'C', 40, 0}});
-    {
-        TFPreguntaDatos f(nullptr, QStringLiteral("Oficial")); // an empty table
-        EXPECT_EQ(f.CBOficial->count(), 0);
-    }
+    EXPECT_EQ(TFPreguntaDatos(nullptr, QStringLiteral("Oficial")).CBOficial->count(), 0);
     auto tb = TTabla::AbreRuta(ruta);
     for (const char* n : {"ZAPATA RUIZ, ANA", "ÁLVAREZ PÉREZ, JOSÉ"}) {
         tb->Append();

@@ -28,8 +28,7 @@ using namespace nod::prueba;
 
 namespace {
 
-// Answers every form with `accion`, run on the form once it is shown; the form's own result is
-// returned (the clerk's press sets it), or `accion`'s when it returns one.
+// Answers every form with `accion`, run on the form once it is shown; the clerk's press sets the result.
 class Responde {
 public:
     explicit Responde(std::function<void(TFPreguntaDatos&)> accion)
