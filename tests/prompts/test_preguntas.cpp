@@ -180,17 +180,13 @@ TEST(Preguntas, YearAndMinuteStartValues) {
     EXPECT_EQ(numero, 0);
 }
 
+// The client's series start from the configured ones and are stored; an interested party's are not.
 TEST(Preguntas, ChoicesComeBackAsLettersInTheOrderOfTheBoxes) {
     prueba::OficinaPrueba oficina;
     Responde r([](TFPreguntaDatos& f) {
-        if (f.cbReparacion3) f.cbReparacion3->click();
         if (f.cbClienteD) f.cbClienteD->click();
         acepta(f);
     });
-    QString opciones;
-    ASSERT_TRUE(PreguntaReparacionCliente(opciones));
-    EXPECT_EQ(opciones, QStringLiteral("124"));
-    // The client's series start from the configured ones and are stored; an interested party's are not.
     bool todas = false;
     QString series;
     ASSERT_TRUE(PreguntaSerieCliente(todas, series, {}));
