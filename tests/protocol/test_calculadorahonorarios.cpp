@@ -1,6 +1,5 @@
 // The fee calculator page: amounts typed the Spanish way, the scale choices handed to ARANCEL_C, and the
 // VAT check answered through the scripted message service.
-#include "companion/dialogo.h"
 #include "companion/editimporte.h"
 #include "companion/mensajes.h"
 #include "configuracion_arancel.h"
@@ -66,12 +65,6 @@ TEST_F(Calculadora, KeypadPointBeforeTheLastDigitsIsTheDecimalSeparator) {
     c->ECuantia->setText(QStringLiteral("1.234.5")); // still being typed: no fee is guessed
     EXPECT_TRUE(c->LHonorarioEscritura->text().isEmpty());
     EXPECT_TRUE(c->LTotal->text().isEmpty());
-}
-
-TEST_F(Calculadora, EveryAcceleratorIsUnique) {
-    // "Tabla &inferior" and "Comprobar &IVA" both answered Alt+I.
-    EXPECT_TRUE(AceleradoresRepetidos(c.get()).isEmpty())
-        << AceleradoresRepetidos(c.get()).join(u' ').toStdString();
 }
 
 TEST_F(Calculadora, PolicyChoicesReachTheConfiguredScale) {
