@@ -25,45 +25,36 @@ protected:
 };
 
 TEST_F(Iva, PorcentajeEnVigorYPregunta) {
-    // Association, town, date, percentage; the question after "¿Seguro que el " (empty: none asked) and
-    // its title after "Aplicación ".
-    const std::tuple<int, const char*, TDateTime, double, const char*, const char*> casos[] = {
-        {0, "", fecha(31, 8, 2012), 18, "", ""},
-        {0, "", fecha(1, 9, 2012) + 0.75, 21, "", ""},
-        {0, "", fecha(30, 6, 2010), 16, "", ""},
-        {0, "", fecha(1, 7, 2010), 18, "", ""},
-        {0, "", fecha(1, 9, 2012), 18,
-         "IVA a aplicar es el 18% y no el 21%?\rLa fecha es posterior al 01/09/2012", "de IVA"},
-        {0, "", fecha(15, 3, 2011), 21,
-         "IVA a aplicar es el 21% y no el 18%?\rLa fecha es posterior al 01/07/2010 y anterior al 01/09/2012",
+    // Association, town, date, percentage; in the question (none when empty) the percentages compared and
+    // the date's period, and the title after "Aplicación ", whose last word names the tax.
+    const std::tuple<int, const char*, TDateTime, double, const char*, const char*, const char*> casos[] = {
+        {0, "", fecha(31, 8, 2012), 18, "", "", ""},
+        {0, "", fecha(1, 9, 2012) + 0.75, 21, "", "", ""},
+        {0, "", fecha(30, 6, 2010), 16, "", "", ""},
+        {0, "", fecha(1, 7, 2010), 18, "", "", ""},
+        {0, "", fecha(1, 9, 2012), 18, "18% y no el 21%", "posterior al 01/09/2012", "de IVA"},
+        {0, "", fecha(15, 3, 2011), 21, "21% y no el 18%", "posterior al 01/07/2010 y anterior al 01/09/2012",
          "de IVA"},
-        {0, "", fecha(30, 6, 2010), 7.5,
-         "IVA a aplicar es el 7,5% y no el 16%?\rLa fecha es anterior al 01/07/2010", "de IVA"},
-        {5, "", fecha(1, 9, 2012), 7, "", ""},
+        {0, "", fecha(30, 6, 2010), 7.5, "7,5% y no el 16%", "anterior al 01/07/2010", "de IVA"},
+        {5, "", fecha(1, 9, 2012), 7, "", "", ""},
         // Association 5 wins over the town.
-        {5, "CEUTA", fecha(31, 8, 2012), 4,
-         "IGIC a aplicar es el 4% y no el 5%?\rLa fecha es anterior al 01/09/2012", "del IGIC"},
-        {5, "", fecha(2, 1, 2020), 21,
-         "IGIC a aplicar es el 21% y no el 7%?\rLa fecha es posterior al 01/09/2012", "del IGIC"},
-        {0, "MELILLA", fecha(1, 7, 2018), 6, "", ""},
-        {0, "MELILLA", fecha(30, 6, 2018), 6,
-         "IPSI a aplicar es el 6% y no el 9%?\rLa fecha es posterior al 24/09/2012", "del IPSI"},
-        {0, "CEUTA", fecha(2, 7, 2018), 21,
-         "IPSI a aplicar es el 21% y no el 6%?\rLa fecha es posterior al 01/07/2018", "del IPSI"},
-        {0, "CEUTA", fecha(23, 9, 2012), 9,
-         "IPSI a aplicar es el 9% y no el 4%?\rLa fecha es anterior al 24/09/2012", "de IPSI"},
+        {5, "CEUTA", fecha(31, 8, 2012), 4, "4% y no el 5%", "anterior al 01/09/2012", "del IGIC"},
+        {5, "", fecha(2, 1, 2020), 21, "21% y no el 7%", "posterior al 01/09/2012", "del IGIC"},
+        {0, "MELILLA", fecha(1, 7, 2018), 6, "", "", ""},
+        {0, "MELILLA", fecha(30, 6, 2018), 6, "6% y no el 9%", "posterior al 24/09/2012", "del IPSI"},
+        {0, "CEUTA", fecha(2, 7, 2018), 21, "21% y no el 6%", "posterior al 01/07/2018", "del IPSI"},
+        {0, "CEUTA", fecha(23, 9, 2012), 9, "9% y no el 4%", "anterior al 24/09/2012", "de IPSI"},
         // Only the exact upper-case town selects IPSI.
-        {0, "Ceuta", fecha(1, 1, 2020), 6,
-         "IVA a aplicar es el 6% y no el 21%?\rLa fecha es posterior al 01/09/2012", "de IVA"},
+        {0, "Ceuta", fecha(1, 1, 2020), 6, "6% y no el 21%", "posterior al 01/09/2012", "de IVA"},
     };
-    for (const auto& [colegio, lugar, fecha, porcentaje, texto, titulo] : casos) {
+    for (const auto& [colegio, lugar, fecha, porcentaje, porcentajes, periodo, titulo] : casos) {
         SCOPED_TRACE(testing::Message() << colegio << " " << lugar << " " << fecha << " " << porcentaje);
         Config.SetnColegio(colegio);
         Config.SetLugar1(QLatin1String(lugar));
         for (int respuesta : {1, 2}) {
             mensajes.limpia();
             mensajes.respuestas({respuesta});
-            const bool preguntado = *texto != 0;
+            const bool preguntado = *titulo != 0;
             EXPECT_EQ(CompruebaIVA(fecha, porcentaje), !preguntado || respuesta == 1);
             if (!preguntado) {
                 EXPECT_TRUE(mensajes.mostrados().isEmpty());
@@ -74,8 +65,11 @@ TEST_F(Iva, PorcentajeEnVigorYPregunta) {
             EXPECT_EQ(d.kind, QStringLiteral("Mensaje_NoSi"));
             EXPECT_EQ(d.title, QStringLiteral("Aplicación ") + QLatin1String(titulo));
             // The message service shows the text, then the question on a line of its own.
-            EXPECT_EQ(d.text, QStringLiteral("¿Seguro que el ") + QString::fromUtf8(texto) +
-                                  QStringLiteral("\n¿Desea continuar (S/N)?"));
+            EXPECT_EQ(d.text,
+                      QStringLiteral(
+                          "¿Seguro que el %1 a aplicar es el %2?\rLa fecha es %3\n¿Desea continuar (S/N)?")
+                          .arg(QString::fromLatin1(titulo).section(u' ', -1), QLatin1String(porcentajes),
+                               QLatin1String(periodo)));
         }
     }
 }
