@@ -98,17 +98,15 @@ TEST_F(Geo, Fault2ProvinceOfBusquedaCodIneIsACodeNotFilterText) {
     const struct {
         QString provincia;
         const char* esperado;
-    } casos[] = {
-        {QStringLiteral("28"), "28079"},
-        {QStringLiteral(" 28 "), "28079"},
-        {QString(), "28079"},
-        {QStringLiteral("08"), ""},
-        {QStringLiteral("99 OR COD_PROV=28"), ""},
-        {QStringLiteral("28) OR (COD_PROV=08"), ""},
-        {QStringLiteral("'28'"), ""},
-        {QStringLiteral("(").repeated(20000) + QStringLiteral("28"), ""},
-        {QStringLiteral("28 OR ").repeated(50000) + QStringLiteral("28"), ""},
-    };
+    } casos[] = {{QStringLiteral("28"), "28079"},
+                 {QStringLiteral(" 28 "), "28079"},
+                 {QString(), "28079"},
+                 {QStringLiteral("08"), ""},
+                 {QStringLiteral("99 OR COD_PROV=28"), ""},
+                 {QStringLiteral("28) OR (COD_PROV=08"), ""},
+                 {QStringLiteral("'28'"), ""},
+                 {QStringLiteral("(").repeated(20000) + QStringLiteral("28"), ""},
+                 {QStringLiteral("28 OR ").repeated(50000) + QStringLiteral("28"), ""}};
     for (const auto& c : casos)
         EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("MADRID"), c.provincia), QLatin1String(c.esperado))
             << qPrintable(c.provincia.left(40));

@@ -15,12 +15,10 @@ TEST(EstadoCivil, WordsByLanguageAndSex) {
         int codigo;
         const char16_t *hombre, *mujer, *home, *dona;
     };
-    const Caso casos[] = {
-        {2, u"casado en segundas nupcias", u"casada en segundas nupcias", u"casat en segones núpcies",
-         u"casada en segones núpcies"},
-        {6, u"viudo", u"viuda", u"vidu", u"vídua"},
-        {7, u"pareja de hecho", u"pareja de hecho", u"parella de fet", u"parella de fet"},
-    };
+    const Caso casos[] = {{2, u"casado en segundas nupcias", u"casada en segundas nupcias",
+                           u"casat en segones núpcies", u"casada en segones núpcies"},
+                          {6, u"viudo", u"viuda", u"vidu", u"vídua"},
+                          {7, u"pareja de hecho", u"pareja de hecho", u"parella de fet", u"parella de fet"}};
     for (const Caso& c : casos) {
         EXPECT_EQ(DecodificaEstadoCivil(c.codigo, QStringLiteral("H"), false), q(c.hombre));
         EXPECT_EQ(DecodificaEstadoCivil(c.codigo, QStringLiteral("M"), false), q(c.mujer));

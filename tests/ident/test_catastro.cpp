@@ -52,20 +52,18 @@ TEST(ReferenciaUrbana, ShapeAndExpansion) {
 }
 
 TEST(ReferenciaRustica, ShapeLooksAtTheEndWhileTheFormatterTakesTheNextTwo) {
-    const CasoFormato casos[] = {
-        {u"28079A1001AB", true, u"28079A000000001001AB"},
-        {u"28079a1001ab ", true, u"28079A000000001001AB"},
-        {u"1A2BCD", true, u"00001A000000000002BC"},
-        {u"A1BC", true, u"00000A000000000001BC"},
-        {u"28079A000000001001AB", true, u"28079A000000001001AB"},
-        {u"28079A1001A1", false, u"28079A1001A1"},
-        {u"28079A1001", false, u"28079A1001"},
-        {u"28079A", false, u"28079A"},
-        {u"28079", false, u"28079"},
-        {u"28079A-1001AB", false, u"28079A-1001AB"},
-        {u"28079A1001A\u00df", false, u"28079A1001A\u00df"},
-        {u"", false, u""},
-    };
+    const CasoFormato casos[] = {{u"28079A1001AB", true, u"28079A000000001001AB"},
+                                 {u"28079a1001ab ", true, u"28079A000000001001AB"},
+                                 {u"1A2BCD", true, u"00001A000000000002BC"},
+                                 {u"A1BC", true, u"00000A000000000001BC"},
+                                 {u"28079A000000001001AB", true, u"28079A000000001001AB"},
+                                 {u"28079A1001A1", false, u"28079A1001A1"},
+                                 {u"28079A1001", false, u"28079A1001"},
+                                 {u"28079A", false, u"28079A"},
+                                 {u"28079", false, u"28079"},
+                                 {u"28079A-1001AB", false, u"28079A-1001AB"},
+                                 {u"28079A1001A\u00df", false, u"28079A1001A\u00df"},
+                                 {u"", false, u""}};
     for (const auto& c : casos) {
         EXPECT_EQ(SePuedeFormatearReferenciaCatastralRustica(q(c.entrada)), c.expandible)
             << qPrintable(q(c.entrada));

@@ -22,8 +22,7 @@ TEST(LoteIdent, RoutinesAnswerWithTheirJsonTypes) {
         {R"({"fn":"LetrasControlCatastral","args":["9872023VH5797S0001"]})", "WX"},
         {R"({"fn":"DecodificaEstadoCivil","args":[6,"M",true]})", "vídua"},
         {R"({"fn":"CodificaTipoJuridico","args":["sociedad colectiva"]})", 1},
-        {R"({"fn":"Don","args":["M","C",0]})", "Doña"},
-    };
+        {R"({"fn":"Don","args":["M","C",0]})", "Doña"}};
     for (const auto& [linea, resultado] : casos) {
         const json r = pide(linea);
         ASSERT_FALSE(r.contains("error")) << r.dump();

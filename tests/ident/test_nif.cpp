@@ -35,8 +35,7 @@ TEST(RecalculaNIF, RecomputesTheLetterOfWrittenNifs) {
     const std::pair<const char16_t*, const char16_t*> casos[] = {
         {u"12.345.678-A", u"12.345.678-Z"}, {u"12345678z", u"12.345.678-Z"}, {u"1-T", u"00.000.001-R"},
         {u"X1234567L", u"X1234567L"},       {u"B58818501", u"B58818501"},    {u"", u""},
-        {u"123456789A", u"123456789"},
-    };
+        {u"123456789A", u"123456789"}};
     for (const auto& [entrada, salida] : casos)
         EXPECT_EQ(RecalculaNIF(q(entrada)), q(salida)) << qPrintable(q(entrada));
 }
@@ -85,8 +84,7 @@ TEST(ExtraeSuperficiesRustica, WordsAreSearchedInOrderOnWhatIsLeft) {
         {u"1234.5 m2", 1234.52}, // every digit counts, the square of "m2" too
         {u"2 hectareas", 2},     // the words are looked for in upper case only
         {u"", 0},
-        {u"HECTAREAS", 0},
-    };
+        {u"HECTAREAS", 0}};
     for (const auto& [texto, metros] : casos) {
         double superficie = -1;
         ExtraeSuperficiesRustica(q(texto), superficie);

@@ -121,8 +121,7 @@ TEST_F(RecuperaMunicipioTest, AnswersAndTheirCodes) {
         {"huge answer", QByteArray(3 << 20, ' ') + respuestaMadrid(), 200, ResultadoCatastro::SinConexion,
          u"", u""},
         {"deep nesting", QByteArray(100000, 'x').replace("x", "<a>"), 200, ResultadoCatastro::NoEncontrada,
-         u"", u""},
-    };
+         u"", u""}};
     for (const Caso& c : casos) {
         servidor.respondeCon(c.cuerpo, c.estado);
         const ConsultaCatastro r = consulta();

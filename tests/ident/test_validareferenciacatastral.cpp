@@ -80,8 +80,7 @@ TEST_F(DialogoRefCatastral, TypedLettersTurnUpperCaseOneForOne) {
     const std::pair<const char16_t*, const char16_t*> casos[] = {
         {u"9872023vh5797s0001wx", u"9872023VH5797S0001WX"},
         {u"123\u00df\u00e1\u00f1", u"123\u00df\u00c1\u00d1"}, // "ß" stays one character
-        {u"1234567890123456789\u00df", u"1234567890123456789\u00df"},
-    };
+        {u"1234567890123456789\u00df", u"1234567890123456789\u00df"}};
     for (const auto& [tecleado, mostrado] : casos) {
         f.ERCRefCatastral->clear();
         // Key by key as a keyboard sends them (QTest's key helpers take ASCII only).
@@ -132,54 +131,22 @@ TEST_F(DialogoRefCatastral, ValidationReportsEachResultWithItsMessage) {
         const char16_t* formateada;
         const char16_t* mensaje;
     };
+    const char16_t* valida = u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida.";
+    const char16_t* patron = u"Mensaje_Error|Error|La referencia Catastral NO es válida. Patrón incorrecto";
+    const char16_t* sinConexion =
+        u"Mensaje_Error|Error|No se ha podido establecer la conexión para comprobar la Referencia.";
     const Caso casos[] = {
-        {1,
-         false,
-         "9872023VH5797S0001WX",
-         {},
-         u"9872023VH5797S0001WX",
-         u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida."},
-        {1,
-         false,
-         "9872023VH5797S0001XW",
-         {},
-         u"9872023VH5797S0001XW",
-         u"Mensaje_Error|Error|La referencia Catastral NO es válida. Patrón incorrecto"},
-        {0,
-         false,
-         "123VH5797S1XW",
-         {},
-         u"0000123VH5797S0001XW",
-         u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida."},
-        {1,
-         true,
-         "28079A1001AB",
-         {},
-         u"28079A000000001001AB",
-         u"Mensaje_Error|Error|La referencia Catastral NO es válida. Patrón incorrecto"},
-        {0,
-         true,
-         "28079A1001AB",
-         {},
-         u"28079A000000001001AB",
-         u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida."},
+        {1, false, "9872023VH5797S0001WX", {}, u"9872023VH5797S0001WX", valida},
+        {1, false, "9872023VH5797S0001XW", {}, u"9872023VH5797S0001XW", patron},
+        {0, false, "123VH5797S1XW", {}, u"0000123VH5797S0001XW", valida},
+        {1, true, "28079A1001AB", {}, u"28079A000000001001AB", patron},
+        {0, true, "28079A1001AB", {}, u"28079A000000001001AB", valida},
         {2, false, "9872023VH5797S0001WX", kRespuestaCeuta, u"9872023VH5797S0001WX",
          u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida. Según Catastro"},
         {2, false, "9872023VH5797S0001WX", "<ERR>", u"9872023VH5797S0001WX",
          u"Mensaje_Error|Error|La referencia Catastral NO es válida. Según Catastro"},
-        {2,
-         false,
-         "9872023VH5797S0001WX",
-         {},
-         u"9872023VH5797S0001WX",
-         u"Mensaje_Error|Error|No se ha podido establecer la conexión para comprobar la Referencia."},
-        {2,
-         false,
-         "",
-         {},
-         u"",
-         u"Mensaje_Error|Error|La referencia Catastral NO es válida. Patrón incorrecto"},
-    };
+        {2, false, "9872023VH5797S0001WX", {}, u"9872023VH5797S0001WX", sinConexion},
+        {2, false, "", {}, u"", patron}};
     for (const Caso& c : casos) {
         mensajes.limpia();
         Config.SetnValidacionRefCat(c.modo);

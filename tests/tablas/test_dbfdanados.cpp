@@ -59,17 +59,15 @@ TEST(TablasDanadas, KnownDamages) {
         QByteArray bytes;
         const char* motivo;
     };
-    const C casos[] = {
-        {"empty", QByteArray(), "bytes"},
-        {"truncated header", sana.left(20), "bytes"},
-        {"truncated records", sana.left(sana.size() - 40), "registros"},
-        {"unknown version", con([](QByteArray& b) { b[0] = char(0x30); }), "versión"},
-        {"record count lies", con([](QByteArray& b) { b[4] = char(0x50); }), "registros"},
-        {"record length lies", con([](QByteArray& b) { b[10] = char(b[10] + 1); }), "bytes"},
-        {"header length lies", con([](QByteArray& b) { b[9] = char(0x7F); }), "cabecera"},
-        {"field type unknown", con([](QByteArray& b) { b[32 + 11] = 'Z'; }), "tipo"},
-        {"date of wrong width", con([](QByteArray& b) { b[32 * 3 + 16] = 9; }), "longitud"},
-    };
+    const C casos[] = {{"empty", QByteArray(), "bytes"},
+                       {"truncated header", sana.left(20), "bytes"},
+                       {"truncated records", sana.left(sana.size() - 40), "registros"},
+                       {"unknown version", con([](QByteArray& b) { b[0] = char(0x30); }), "versión"},
+                       {"record count lies", con([](QByteArray& b) { b[4] = char(0x50); }), "registros"},
+                       {"record length lies", con([](QByteArray& b) { b[10] = char(b[10] + 1); }), "bytes"},
+                       {"header length lies", con([](QByteArray& b) { b[9] = char(0x7F); }), "cabecera"},
+                       {"field type unknown", con([](QByteArray& b) { b[32 + 11] = 'Z'; }), "tipo"},
+                       {"date of wrong width", con([](QByteArray& b) { b[32 * 3 + 16] = 9; }), "longitud"}};
     for (const C& c : casos) {
         try {
             DatosDbf::DesdeBytes(QStringLiteral("DANADA.DBF"), c.bytes);

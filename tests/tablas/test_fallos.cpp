@@ -106,8 +106,7 @@ TEST_F(Fallos, Fault2DeepOrLongFiltersAreAClearErrorNotACrash) {
         {"31,000 NOTs", repite("NOT ", 31000) + QStringLiteral("CODIGO=1"), "caracteres"},
         {"260,000 ORs", QStringLiteral("CODIGO=1") + repite(" OR CODIGO=1", 260000), "caracteres"},
         {"65 nested parentheses", repite("(", 65) + QStringLiteral("CODIGO=1") + repite(")", 65), "niveles"},
-        {"65 NOTs", repite("NOT ", 65) + QStringLiteral("CODIGO=1"), "niveles"},
-    };
+        {"65 NOTs", repite("NOT ", 65) + QStringLiteral("CODIGO=1"), "niveles"}};
     auto tb = TTabla::AbreRuta(ruta);
     for (const auto& m : malos) {
         try {
@@ -129,8 +128,7 @@ TEST_F(Fallos, Fault2DeepOrLongFiltersAreAClearErrorNotACrash) {
         {repite("NOT ", 64) + QStringLiteral("CODIGO=1"), 1},
         {QStringLiteral("CODIGO=9") + repite(" OR CODIGO=9", 400) + QStringLiteral(" OR CODIGO=4"), 1},
         {QStringLiteral("CODIGO>0") + repite(" AND CODIGO<5", 400), 4},
-        {QStringLiteral("NOT (CODIGO=1 OR CODIGO=2) AND NOT CODIGO=3 OR CODIGO=1"), 3},
-    };
+        {QStringLiteral("NOT (CODIGO=1 OR CODIGO=2) AND NOT CODIGO=3 OR CODIGO=1"), 3}};
     for (const auto& b : buenos) {
         TBFiltra(*tb, b.filtro);
         EXPECT_EQ(tb->RecordCount(), b.cuantas) << qPrintable(b.filtro.left(60));
@@ -189,8 +187,7 @@ TEST_F(Fallos, Fault6HeaderThatDisagreesWithTheFileIsDamage) {
              b[8] = char(cabecera + 1);
              b.insert(cabecera, '\0');
          }),
-         ""},
-    };
+         ""}};
     for (const auto& c : casos) {
         escribe(ruta, c.bytes);
         OlvidaTablasCargadas();
@@ -279,8 +276,7 @@ TEST(Fault8Cache, ARewriteThatKeepsSizeAndTimesIsSeenOnTheNextOpen) {
          [] {
              return CreaTabla(QStringLiteral("DB"), QStringLiteral("TABLA.DBF"), QStringLiteral("CODIGO"));
          },
-         true},
-    };
+         true}};
     for (const auto& c : casos) {
         escribe(ruta, original);
         usleep(30000); // older than any clock tick: a reopen may be served warm

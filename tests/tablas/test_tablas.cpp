@@ -289,26 +289,24 @@ TEST_F(Tablas, KeySearchFastPathAgreesWithTBBusca) {
         QVariant clave;
         int recno; // 0: not found
     };
-    const C casos[] = {
-        {"CODIGO", "", false, 2, 3},
-        {"CODIGO", "", false, 3, 1},
-        {"CODIGO", "", false, 4, 0},
-        {"CODIGO", "", false, -1, 0},
-        {"CODIGO", "", false, QStringLiteral("02"), 3},
-        {"CODIGO", "", false, QStringLiteral("x"), 0},
-        {"CODIGO", "ACTIVO=False", false, 2, 4},
-        {"CODIGO", "", true, 2, 4},
-        {"CODIGO", "", true, 1, 0},
-        {"CODIGO", "", true, 5, 5},
-        {"NOMBRE", "", false, QStringLiteral("LOPEZ"), 5},
-        {"NOMBRE", "", false, QStringLiteral("LOPEZ  "), 5},
-        {"NOMBRE", "", false, QStringLiteral("LOPE"), 0},
-        {"NOMBRE", "", false, QStringLiteral("LOPEZZ"), 0},
-        {"NOMBRE", "", false, QStringLiteral("GARCÍA"), 3},
-        {"NOMBRE", "", false, QStringLiteral("PEÑA"), 1},
-        {"NOMBRE", "CODIGO=5", false, QStringLiteral("PEÑA"), 0},
-        {"NOMBRE", "", true, QStringLiteral("ÁLVAREZ"), 0},
-    };
+    const C casos[] = {{"CODIGO", "", false, 2, 3},
+                       {"CODIGO", "", false, 3, 1},
+                       {"CODIGO", "", false, 4, 0},
+                       {"CODIGO", "", false, -1, 0},
+                       {"CODIGO", "", false, QStringLiteral("02"), 3},
+                       {"CODIGO", "", false, QStringLiteral("x"), 0},
+                       {"CODIGO", "ACTIVO=False", false, 2, 4},
+                       {"CODIGO", "", true, 2, 4},
+                       {"CODIGO", "", true, 1, 0},
+                       {"CODIGO", "", true, 5, 5},
+                       {"NOMBRE", "", false, QStringLiteral("LOPEZ"), 5},
+                       {"NOMBRE", "", false, QStringLiteral("LOPEZ  "), 5},
+                       {"NOMBRE", "", false, QStringLiteral("LOPE"), 0},
+                       {"NOMBRE", "", false, QStringLiteral("LOPEZZ"), 0},
+                       {"NOMBRE", "", false, QStringLiteral("GARCÍA"), 3},
+                       {"NOMBRE", "", false, QStringLiteral("PEÑA"), 1},
+                       {"NOMBRE", "CODIGO=5", false, QStringLiteral("PEÑA"), 0},
+                       {"NOMBRE", "", true, QStringLiteral("ÁLVAREZ"), 0}};
     for (const C& c : casos) {
         const QString que = QStringLiteral("%1 %2 %3 %4")
                                 .arg(QString::fromLatin1(c.indice), QString::fromLatin1(c.filtro))

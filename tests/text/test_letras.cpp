@@ -73,8 +73,7 @@ TEST(LetrasNod, GroupBoundariesGenderAndShortForm) {
          "NOVECIENTOS NOVENTA Y NUEVE"},
         {1000000000000, 'N', 'N', false, ""},
         {-1, 'N', 'N', false, ""},
-        {std::numeric_limits<qint64>::min(), 'N', 'N', false, ""},
-    };
+        {std::numeric_limits<qint64>::min(), 'N', 'N', false, ""}};
     for (const auto& c : casos)
         EXPECT_EQ(LetrasNod(c.numero, QLatin1Char(c.genero), QLatin1Char(c.caso), c.corto), u8(c.esperado))
             << c.numero << ' ' << c.genero << c.caso << c.corto;
@@ -96,11 +95,10 @@ TEST(LetrasNod, GroupsOfDigitsAsText) {
         bool corto;
         int grupo;
         const char* esperado;
-    } cientos[] = {
-        {1, 0, 0, true, 1, ""},       {1, 0, 0, true, 2, "UN "},       {1, 0, 0, false, 2, "UNO "},
-        {0, 0, 1, false, 2, "CIEN "}, {1, 2, 0, true, 2, "VEINTIÚN "}, {1, 2, 0, false, 2, "VEINTIUNO "},
-        {0, 0, 0, true, 2, ""},       {10, 0, 0, true, 2, ""},
-    };
+    } cientos[] = {{1, 0, 0, true, 1, ""},          {1, 0, 0, true, 2, "UN "},
+                   {1, 0, 0, false, 2, "UNO "},     {0, 0, 1, false, 2, "CIEN "},
+                   {1, 2, 0, true, 2, "VEINTIÚN "}, {1, 2, 0, false, 2, "VEINTIUNO "},
+                   {0, 0, 0, true, 2, ""},          {10, 0, 0, true, 2, ""}};
     for (const auto& c : cientos) {
         r.clear();
         CientosNod(c.u, c.t, c.h, c.corto, QLatin1Char('M'), r, c.grupo);
@@ -115,19 +113,17 @@ TEST(LetrasDecimalNod, DecimalDigitsReadAsAWholeNumber) {
         int decimales;
         char caso;
         const char* esperado;
-    } casos[] = {
-        {2.5, 2, 'N', "DOS CON CINCUENTA"},
-        {2.05, 2, 'N', "DOS CON CINCO"},
-        {2.567, 2, 'N', "DOS CON CINCUENTA Y SEIS"},
-        {2.5, 1, 'S', "dos con cinco"},
-        {2.5, 0, 'N', "DOS"},
-        {3, 2, 'N', "TRES"},
-        {0.25, 3, 'N', "CERO CON DOSCIENTOS CINCUENTA"},
-        {-2.5, 2, 'N', ""},
-        {1e12, 2, 'N', ""},
-        {nan, 2, 'N', ""},
-        {0.1234567890123456, 16, 'N', ""},
-    };
+    } casos[] = {{2.5, 2, 'N', "DOS CON CINCUENTA"},
+                 {2.05, 2, 'N', "DOS CON CINCO"},
+                 {2.567, 2, 'N', "DOS CON CINCUENTA Y SEIS"},
+                 {2.5, 1, 'S', "dos con cinco"},
+                 {2.5, 0, 'N', "DOS"},
+                 {3, 2, 'N', "TRES"},
+                 {0.25, 3, 'N', "CERO CON DOSCIENTOS CINCUENTA"},
+                 {-2.5, 2, 'N', ""},
+                 {1e12, 2, 'N', ""},
+                 {nan, 2, 'N', ""},
+                 {0.1234567890123456, 16, 'N', ""}};
     for (const auto& c : casos)
         EXPECT_EQ(LetrasDecimalNod(c.x, c.decimales, QLatin1Char('N'), QLatin1Char(c.caso)), u8(c.esperado))
             << c.x << ' ' << c.decimales;
@@ -138,15 +134,13 @@ TEST(LetrasPorCientoNod, DecimalsNamedByTheirCount) {
         double x;
         char genero, caso;
         const char* esperado;
-    } casos[] = {
-        {3.25, 'M', 'N', "TRES ENTEROS CON VEINTICINCO CENTÉSIMAS"},
-        {3.5, 'F', 'N', "TRES ENTEROS CON CINCO DÉCIMAS"},
-        {3.125, 'N', 'S', "tres enteros con ciento veinticinco milésimas"},
-        {21.1234, 'F', 'N', "VEINTIUNO ENTEROS CON MIL DOSCIENTAS TREINTA Y CUATRO"},
-        {3, 'N', 'N', "TRES"},
-        {0.5, 'N', 'N', "CERO ENTEROS CON CINCO DÉCIMAS"},
-        {-1, 'N', 'N', ""},
-    };
+    } casos[] = {{3.25, 'M', 'N', "TRES ENTEROS CON VEINTICINCO CENTÉSIMAS"},
+                 {3.5, 'F', 'N', "TRES ENTEROS CON CINCO DÉCIMAS"},
+                 {3.125, 'N', 'S', "tres enteros con ciento veinticinco milésimas"},
+                 {21.1234, 'F', 'N', "VEINTIUNO ENTEROS CON MIL DOSCIENTAS TREINTA Y CUATRO"},
+                 {3, 'N', 'N', "TRES"},
+                 {0.5, 'N', 'N', "CERO ENTEROS CON CINCO DÉCIMAS"},
+                 {-1, 'N', 'N', ""}};
     for (const auto& c : casos)
         EXPECT_EQ(LetrasPorCientoNod(c.x, QLatin1Char(c.genero), QLatin1Char(c.caso)), u8(c.esperado)) << c.x;
 }
@@ -156,22 +150,20 @@ TEST(EurosEnLetra, PluralUnitAndCents) {
         double importe;
         const char* caso;
         const char* esperado;
-    } casos[] = {
-        {21.5, "N", "VEINTIÚN EUROS CON CINCUENTA CENTIMOS"},
-        {21.5, "S", "veintiún euros con cincuenta céntimos"},
-        {21.5, "", "VEINTIÚN EUROS CON CINCUENTA CENTIMOS"},
-        {1, "N", "UN EUROS"},
-        // Only the whole text "S" lowers the unit words; the numbers take its first character.
-        {1, "SN", "un EUROS"},
-        {21.5, "SI", "veintiún EUROS CON cincuenta CENTIMOS"},
-        {21.5, "s", "VEINTIÚN EUROS CON CINCUENTA CENTIMOS"},
-        {0.05, "N", "CERO EUROS CON CINCO CENTIMOS"},
-        {21.01, "N", "VEINTIÚN EUROS CON UN CENTIMOS"},
-        {21000, "N", "VEINTIUNO MIL EUROS"},
-        {1000000, "N", "UN MILLON DE EUROS"},
-        {std::numeric_limits<double>::infinity(), "N", ""},
-        {-3, "N", ""},
-    };
+    } casos[] = {{21.5, "N", "VEINTIÚN EUROS CON CINCUENTA CENTIMOS"},
+                 {21.5, "S", "veintiún euros con cincuenta céntimos"},
+                 {21.5, "", "VEINTIÚN EUROS CON CINCUENTA CENTIMOS"},
+                 {1, "N", "UN EUROS"},
+                 // Only the whole text "S" lowers the unit words; the numbers take its first character.
+                 {1, "SN", "un EUROS"},
+                 {21.5, "SI", "veintiún EUROS CON cincuenta CENTIMOS"},
+                 {21.5, "s", "VEINTIÚN EUROS CON CINCUENTA CENTIMOS"},
+                 {0.05, "N", "CERO EUROS CON CINCO CENTIMOS"},
+                 {21.01, "N", "VEINTIÚN EUROS CON UN CENTIMOS"},
+                 {21000, "N", "VEINTIUNO MIL EUROS"},
+                 {1000000, "N", "UN MILLON DE EUROS"},
+                 {std::numeric_limits<double>::infinity(), "N", ""},
+                 {-3, "N", ""}};
     for (const auto& c : casos)
         EXPECT_EQ(EurosEnLetra(c.importe, QString::fromLatin1(c.caso)), u8(c.esperado)) << c.importe;
     EXPECT_EQ(Letras_Pesetas(5, QLatin1Char('N')), QString());
@@ -183,22 +175,20 @@ TEST(FormateaNumero, EveryMode) {
         const char* formato;
         double x;
         const char* esperado;
-    } casos[] = {
-        {"N1MN", 1234.5, "1.234,5"},
-        {"N2MN", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO CON CINCO"},
-        {"N3MN", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO ENTEROS CON CINCO DÉCIMAS"},
-        {"N4MN", 1234.5, "1.234,5 (MIL DOSCIENTOS TREINTA Y CUATRO CON CINCO)"},
-        {"N5FS", 21, "veintiuno (21)"},
-        {"N6NN", 3.25, "3,25 (TRES ENTEROS CON VEINTICINCO CENTÉSIMAS)"},
-        {"N7FS", 3.25, "tres enteros con veinticinco centésimas (3,25)"},
-        {"XXMN", 1234567, "UN MILLON DOSCIENTOS TREINTA Y CUATRO MIL QUINIENTOS SESENTA Y SIETE"},
-        {"N1", 1234567.125, "1.234.567,125"},
-        {"N1", 0, ""},
-        {"N1", 0.5, ",5"},
-        {"N1", -1234, "-1.234"},
-        {"N2", 0, "CERO"},
-        {"", 2, "DOS"},
-    };
+    } casos[] = {{"N1MN", 1234.5, "1.234,5"},
+                 {"N2MN", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO CON CINCO"},
+                 {"N3MN", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO ENTEROS CON CINCO DÉCIMAS"},
+                 {"N4MN", 1234.5, "1.234,5 (MIL DOSCIENTOS TREINTA Y CUATRO CON CINCO)"},
+                 {"N5FS", 21, "veintiuno (21)"},
+                 {"N6NN", 3.25, "3,25 (TRES ENTEROS CON VEINTICINCO CENTÉSIMAS)"},
+                 {"N7FS", 3.25, "tres enteros con veinticinco centésimas (3,25)"},
+                 {"XXMN", 1234567, "UN MILLON DOSCIENTOS TREINTA Y CUATRO MIL QUINIENTOS SESENTA Y SIETE"},
+                 {"N1", 1234567.125, "1.234.567,125"},
+                 {"N1", 0, ""},
+                 {"N1", 0.5, ",5"},
+                 {"N1", -1234, "-1.234"},
+                 {"N2", 0, "CERO"},
+                 {"", 2, "DOS"}};
     for (const auto& c : casos)
         EXPECT_EQ(FormateaNumero(QString::fromLatin1(c.formato), c.x), u8(c.esperado))
             << c.formato << ' ' << c.x;
@@ -209,18 +199,16 @@ TEST(FormateaCantidad, EveryModeAndPicture) {
         const char* formato;
         double x;
         const char* esperado;
-    } casos[] = {
-        {"M1N", 1234.5, "1.234,50 €"},
-        {"M2N", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO EUROS CON CINCUENTA CENTIMOS"},
-        {"M3N", 1234.5, "1.234,50 € (MIL DOSCIENTOS TREINTA Y CUATRO EUROS CON CINCUENTA CENTIMOS)"},
-        {"M4S", 21.5, "veintiún euros con cincuenta céntimos (21,50 € )"},
-        {"ZZN", 1234.5, "1.234,50 €"},
-        {"M1N", 1234, "1.234 €"},
-        {"M1N", 1234.05, "1.234,05 €"},
-        {"M1N", 1234.125, "1.234,125 €"},
-        {"M1N", 0.5, ",50 €"},
-        {"M3", 1, "1 € (UN EUROS)"},
-    };
+    } casos[] = {{"M1N", 1234.5, "1.234,50 €"},
+                 {"M2N", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO EUROS CON CINCUENTA CENTIMOS"},
+                 {"M3N", 1234.5, "1.234,50 € (MIL DOSCIENTOS TREINTA Y CUATRO EUROS CON CINCUENTA CENTIMOS)"},
+                 {"M4S", 21.5, "veintiún euros con cincuenta céntimos (21,50 € )"},
+                 {"ZZN", 1234.5, "1.234,50 €"},
+                 {"M1N", 1234, "1.234 €"},
+                 {"M1N", 1234.05, "1.234,05 €"},
+                 {"M1N", 1234.125, "1.234,125 €"},
+                 {"M1N", 0.5, ",50 €"},
+                 {"M3", 1, "1 € (UN EUROS)"}};
     for (const auto& c : casos)
         EXPECT_EQ(FormateaCantidad(QString::fromLatin1(c.formato), c.x), u8(c.esperado))
             << c.formato << ' ' << c.x;

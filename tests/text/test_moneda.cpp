@@ -30,19 +30,17 @@ TEST(Moneda, PesetasToEurosRoundedThroughText) {
         qint64 pesetas;
         int decimales;
         double esperado;
-    } casos[] = {
-        {166386, 2, 1000.0},
-        {1, 2, 0.01},
-        {166, 2, 1.0}, // 0,9977 carries into the units
-        {500, 2, 3.01},
-        {500, 0, 500 / 166.386},
-        {500, -3, 500 / 166.386},
-        {500, 4, 3.0051},
-        {-166386, 2, -1000.0},
-        {-500, 2, -3.01},
-        {0, 2, 0.0},
-        {500, 400, 500 / 166.386},
-    };
+    } casos[] = {{166386, 2, 1000.0},
+                 {1, 2, 0.01},
+                 {166, 2, 1.0}, // 0,9977 carries into the units
+                 {500, 2, 3.01},
+                 {500, 0, 500 / 166.386},
+                 {500, -3, 500 / 166.386},
+                 {500, 4, 3.0051},
+                 {-166386, 2, -1000.0},
+                 {-500, 2, -3.01},
+                 {0, 2, 0.0},
+                 {500, 400, 500 / 166.386}};
     for (const auto& c : casos)
         EXPECT_DOUBLE_EQ(PesetasEurosNod(c.pesetas, c.decimales), c.esperado)
             << c.pesetas << ' ' << c.decimales;
@@ -80,27 +78,25 @@ TEST(Moneda, PuntosNodGroupsDigits) {
         const char* numero;
         bool decimal;
         const char* esperado;
-    } casos[] = {
-        {"123", false, "123"},
-        {"1 234", false, "1.234"},
-        {"1234567", false, "1.234.567"},
-        {"-1234", false, "-1.234"},
-        {"-123456", false, "-123.456"},
-        {"-123", false, "-123"},
-        {"", false, ""},
-        {"1234567.89", true, "1.234.567,89"},
-        {"1234", true, "1.234"},
-        {"1234.5", true, "1.234,5"},
-        {".5", true, ",5"},
-        {"-1234.5", true, "-1.234,5"},
-        {"", true, ""},
-        {"1234,5", true, "1234,5"}, // a "," and no "." is left as it stands
-        {"1234.", true, "1.234,"},
-        // Every "." regroups what has been written so far, the "," included.
-        {"1.234.567", true, "1,.234,567"},
-        {"1234.5.6", true, "1..23.4,5,6"},
-        {"1234567.8901.2", true, "1..234..56.7,8.901,2"},
-    };
+    } casos[] = {{"123", false, "123"},
+                 {"1 234", false, "1.234"},
+                 {"1234567", false, "1.234.567"},
+                 {"-1234", false, "-1.234"},
+                 {"-123456", false, "-123.456"},
+                 {"-123", false, "-123"},
+                 {"", false, ""},
+                 {"1234567.89", true, "1.234.567,89"},
+                 {"1234", true, "1.234"},
+                 {"1234.5", true, "1.234,5"},
+                 {".5", true, ",5"},
+                 {"-1234.5", true, "-1.234,5"},
+                 {"", true, ""},
+                 {"1234,5", true, "1234,5"}, // a "," and no "." is left as it stands
+                 {"1234.", true, "1.234,"},
+                 // Every "." regroups what has been written so far, the "," included.
+                 {"1.234.567", true, "1,.234,567"},
+                 {"1234.5.6", true, "1..23.4,5,6"},
+                 {"1234567.8901.2", true, "1..234..56.7,8.901,2"}};
     for (const auto& c : casos)
         EXPECT_EQ(PuntosNod(QString::fromLatin1(c.numero), c.decimal), QString::fromLatin1(c.esperado))
             << c.numero << ' ' << c.decimal;
