@@ -20,31 +20,46 @@ protected:
     TFCalculaLetraNIF f;
 };
 
-TEST_F(DialogoLetraNIF, OpensInDniModeAndEachTypeShowsItsPanel) {
+// Switching DNI/CIF/NIE resized the window and moved the buttons, and a verdict narrowed its edit: each
+// type shows its own panel in place.
+TEST_F(DialogoLetraNIF, EachTypeShowsItsPanelInPlaceAndAVerdictKeepsTheEditWidth) {
     EXPECT_EQ(f.windowTitle(), QStringLiteral("Calculo de la letra del N.I.F."));
     EXPECT_TRUE(f.RBDNI->isChecked());
+    const QSize tamano = f.size();
+    const QPoint salir = f.BBSalir->pos();
+    const QPoint accion = f.BBCalculaLetra->pos();
+    const int anchoCif = f.ECIF->width();
     struct Caso {
         QRadioButton* rb;
         bool dni, cif, nie;
     };
     for (const Caso& c : {Caso{f.RBCIF, false, true, false}, Caso{f.RBNIE, false, false, true},
-                          Caso{f.RBDNI, true, false, false}}) {
+                          Caso{f.RBDNI, true, false, false}, Caso{f.RBNIE, false, false, true}}) {
         f.ENIF->setText(QStringLiteral("1"));
         f.ECIF->setText(QStringLiteral("B"));
         f.ENIE->setText(QStringLiteral("X"));
         QTest::mouseClick(c.rb, Qt::LeftButton);
-        EXPECT_EQ(f.PDNI->isVisible(), c.dni);
-        EXPECT_EQ(f.BBCalculaLetra->isVisible(), c.dni);
-        EXPECT_EQ(f.PCIF->isVisible(), c.cif);
-        EXPECT_EQ(f.PNIE->isVisible(), c.nie);
-        EXPECT_EQ(f.BBValidaCIF->isVisible(), !c.dni);
-        EXPECT_TRUE(f.ENIF->text().isEmpty() && f.ECIF->text().isEmpty() && f.ENIE->text().isEmpty());
-        if (c.cif) {
-            EXPECT_FALSE(f.LResultadoCIF_->isVisible());
-        }
-        if (c.nie) {
-            EXPECT_FALSE(f.LResultadoNIE_->isVisible());
-        }
+        QApplication::processEvents();
+        const std::string modo = c.rb->text().toStdString();
+        EXPECT_EQ(f.PDNI->isVisible(), c.dni) << modo;
+        EXPECT_EQ(f.BBCalculaLetra->isVisible(), c.dni) << modo;
+        EXPECT_EQ(f.PCIF->isVisible(), c.cif) << modo;
+        EXPECT_EQ(f.PNIE->isVisible(), c.nie) << modo;
+        EXPECT_EQ(f.BBValidaCIF->isVisible(), !c.dni) << modo;
+        EXPECT_TRUE(f.ENIF->text().isEmpty() && f.ECIF->text().isEmpty() && f.ENIE->text().isEmpty()) << modo;
+        EXPECT_FALSE(f.LResultadoCIF_->isVisible() || f.LResultadoNIE_->isVisible()) << modo;
+        EXPECT_EQ(f.size(), tamano) << modo;
+        EXPECT_EQ(f.BBSalir->pos(), salir) << modo;
+        EXPECT_EQ((c.dni ? f.BBCalculaLetra : f.BBValidaCIF)->pos(), accion) << modo;
+    }
+    QTest::mouseClick(f.RBCIF, Qt::LeftButton);
+    for (const char* cif : {"B58818501", "B58818502"}) {
+        f.ECIF->setText(QLatin1String(cif));
+        f.BBValidaCIF->click();
+        QApplication::processEvents();
+        EXPECT_TRUE(f.LResultadoCIF_->isVisible()) << cif;
+        EXPECT_EQ(f.ECIF->width(), anchoCif) << cif;
+        EXPECT_EQ(f.size(), tamano) << cif;
     }
 }
 
@@ -119,30 +134,6 @@ TEST_F(DialogoLetraNIF, DeleteAndTheEditingKeysWorkInTheDniEdit) {
     EXPECT_EQ(f.ENIF->text(), QStringLiteral("234568"));
     f.ENIF->setText(QStringLiteral("12.345.678-Z"));
     EXPECT_EQ(f.ENIF->text(), QStringLiteral("12345678")) << "a pasted or handed-in number keeps its digits";
-}
-
-// Switching DNI/CIF/NIE resized the window and moved the buttons, and a verdict narrowed its edit.
-TEST_F(DialogoLetraNIF, ModesAndVerdictsShowAndHideInPlace) {
-    const QSize tamano = f.size();
-    const QPoint salir = f.BBSalir->pos();
-    const QPoint accion = f.BBCalculaLetra->pos();
-    const int anchoCif = f.ECIF->width();
-    for (QRadioButton* rb : {f.RBCIF, f.RBNIE, f.RBDNI, f.RBNIE}) {
-        QTest::mouseClick(rb, Qt::LeftButton);
-        QApplication::processEvents();
-        EXPECT_EQ(f.size(), tamano) << rb->text().toStdString();
-        EXPECT_EQ(f.BBSalir->pos(), salir) << rb->text().toStdString();
-        EXPECT_EQ((f.RBDNI->isChecked() ? f.BBCalculaLetra : f.BBValidaCIF)->pos(), accion);
-    }
-    QTest::mouseClick(f.RBCIF, Qt::LeftButton);
-    for (const char* cif : {"B58818501", "B58818502"}) {
-        f.ECIF->setText(QLatin1String(cif));
-        f.BBValidaCIF->click();
-        QApplication::processEvents();
-        EXPECT_TRUE(f.LResultadoCIF_->isVisible());
-        EXPECT_EQ(f.ECIF->width(), anchoCif) << f.LResultadoCIF_->text().toStdString();
-        EXPECT_EQ(f.size(), tamano);
-    }
 }
 
 // "&Salir" and Escape gave 0 instead of the suite's cancel result.
