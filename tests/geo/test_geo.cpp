@@ -190,10 +190,6 @@ TEST(GeoSinTablas, MissingTablesGiveDefaults) {
     EXPECT_EQ(DomicilioClienteCompletoPorCodigo(1, 0, true), QString());
 }
 
-} // namespace
-
-namespace {
-
 TEST(Colegios, ExactNamesThenFragmentsInOrder) {
     struct C {
         const char *nombre, *alternativo, *esperado;

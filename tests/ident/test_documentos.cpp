@@ -55,9 +55,10 @@ TEST(TipoDeDocumento, LabelsOfCodes) {
 
 TEST(TipoDeDocumento, CodesOfLabelsKeepTheirCaseAsymmetry) {
     const std::pair<const char16_t*, int> casos[] = {
-        {u"N.I.F.", 1},
+        {u"N.I.F.", 1}, // each label of a code gives its code back
         {u"NIF", 1},
         {u"C.I.F.", 2},
+        {u"N.I.E.", 3},
         {u" N.I.E. ", 3},
         {u"N.I.E", 3},
         {u"PASAPORTE", 4},
@@ -77,38 +78,31 @@ TEST(TipoDeDocumento, CodesOfLabelsKeepTheirCaseAsymmetry) {
             << qPrintable(QString::fromUtf16(etiqueta));
 }
 
-TEST(TipoDeDocumento, RoundTripOfTheFourKnownCodes) {
-    for (int codigo = 1; codigo <= 4; ++codigo)
-        EXPECT_EQ(TipoDeDocumento(TipoDeDocumento(codigo)), codigo);
-}
-
+// For the DNI consultation only a CIF and a passport keep their type: everything else is asked as a NIF.
 TEST(QueTipoDeDocumentoEs, ShapesOfNumbers) {
-    const std::pair<const char16_t*, int> casos[] = {{u"12345678Z", 1},
-                                                     {u"12.345.678-a", 1},
-                                                     {u"K1234567L", 1},
-                                                     {u"B58818501", 2},
-                                                     {u"P2800000D", 2},
-                                                     {u"X1234567L", 3},
-                                                     {u"z-1234567-r", 3},
-                                                     {u"AB1234567", 4},
-                                                     {u"PAE123456", 4},
-                                                     {u"", 5},
-                                                     {u"   ", 5},
-                                                     {u"ABCDEFG", 5},
-                                                     {u"1234", 5},
-                                                     {u"12345678\u00d1", 5},
-                                                     {u"1234567890123456", 5}};
-    for (const auto& [numero, tipo] : casos)
-        EXPECT_EQ(QueTipoDeDocumentoEs(QString::fromUtf16(numero)), tipo)
-            << qPrintable(QString::fromUtf16(numero));
-}
-
-TEST(QueTipoDeDocumentoEsParaConsultaDNI, OnlyCifAndPassportKeepTheirType) {
-    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("X1234567L")), 1);
-    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("12345678Z")), 1);
-    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("")), 1);
-    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("B58818501")), 2);
-    EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QStringLiteral("AB1234567")), 4);
+    const struct {
+        const char16_t* numero;
+        int tipo, paraConsultaDNI;
+    } casos[] = {{u"12345678Z", 1, 1},
+                 {u"12.345.678-a", 1, 1},
+                 {u"K1234567L", 1, 1},
+                 {u"B58818501", 2, 2},
+                 {u"P2800000D", 2, 2},
+                 {u"X1234567L", 3, 1},
+                 {u"z-1234567-r", 3, 1},
+                 {u"AB1234567", 4, 4},
+                 {u"PAE123456", 4, 4},
+                 {u"", 5, 1},
+                 {u"   ", 5, 1},
+                 {u"ABCDEFG", 5, 1},
+                 {u"1234", 5, 1},
+                 {u"12345678\u00d1", 5, 1},
+                 {u"1234567890123456", 5, 1}};
+    for (const auto& c : casos) {
+        const QString numero = QString::fromUtf16(c.numero);
+        EXPECT_EQ(QueTipoDeDocumentoEs(numero), c.tipo) << qPrintable(numero);
+        EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(numero), c.paraConsultaDNI) << qPrintable(numero);
+    }
 }
 
 TEST(DocumentosCompanion, FlagDecidesWhetherTypingSeparatorsIsTolerated) {
