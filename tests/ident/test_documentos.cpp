@@ -42,37 +42,22 @@ INSTANTIATE_TEST_SUITE_P(
         CasoCif{u"   ", false}, CasoCif{u"A58818\u00e91", false}, CasoCif{u"\u00d158818501", false}));
 
 TEST(TipoDeDocumento, LabelsOfCodes) {
-    const std::pair<int, const char16_t*> casos[] = {{1, u"N.I.F."},
-                                                     {2, u"C.I.F."},
-                                                     {3, u"N.I.E."},
-                                                     {4, u"PASAPORTE"},
-                                                     {0, u"DOCUMENTO DE IDENTIFICACION"},
-                                                     {5, u"DOCUMENTO DE IDENTIFICACION"},
-                                                     {-1, u"DOCUMENTO DE IDENTIFICACION"}};
+    const std::pair<int, const char16_t*> casos[] = {
+        {1, u"N.I.F."}, {2, u"C.I.F."}, {3, u"N.I.E."}, {4, u"PASAPORTE"}};
     for (const auto& [codigo, etiqueta] : casos)
         EXPECT_EQ(TipoDeDocumento(codigo), QString::fromUtf16(etiqueta)) << codigo;
+    for (int otro : {0, 5, -1})
+        EXPECT_EQ(TipoDeDocumento(otro), QStringLiteral("DOCUMENTO DE IDENTIFICACION")) << otro;
 }
 
 TEST(TipoDeDocumento, CodesOfLabelsKeepTheirCaseAsymmetry) {
+    // Each label of a code gives its code back; blanks and control characters are trimmed.
     const std::pair<const char16_t*, int> casos[] = {
-        {u"N.I.F.", 1}, // each label of a code gives its code back
-        {u"NIF", 1},
-        {u"C.I.F.", 2},
-        {u"N.I.E.", 3},
-        {u" N.I.E. ", 3},
-        {u"N.I.E", 3},
-        {u"PASAPORTE", 4},
-        {u"pasaporte", 4},
-        {u"Pasa.porte", 4},
-        {u"n.i.f.", 5},
-        {u"nie", 5},
-        {u"DNI", 5},
-        {u"", 5},
-        {u"....", 5},
-        // Blanks and control characters are trimmed; a no-break space is a character of the label.
-        {u"\tN.I.E.\r\n", 3},
-        {u"\u00a0NIF", 5},
-        {u"PASAPORTE\u00a0", 5}};
+        {u"N.I.F.", 1}, {u"NIF", 1},       {u"C.I.F.", 2},    {u"N.I.E.", 3},     {u" N.I.E. ", 3},
+        {u"N.I.E", 3},  {u"PASAPORTE", 4}, {u"pasaporte", 4}, {u"Pasa.porte", 4}, {u"\tN.I.E.\r\n", 3}};
+    // A no-break space is a character of the label.
+    for (const char16_t* otra : {u"n.i.f.", u"nie", u"DNI", u"", u"....", u"\u00a0NIF", u"PASAPORTE\u00a0"})
+        EXPECT_EQ(TipoDeDocumento(QString::fromUtf16(otra)), 5) << qPrintable(QString::fromUtf16(otra));
     for (const auto& [etiqueta, codigo] : casos)
         EXPECT_EQ(TipoDeDocumento(QString::fromUtf16(etiqueta)), codigo)
             << qPrintable(QString::fromUtf16(etiqueta));
@@ -83,21 +68,15 @@ TEST(QueTipoDeDocumentoEs, ShapesOfNumbers) {
     const struct {
         const char16_t* numero;
         int tipo, paraConsultaDNI;
-    } casos[] = {{u"12345678Z", 1, 1},
-                 {u"12.345.678-a", 1, 1},
-                 {u"K1234567L", 1, 1},
-                 {u"B58818501", 2, 2},
-                 {u"P2800000D", 2, 2},
-                 {u"X1234567L", 3, 1},
-                 {u"z-1234567-r", 3, 1},
-                 {u"AB1234567", 4, 4},
-                 {u"PAE123456", 4, 4},
-                 {u"", 5, 1},
-                 {u"   ", 5, 1},
-                 {u"ABCDEFG", 5, 1},
-                 {u"1234", 5, 1},
-                 {u"12345678\u00d1", 5, 1},
-                 {u"1234567890123456", 5, 1}};
+    } casos[] = {{u"12345678Z", 1, 1},   {u"12.345.678-a", 1, 1},
+                 {u"K1234567L", 1, 1},   {u"B58818501", 2, 2},
+                 {u"P2800000D", 2, 2},   {u"X1234567L", 3, 1},
+                 {u"z-1234567-r", 3, 1}, {u"AB1234567", 4, 4},
+                 {u"PAE123456", 4, 4},   {u"", 5, 1}};
+    for (const char16_t* otro : {u"   ", u"ABCDEFG", u"1234", u"12345678\u00d1", u"1234567890123456"}) {
+        EXPECT_EQ(QueTipoDeDocumentoEs(QString::fromUtf16(otro)), 5) << qPrintable(QString::fromUtf16(otro));
+        EXPECT_EQ(QueTipoDeDocumentoEsParaConsultaDNI(QString::fromUtf16(otro)), 1);
+    }
     for (const auto& c : casos) {
         const QString numero = QString::fromUtf16(c.numero);
         EXPECT_EQ(QueTipoDeDocumentoEs(numero), c.tipo) << qPrintable(numero);

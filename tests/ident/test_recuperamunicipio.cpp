@@ -74,8 +74,6 @@ TEST_F(RecuperaMunicipioTest, RequestIsSentByteForByte) {
         "</soap:Envelope>\r";
     EXPECT_EQ(p.cuerpo, esperado);
     EXPECT_FALSE(p.cuerpo.contains('\n'));
-    EXPECT_EQ(provincia, QStringLiteral("28"));
-    EXPECT_EQ(municipio, QStringLiteral("900"));
 }
 
 TEST_F(RecuperaMunicipioTest, AnswersAndTheirCodes) {
