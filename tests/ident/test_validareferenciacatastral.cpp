@@ -150,16 +150,12 @@ TEST_F(DialogoRefCatastral, ValidationReportsEachResultWithItsMessage) {
          u"Mensaje_Error|Error|La referencia Catastral NO es válida. Según Catastro"},
         {2, false, "9872023VH5797S0001WX", {}, u"9872023VH5797S0001WX", sinConexion},
         {2, false, "", {}, u"", patron}};
+    const QString cerrado = QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado());
     for (const Caso& c : casos) {
         mensajes.limpia();
         Config.SetnValidacionRefCat(c.modo);
-        if (c.respuesta.isEmpty())
-            Config.SetServidorCatastro(
-                QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado()));
-        else {
-            Config.SetServidorCatastro(servidor.base());
-            servidor.respondeCon(c.respuesta);
-        }
+        Config.SetServidorCatastro(c.respuesta.isEmpty() ? cerrado : servidor.base());
+        servidor.respondeCon(c.respuesta);
         (c.rustica ? f.RBRustica : f.RBUrbana)->setChecked(true);
         escribe(QString::fromLatin1(c.entrada));
         f.BBValidar->click();

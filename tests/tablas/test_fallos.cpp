@@ -88,12 +88,14 @@ protected:
         OlvidaTablasCargadas();
         ruta = dir.filePath(QStringLiteral("TABLA.DBF"));
         sana = creaTabla(ruta, 5);
+        cabecera = quint8(sana[8]) | quint8(sana[9]) << 8;
     }
     void TearDown() override { Config = anterior; }
     TConfig anterior = Config;
     QTemporaryDir dir;
     QString ruta;
     QByteArray sana;
+    int cabecera = 0; // the header's length: the first record starts there
 };
 
 // Fault 2: a filter nested or chained beyond any routine's need overflowed the stack of the recursive
@@ -168,7 +170,6 @@ TEST_F(Fallos, Fault4FifoOrFolderWhereATableShouldBeIsReportedNotAHang) {
 // count hid records and a longer file was read whole, answering "not found" without a word. Every other
 // damage to the header is named too.
 TEST_F(Fallos, Fault6HeaderThatDisagreesWithTheFileIsDamage) {
-    const int cabecera = quint8(sana[8]) | quint8(sana[9]) << 8;
     const auto con = [&](const std::function<void(QByteArray&)>& cambio) {
         QByteArray b = sana;
         cambio(b);
@@ -320,7 +321,6 @@ TEST(Fault8Cache, ARewriteThatKeepsSizeAndTimesIsSeenOnTheNextOpen) {
 // Fault 14: the five bytes Windows-1252 leaves undefined read as U+0081, U+008D, U+008F, U+0090 and U+009D,
 // as Windows reads them, and are written back as the same bytes: a row rewritten unchanged stays the same.
 TEST_F(Fallos, Fault14UndefinedWindows1252BytesRoundTripThroughATable) {
-    const int cabecera = quint8(sana[8]) | quint8(sana[9]) << 8;
     QByteArray b = sana;
     b.replace(cabecera + 1 + 6, 5, "\x81\x8D\x8F\x90\x9D");
     escribe(ruta, b);
@@ -356,7 +356,6 @@ void leeTodo(const DatosDbf& d) {
 // A field that does not parse, or a number only the C library reads ("inf", "nan"), names the record.
 TEST_F(Fallos, FieldsThatDoNotParseAreErrors) {
     QByteArray b = sana;
-    const int cabecera = quint8(b[8]) | quint8(b[9]) << 8;
     b[cabecera + 27 + 3] = 'x'; // first record, date field
     const auto d = DatosDbf::DesdeBytes(QStringLiteral("DANADA.DBF"), b);
     EXPECT_THROW(d->fecha(0, 2), ErrorTabla);

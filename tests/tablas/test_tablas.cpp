@@ -310,10 +310,8 @@ TEST_F(Tablas, KeySearchFastPathAgreesWithTBBusca) {
                        {"NOMBRE", "CODIGO=5", false, QStringLiteral("PEÑA"), 0},
                        {"NOMBRE", "", true, QStringLiteral("ÁLVAREZ"), 0}};
     for (const C& c : casos) {
-        const QString que = QStringLiteral("%1 %2 %3 %4")
-                                .arg(QString::fromLatin1(c.indice), QString::fromLatin1(c.filtro))
-                                .arg(c.rango)
-                                .arg(c.clave.toString());
+        SCOPED_TRACE(testing::Message() << c.indice << " [" << c.filtro << "] " << c.rango << ' '
+                                        << qPrintable(c.clave.toString()));
         auto rapida = TTabla::AbreRuta(ruta, QString::fromLatin1(c.indice));
         auto general = TTabla::AbreRuta(ruta, QString::fromLatin1(c.indice));
         for (TTabla* tb : {rapida.get(), general.get()}) {
@@ -325,14 +323,13 @@ TEST_F(Tablas, KeySearchFastPathAgreesWithTBBusca) {
         const bool hallada = c.clave.typeId() == QMetaType::QString
                                  ? TBBuscaClave(*rapida, c.clave.toString())
                                  : TBBuscaClave(*rapida, c.clave.toDouble());
-        EXPECT_EQ(hallada, c.recno != 0) << qPrintable(que);
-        EXPECT_EQ(rapida->RecNo(), c.recno ? c.recno : antes) << qPrintable(que);
+        EXPECT_EQ(hallada, c.recno != 0);
+        EXPECT_EQ(rapida->RecNo(), c.recno ? c.recno : antes);
         EXPECT_EQ(
             TBBusca(*general,
                     {{rapida->Campos()[rapida->IndiceCampo(QString::fromLatin1(c.indice))].nombre, c.clave}}),
-            hallada)
-            << qPrintable(que);
-        EXPECT_EQ(general->RecNo(), rapida->RecNo()) << qPrintable(que);
+            hallada);
+        EXPECT_EQ(general->RecNo(), rapida->RecNo());
     }
     EXPECT_THROW(TBBuscaClave(*TTabla::AbreRuta(ruta), 1), ErrorTabla) << "physical order has no key";
 }
