@@ -268,7 +268,8 @@ TEST_F(Fallos, Fault7RowsDoNotVanishWhileAnotherProgramRewritesTheTable) {
 
 // Fault 8: the loaded image of a table was kept while the file kept its device, inode, size and
 // modification time, so a rewrite in place that kept them (cp -p, touch -r, a coarse clock on a share)
-// was never seen by a running process. Whatever serves a table warm, the next open sees the new bytes.
+// was never seen by a running process. Whatever serves a table warm, the next open sees the new bytes, with
+// the tag's order and a filter built over them, while a table opened before keeps the image it read.
 TEST(Fault8Cache, ARewriteThatKeepsSizeAndTimesIsSeenOnTheNextOpen) {
     prueba::OficinaPrueba oficina(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
     const QString ruta = oficina.ruta(QStringLiteral("DATOS/TABLA.DBF"));
@@ -276,8 +277,8 @@ TEST(Fault8Cache, ARewriteThatKeepsSizeAndTimesIsSeenOnTheNextOpen) {
     const QByteArray original = creaTabla(ruta, 5);
     const int cabecera = quint8(original[8]) | quint8(original[9]) << 8;
     const int largo = quint8(original[10]) | quint8(original[11]) << 8;
-    const auto nombreDe3 = [](TTabla& tb) {
-        return TBBuscaClave(tb, 3) ? tb.AsString(QStringLiteral("NOMBRE")) : QStringLiteral("(none)");
+    const auto nombreDe = [](TTabla& tb, int codigo) {
+        return TBBuscaClave(tb, codigo) ? tb.AsString(QStringLiteral("NOMBRE")) : QStringLiteral("(none)");
     };
     const auto porRuta = [&] { return TTabla::AbreRuta(ruta, QStringLiteral("CODIGO")); };
     const auto porAlias = [] {
@@ -294,11 +295,12 @@ TEST(Fault8Cache, ARewriteThatKeepsSizeAndTimesIsSeenOnTheNextOpen) {
         escribe(ruta, original);
         usleep(30000); // older than any clock tick: a reopen may be served warm
         for (int i = 0; i < 3; ++i)
-            EXPECT_EQ(nombreDe3(*c.abre()), QStringLiteral("FILA 3")) << c.nombre;
+            EXPECT_EQ(nombreDe(*c.abre(), 3), QStringLiteral("FILA 3")) << c.nombre;
+        const auto abierta = c.abre();
         struct stat antes {};
         ASSERT_EQ(::stat(QFile::encodeName(ruta).constData(), &antes), 0);
         QByteArray nueva = original;
-        nueva.replace(cabecera + 2 * largo + 7, 6, "OTRA 3"); // NOMBRE of the third row
+        nueva.replace(cabecera + 2 * largo + 1, 6, "     9"); // CODIGO of the third row
         const QString destino = c.renombra ? ruta + QStringLiteral(".nueva") : ruta;
         {
             QFile f(destino);
@@ -314,7 +316,14 @@ TEST(Fault8Cache, ARewriteThatKeepsSizeAndTimesIsSeenOnTheNextOpen) {
         ASSERT_EQ(::stat(QFile::encodeName(ruta).constData(), &despues), 0);
         ASSERT_EQ(despues.st_size, antes.st_size);
         ASSERT_EQ(despues.st_mtim.tv_nsec, antes.st_mtim.tv_nsec);
-        EXPECT_EQ(nombreDe3(*c.abre()), QStringLiteral("OTRA 3")) << c.nombre;
+        const auto tb = c.abre();
+        EXPECT_EQ(nombreDe(*tb, 9), QStringLiteral("FILA 3")) << c.nombre;
+        EXPECT_EQ(nombreDe(*tb, 3), QStringLiteral("(none)")) << c.nombre;
+        tb->Last();
+        EXPECT_EQ(tb->AsInteger(QStringLiteral("CODIGO")), 9) << c.nombre;
+        TBFiltra(*tb, QStringLiteral("CODIGO > 5"));
+        EXPECT_EQ(tb->RecordCount(), 1) << c.nombre;
+        EXPECT_EQ(nombreDe(*abierta, 3), QStringLiteral("FILA 3")) << c.nombre;
     }
 }
 
