@@ -16,10 +16,12 @@ const TDateTime k15Abril2010 = EncodeDate(2010, 4, 15); // a Thursday
 const QString kSinFecha = QStringLiteral("  /  /    "); // what a text that is no date reads as
 } // namespace
 
-TEST(FormateaFecha, SpanishCodesAndCase) {
+TEST(FormateaFecha, SpanishAndCatalanCodesCaseAndJoiners) {
     const struct {
         const char* formato;
         const char* esperado;
+        bool catalan = false;
+        TDateTime fecha = k15Marzo2010;
     } casos[] = {{"F1", "15/3/10"},
                  {"F2", "15/03/10"},
                  {"F3", "15/03/2010"},
@@ -38,38 +40,25 @@ TEST(FormateaFecha, SpanishCodesAndCase) {
                  {"F8C", "QUINCE de Marzo del año DOS MIL DIEZ"},
                  {"F9", "15/3/10"},
                  {"", "15/3/10"},
-                 {"F4X", "QUINCE de marzo de DOS MIL DIEZ"}};
+                 {"F4X", "QUINCE de marzo de DOS MIL DIEZ"},
+                 {"F4S", "uno de enero de dos mil uno", false, EncodeDate(2001, 1, 1)},
+                 {"F4S", "veintiuno de septiembre de dos mil veintiuno", false, EncodeDate(2021, 9, 21)},
+                 {"F4N", "QUINZE d'ABRIL de DOS MIL DEU", true, k15Abril2010},
+                 {"F4S", "quinze d'abril de dos mil deu", true, k15Abril2010},
+                 {"F4S", "quinze de març de dos mil deu", true},
+                 {"F5", "Dijous, QUINZE d'abril de DOS MIL DEU", true, k15Abril2010},
+                 {"F5C", "Dijous, QUINZE d'Abril de DOS MIL DEU", true, k15Abril2010},
+                 {"F6S", "15 d'abril de 2010", true, k15Abril2010},
+                 {"F7S", "dijous, 15 d'abril de 2010", true, k15Abril2010},
+                 {"F8S", "quinze d'abril de l'any  dos mil deu", true, k15Abril2010},
+                 {"F8N", "QUINZE d'ABRIL DE L'ANY  DOS MIL DEU", true, k15Abril2010},
+                 {"F4S", "vint-i-u d'agost de dos mil vint-i-u", true, EncodeDate(2021, 8, 21)},
+                 {"F4S", "u d'octubre de dos mil deu", true, EncodeDate(2010, 10, 1)},
+                 {"F3", "15/04/2010", true, k15Abril2010}};
     for (const auto& c : casos)
-        EXPECT_EQ(FormateaFecha(QString::fromLatin1(c.formato), k15Marzo2010, false), u8(c.esperado))
-            << c.formato;
-    EXPECT_EQ(FormateaFecha(QStringLiteral("F4S"), EncodeDate(2001, 1, 1), false),
-              u8("uno de enero de dos mil uno"));
-    EXPECT_EQ(FormateaFecha(QStringLiteral("F4S"), EncodeDate(2021, 9, 21), false),
-              u8("veintiuno de septiembre de dos mil veintiuno"));
-}
-
-TEST(FormateaFecha, CatalanCodesAndJoiners) {
-    const struct {
-        TDateTime fecha;
-        const char* formato;
-        const char* esperado;
-    } casos[] = {{k15Abril2010, "F4N", "QUINZE d'ABRIL de DOS MIL DEU"},
-                 {k15Abril2010, "F4S", "quinze d'abril de dos mil deu"},
-                 {k15Marzo2010, "F4S", "quinze de març de dos mil deu"},
-                 {k15Abril2010, "F5", "Dijous, QUINZE d'abril de DOS MIL DEU"},
-                 {k15Abril2010, "F5C", "Dijous, QUINZE d'Abril de DOS MIL DEU"},
-                 {k15Abril2010, "F6S", "15 d'abril de 2010"},
-                 {k15Abril2010, "F7S", "dijous, 15 d'abril de 2010"},
-                 {k15Abril2010, "F8S", "quinze d'abril de l'any  dos mil deu"},
-                 {k15Abril2010, "F8N", "QUINZE d'ABRIL DE L'ANY  DOS MIL DEU"},
-                 {EncodeDate(2021, 8, 21), "F4S", "vint-i-u d'agost de dos mil vint-i-u"},
-                 {EncodeDate(2010, 10, 1), "F4S", "u d'octubre de dos mil deu"},
-                 {k15Abril2010, "F3", "15/04/2010"}};
-    for (const auto& c : casos)
-        EXPECT_EQ(FormateaFecha(QString::fromLatin1(c.formato), c.fecha, true), u8(c.esperado)) << c.formato;
-}
-
-TEST(FormateaFecha, SerialOutsideTheCalendarGivesEmpty) {
+        EXPECT_EQ(FormateaFecha(QString::fromLatin1(c.formato), c.fecha, c.catalan), u8(c.esperado))
+            << c.formato << (c.catalan ? " ca " : " es ") << c.esperado;
+    // A serial outside the calendar gives nothing.
     for (double f : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(), 1e12})
         EXPECT_EQ(FormateaFecha(QStringLiteral("F5N"), f, false), QString()) << f;
 }
@@ -96,18 +85,32 @@ TEST(PonerFechaNod, ModesWithADateAndBlankForms) {
             << c.modo;
 }
 
-TEST(TraduceFechaNod, ReadsSpanishDatesInWords) {
+// Dates in Spanish and Catalan words, and texts that are none. Every Spanish line the writer produces reads
+// back (below); so does the Catalan F8 line ("quinze d'abril de l'any  dos mil deu").
+TEST(TraduceFecha, ReadsDatesInWords) {
     const struct {
         const char* texto;
         const char* esperado;
-    } casos[] = {{"quince de marzo del año dos mil diez.", "15/03/2010"}, // the writer's own lines: below
+        bool catalan = false;
+    } casos[] = {{"quince de marzo del año dos mil diez.", "15/03/2010"},
                  {"  QUINCE DE MARZO DEL AÑO DOS MIL DIEZ . ", "15/03/2010"},
-                 {"uno de setiembre de mil novecientos noventa y nueve", "01/09/1999"}};
+                 {"uno de setiembre de mil novecientos noventa y nueve", "01/09/1999"},
+                 {"quinze d'abril de dos mil deu", "15/04/2010", true},
+                 {"quinze d'abril de l'any  dos mil deu", "15/04/2010", true},
+                 {"QUINZE DE MARÇ DE L'ANY DOS MIL DEU.", "15/03/2010", true},
+                 // The removal of the inner "l'any" brings another together; both go.
+                 {"quinze d'abril de l'l'anyany  dos mil deu", "15/04/2010", true},
+                 {"dos de juny de dos mil vint i u", "02/06/2021", true},
+                 {"vint i u d'octubre de mil nou cents noranta i nou", "21/10/1999", true}};
     for (const auto& c : casos)
-        EXPECT_EQ(TraduceFechaNod(u8(c.texto)), QString::fromLatin1(c.esperado)) << c.texto;
+        EXPECT_EQ((c.catalan ? TraduceFechaCatalan : TraduceFechaNod)(u8(c.texto)),
+                  QString::fromLatin1(c.esperado))
+            << c.texto;
     for (const char* malo : {"quince de brumario de dos mil", "quince marzo dos mil", "quince de marzo", "",
                              "quince de marzo de"})
         EXPECT_EQ(TraduceFechaNod(u8(malo)), kSinFecha) << malo;
+    for (const char* malo : {"quinze de brumari de dos mil", "quinze d'abril", ""})
+        EXPECT_EQ(TraduceFechaCatalan(u8(malo)), kSinFecha) << malo;
 }
 
 TEST(TraduceFechaNod, ReadsBackEveryDayTheWriterProduces) {
@@ -117,23 +120,6 @@ TEST(TraduceFechaNod, ReadsBackEveryDayTheWriterProduces) {
         ASSERT_EQ(TraduceFechaNod(FormateaFecha(QStringLiteral("F4S"), f, false)), esperado);
         ASSERT_EQ(TraduceFechaNod(FormateaFecha(QStringLiteral("F8N"), f, false)), esperado);
     }
-}
-
-TEST(TraduceFechaCatalan, ReadsCatalanDatesInWords) {
-    const struct {
-        const char* texto;
-        const char* esperado;
-    } casos[] = {{"quinze d'abril de dos mil deu", "15/04/2010"},
-                 {"quinze d'abril de l'any  dos mil deu", "15/04/2010"}, // the writer's F8 line
-                 {"QUINZE DE MARÇ DE L'ANY DOS MIL DEU.", "15/03/2010"},
-                 // The removal of the inner "l'any" brings another together; both go.
-                 {"quinze d'abril de l'l'anyany  dos mil deu", "15/04/2010"},
-                 {"dos de juny de dos mil vint i u", "02/06/2021"},
-                 {"vint i u d'octubre de mil nou cents noranta i nou", "21/10/1999"}};
-    for (const auto& c : casos)
-        EXPECT_EQ(TraduceFechaCatalan(u8(c.texto)), QString::fromLatin1(c.esperado)) << c.texto;
-    for (const char* malo : {"quinze de brumari de dos mil", "quinze d'abril", ""})
-        EXPECT_EQ(TraduceFechaCatalan(u8(malo)), kSinFecha) << malo;
 }
 
 TEST(Calendario, DaysAndLastDayOfAMonth) {
