@@ -167,47 +167,41 @@ TEST(EurosEnLetra, PluralUnitAndCents) {
     EXPECT_EQ(Letras_Euros(5, 2, QLatin1Char('N')), QString());
 }
 
-TEST(FormateaNumero, EveryMode) {
+// Numbers by FormateaNumero ("N" codes) and amounts in euros by FormateaCantidad ("M" codes).
+TEST(FormateaNumeroYCantidad, EveryModeAndPicture) {
     const struct {
         const char* formato;
         double x;
         const char* esperado;
-    } casos[] = {{"N1MN", 1234.5, "1.234,5"},
-                 {"N2MN", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO CON CINCO"},
-                 {"N3MN", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO ENTEROS CON CINCO DÉCIMAS"},
-                 {"N4MN", 1234.5, "1.234,5 (MIL DOSCIENTOS TREINTA Y CUATRO CON CINCO)"},
-                 {"N5FS", 21, "veintiuno (21)"},
-                 {"N6NN", 3.25, "3,25 (TRES ENTEROS CON VEINTICINCO CENTÉSIMAS)"},
-                 {"N7FS", 3.25, "tres enteros con veinticinco centésimas (3,25)"},
-                 {"XXMN", 1234567, "UN MILLON DOSCIENTOS TREINTA Y CUATRO MIL QUINIENTOS SESENTA Y SIETE"},
-                 {"N1", 1234567.125, "1.234.567,125"},
-                 {"N1", 0, ""},
-                 {"N1", 0.5, ",5"},
-                 {"N1", -1234, "-1.234"},
-                 {"N2", 0, "CERO"},
-                 {"", 2, "DOS"}};
+        bool cantidad = false;
+    } casos[] = {
+        {"N1MN", 1234.5, "1.234,5"},
+        {"N2MN", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO CON CINCO"},
+        {"N3MN", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO ENTEROS CON CINCO DÉCIMAS"},
+        {"N4MN", 1234.5, "1.234,5 (MIL DOSCIENTOS TREINTA Y CUATRO CON CINCO)"},
+        {"N5FS", 21, "veintiuno (21)"},
+        {"N6NN", 3.25, "3,25 (TRES ENTEROS CON VEINTICINCO CENTÉSIMAS)"},
+        {"N7FS", 3.25, "tres enteros con veinticinco centésimas (3,25)"},
+        {"XXMN", 1234567, "UN MILLON DOSCIENTOS TREINTA Y CUATRO MIL QUINIENTOS SESENTA Y SIETE"},
+        {"N1", 1234567.125, "1.234.567,125"},
+        {"N1", 0, ""},
+        {"N1", 0.5, ",5"},
+        {"N1", -1234, "-1.234"},
+        {"N2", 0, "CERO"},
+        {"", 2, "DOS"},
+        {"M1N", 1234.5, "1.234,50 €", true},
+        {"M2N", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO EUROS CON CINCUENTA CENTIMOS", true},
+        {"M3N", 1234.5, "1.234,50 € (MIL DOSCIENTOS TREINTA Y CUATRO EUROS CON CINCUENTA CENTIMOS)", true},
+        {"M4S", 21.5, "veintiún euros con cincuenta céntimos (21,50 € )", true},
+        {"ZZN", 1234.5, "1.234,50 €", true},
+        {"M1N", 1234, "1.234 €", true},
+        {"M1N", 1234.05, "1.234,05 €", true},
+        {"M1N", 1234.125, "1.234,125 €", true},
+        {"M1N", 0.5, ",50 €", true},
+        {"M3", 1, "1 € (UN EUROS)", true}};
     for (const auto& c : casos)
-        EXPECT_EQ(FormateaNumero(QString::fromLatin1(c.formato), c.x), u8(c.esperado))
-            << c.formato << ' ' << c.x;
-}
-
-TEST(FormateaCantidad, EveryModeAndPicture) {
-    const struct {
-        const char* formato;
-        double x;
-        const char* esperado;
-    } casos[] = {{"M1N", 1234.5, "1.234,50 €"},
-                 {"M2N", 1234.5, "MIL DOSCIENTOS TREINTA Y CUATRO EUROS CON CINCUENTA CENTIMOS"},
-                 {"M3N", 1234.5, "1.234,50 € (MIL DOSCIENTOS TREINTA Y CUATRO EUROS CON CINCUENTA CENTIMOS)"},
-                 {"M4S", 21.5, "veintiún euros con cincuenta céntimos (21,50 € )"},
-                 {"ZZN", 1234.5, "1.234,50 €"},
-                 {"M1N", 1234, "1.234 €"},
-                 {"M1N", 1234.05, "1.234,05 €"},
-                 {"M1N", 1234.125, "1.234,125 €"},
-                 {"M1N", 0.5, ",50 €"},
-                 {"M3", 1, "1 € (UN EUROS)"}};
-    for (const auto& c : casos)
-        EXPECT_EQ(FormateaCantidad(QString::fromLatin1(c.formato), c.x), u8(c.esperado))
+        EXPECT_EQ((c.cantidad ? FormateaCantidad : FormateaNumero)(QString::fromLatin1(c.formato), c.x),
+                  u8(c.esperado))
             << c.formato << ' ' << c.x;
 }
 
@@ -246,8 +240,10 @@ TEST(ConvierteUnidadesDeCadenaAEnteroNod, EveryUnitWord) {
     EXPECT_EQ(ConvierteUnidadesDeCadenaAEnteroNod(QStringLiteral("uno"), true), 0);
 }
 
-// Every number the Spanish writer produces from 1 to 9 999 (full masculine form, any case) reads back.
-TEST(ConvierteNumeroDeCadenaAEnteroNod, ReadsBackTheSpanishWriter) {
+// Every number the writers produce from 1 to 9 999 reads back: the Spanish one's full masculine form in any
+// case, and the Catalan one's with blanks for the hyphens it joins tens and units with, except the forms
+// whose last word is the one-letter "u".
+TEST(ConvierteNumeroDeCadenaAEnteroNod, ReadsBackTheWriters) {
     for (qint64 n = 1; n <= 9999; ++n) {
         const QString mayusculas = LetrasNod(n, QLatin1Char('N'), QLatin1Char('N'), false);
         ASSERT_EQ(ConvierteNumeroDeCadenaAEnteroNod(mayusculas, false), n) << mayusculas.toStdString();
@@ -256,13 +252,6 @@ TEST(ConvierteNumeroDeCadenaAEnteroNod, ReadsBackTheSpanishWriter) {
         if (n % 1000 < 200) {
             ASSERT_EQ(ConvierteNumeroDeCadenaAEnteroNod(femenino, false), n) << femenino.toStdString();
         }
-    }
-}
-
-// The Catalan writer joins tens and units with hyphens where the reader expects blanks; with blanks,
-// every form reads back except those whose last word is the one-letter "u".
-TEST(ConvierteNumeroDeCadenaAEnteroNod, ReadsBackTheCatalanWriter) {
-    for (qint64 n = 1; n <= 9999; ++n) {
         QString t = letrasEnCatalan(n, QLatin1Char('M'), QLatin1Char('S'), false);
         t.replace(QLatin1Char('-'), QLatin1Char(' '));
         const bool ultimaEsU = t == u"u" || (t.endsWith(u" u") && !t.endsWith(u"vint i u"));
