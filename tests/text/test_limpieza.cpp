@@ -26,16 +26,13 @@ void compruebaTabla(QString (*rutina)(const QString&), const Caso (&casos)[N], c
 
 } // namespace
 
-TEST(Limpieza, Accents) {
+TEST(Limpieza, AccentsBlanksAndLetterSpacedHeadings) {
     const Caso quitaAcentos[] = {{"ÁRBOL ácido", "ARBOL ácido"}, {"ÉÍÓÚ", "EIOU"}, {"ÀÜÑ", "ÀÜÑ"}, {"", ""}};
     compruebaTabla(&QuitaAcentos, quitaAcentos, "QuitaAcentos");
     const Caso mayMin[] = {{"Camión Àngel pingüino", "Camion Angel pingüino"},
                            {"áàéèíìóòúù ÁÀÉÈÍÌÓÒÚÙ", "aaeeiioouu AAEEIIOOUU"},
                            {"ÑüÜç", "ÑüÜç"}};
     compruebaTabla(&QuitaAcentoMayMin, mayMin, "QuitaAcentoMayMin");
-}
-
-TEST(Limpieza, Blanks) {
     const Caso dobles[] = {{"  a   b ", " a b "}, {"ab", "ab"}, {"", ""}, {"    ", " "}};
     compruebaTabla(&ConvertirDoblesEspaciosEnUno, dobles, "ConvertirDoblesEspaciosEnUno");
     const Caso sinDobles[] = {{"  a   b ", "a b"}, {"   ", ""}, {"\ta  b\n", "a b"}};
@@ -46,21 +43,20 @@ TEST(Limpieza, Blanks) {
     compruebaTabla(&QuitaNumeros, numeros, "QuitaNumeros");
     const Caso neto[] = {{" 12.345.678-Z ", "12345678Z"}, {"a_b,c/d\\e", "abcde"}, {"A B", "A B"}};
     compruebaTabla(&StrNeto, neto, "StrNeto");
-}
-
-TEST(Limpieza, LetterSpacedHeadings) {
-    const Caso casos[] = {{"E S C R I T U R A", "ESCRITURA"},
-                          {"  E   S C  R I T U R A  ", "ESCRITURA"},
-                          {"A B CASA", "ABCASA"}, // the words of a letter-spaced text run together
-                          {"D E  C O M P R A", "DECOMPRA"},
-                          {"ESCRITURA DE COMPRA", "ESCRITURA DE COMPRA"},
-                          {"A B", "A B"}, // the last character is never looked at
-                          {"A BC D", "A BC D"},
-                          {"Á B", "A B"}, // accents go in both cases
-                          {"É S T E", "ESTE"},
-                          {"", ""},
-                          {"X", "X"}};
-    compruebaTabla(&QuitaEspaciosIntermedios, casos, "QuitaEspaciosIntermedios");
+    // The words of a letter-spaced text run together ("A B CASA"), the last character is never looked at
+    // ("A B"), and accents go in both cases.
+    const Caso espaciados[] = {{"E S C R I T U R A", "ESCRITURA"},
+                               {"  E   S C  R I T U R A  ", "ESCRITURA"},
+                               {"A B CASA", "ABCASA"},
+                               {"D E  C O M P R A", "DECOMPRA"},
+                               {"ESCRITURA DE COMPRA", "ESCRITURA DE COMPRA"},
+                               {"A B", "A B"},
+                               {"A BC D", "A BC D"},
+                               {"Á B", "A B"},
+                               {"É S T E", "ESTE"},
+                               {"", ""},
+                               {"X", "X"}};
+    compruebaTabla(&QuitaEspaciosIntermedios, espaciados, "QuitaEspaciosIntermedios");
 }
 
 TEST(Limpieza, FinalBackslash) {

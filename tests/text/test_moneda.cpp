@@ -8,7 +8,7 @@
 using namespace nod;
 using nod::prueba::OficinaPrueba;
 
-TEST(Moneda, PesetasToEurosAsText) {
+TEST(Moneda, PesetasToEurosAsTextAndAsAFigure) {
     OficinaPrueba o;
     const struct {
         qint64 pesetas;
@@ -22,26 +22,23 @@ TEST(Moneda, PesetasToEurosAsText) {
                  {1663860000000, "10.000.000.000,00"}};
     for (const auto& c : casos)
         EXPECT_EQ(PesetasEurosNod(c.pesetas), QString::fromLatin1(c.esperado)) << c.pesetas;
-}
-
-TEST(Moneda, PesetasToEurosRoundedThroughText) {
-    OficinaPrueba o;
+    // The figure is rounded through its text.
     const struct {
         qint64 pesetas;
         int decimales;
         double esperado;
-    } casos[] = {{166386, 2, 1000.0},
-                 {1, 2, 0.01},
-                 {166, 2, 1.0}, // 0,9977 carries into the units
-                 {500, 2, 3.01},
-                 {500, 0, 500 / 166.386},
-                 {500, -3, 500 / 166.386},
-                 {500, 4, 3.0051},
-                 {-166386, 2, -1000.0},
-                 {-500, 2, -3.01},
-                 {0, 2, 0.0},
-                 {500, 400, 500 / 166.386}};
-    for (const auto& c : casos)
+    } redondeos[] = {{166386, 2, 1000.0},
+                     {1, 2, 0.01},
+                     {166, 2, 1.0}, // 0,9977 carries into the units
+                     {500, 2, 3.01},
+                     {500, 0, 500 / 166.386},
+                     {500, -3, 500 / 166.386},
+                     {500, 4, 3.0051},
+                     {-166386, 2, -1000.0},
+                     {-500, 2, -3.01},
+                     {0, 2, 0.0},
+                     {500, 400, 500 / 166.386}};
+    for (const auto& c : redondeos)
         EXPECT_DOUBLE_EQ(PesetasEurosNod(c.pesetas, c.decimales), c.esperado)
             << c.pesetas << ' ' << c.decimales;
 }
