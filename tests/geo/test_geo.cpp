@@ -35,7 +35,7 @@ struct Caso {
     QString esperado = QString::fromUtf8(s);
 };
 
-TEST_F(Geo, CountryCodesByName) {
+TEST_F(Geo, CountryAndProvinceCodesAndNames) {
     EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ALEMANIA")), QStringLiteral("276"));
     EXPECT_EQ(Cod_PaisBOE(QStringLiteral("  FRANCIA ")), QStringLiteral("250"));
     // The key is matched whole, and provinces are filtered out.
@@ -50,9 +50,6 @@ TEST_F(Geo, CountryCodesByName) {
     EXPECT_EQ(Cod_PaisCodigo(QStringLiteral("NINGUNO")), QStringLiteral("999"));
     EXPECT_EQ(Cod_PaisToNombre(codigo), QStringLiteral("ESPAÑA"));
     EXPECT_EQ(Cod_PaisISO3166PorCodigo(codigo), QStringLiteral("ESP"));
-}
-
-TEST_F(Geo, CodesToNames) {
     EXPECT_EQ(Cod_PaisISO3166PorCodigo(QStringLiteral("99")), QStringLiteral("ESP"));
     for (const char* codigo : {"0", "28", "9999"}) // a province (28) is not a country
         EXPECT_EQ(Cod_PaisToNombre(QString::fromLatin1(codigo)), QStringLiteral("999")) << codigo;
@@ -143,15 +140,12 @@ TEST_F(Geo, MinorEntityCheck) {
     }
 }
 
-TEST(GeoPuro, PoblacionFormateada) {
+TEST(GeoPuro, PoblacionFormateadaPlantaYEscalera) {
     for (const Caso& c :
          {Caso{"CORUÑA (A)", "*CORUÑA*"}, Caso{"PALMAS (LAS)", "*PALMAS*"},
           Caso{"SAN SEBASTIAN-DONOSTIA", "*SAN*SEBASTIAN*DONOSTIA*"}, Caso{"ALAVA/ARABA", "*ALAVA*ARABA*"},
           Caso{"(A)", "**"}, Caso{"", "**"}, Caso{"PRAT DE LLOBREGAT (EL)", "*PRAT*DE*LLOBREGAT*"}})
         EXPECT_EQ(PoblacionFormateada(c.entrada), c.esperado) << c.entrada.toStdString();
-}
-
-TEST(GeoPuro, PlantaYEscalera) {
     for (const Caso& c :
          {Caso{"3", "planta 3ª"}, Caso{"0", "planta baja"}, Caso{"pr", "principal"}, Caso{"+2", "sobreático"},
           Caso{"+1", "ático"}, Caso{"-1", "sótano"}, Caso{"-2", "sótano 2º"}, Caso{"en", "entreplanta"},

@@ -333,11 +333,22 @@ TEST_F(Tablas, KeySearchFastPathAgreesWithTBBusca) {
     EXPECT_THROW(TBBuscaClave(*TTabla::AbreRuta(ruta), 1), ErrorTabla) << "physical order has no key";
 }
 
-// Tables are opened by alias and name as the routines write them: any case, extension optional.
-TEST(TablasPorAlias, NamesResolveWithoutRegardToCase) {
-    prueba::OficinaPrueba oficina(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
-    QDir().mkpath(oficina.ruta(QStringLiteral("DATOS")));
-    CreaFicheroDbf(oficina.ruta(QStringLiteral("DATOS/Tipo_Int.dbf")), kCampos);
+// Tables are opened by alias and name as the routines write them: any case, extension optional. The path
+// found is kept between calls, yet loading another office (or restoring the previous configuration) must send
+// the same alias and name to that office's folder.
+TEST(TablasPorAlias, NamesResolveWithoutRegardToCaseInTheLoadedOffice) {
+    const auto oficinaCon = [](int filas) {
+        auto o = std::make_unique<prueba::OficinaPrueba>(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
+        QDir().mkpath(o->ruta(QStringLiteral("DATOS")));
+        const QString ruta = o->ruta(QStringLiteral("DATOS/Tipo_Int.dbf"));
+        CreaFicheroDbf(ruta, kCampos);
+        anade(ruta, 0, filas);
+        return o;
+    };
+    const auto filas = [] {
+        return CreaTabla(QStringLiteral("DB"), QStringLiteral("TIPO_INT.DBF"))->RecordCount();
+    };
+    const auto una = oficinaCon(1);
     for (const char* nombre : {"Tipo_Int.dbf", "TIPO_INT.DBF", "tipo_int", "TIPO_INT"}) {
         const auto tb =
             CreaTabla(QStringLiteral("DB"), QString::fromLatin1(nombre), QStringLiteral("CODIGO"));
@@ -349,23 +360,6 @@ TEST(TablasPorAlias, NamesResolveWithoutRegardToCase) {
     EXPECT_EQ(
         CreaTablaSinExcepcion(QStringLiteral("DB"), QStringLiteral("TIPO_INT"), QStringLiteral("NO_HAY")),
         nullptr);
-}
-
-// The path of a table named by alias is kept between calls: loading another office (or restoring the
-// previous configuration) must send the same alias and name to that office's folder.
-TEST(TablasPorAlias, AnotherOfficeResolvesItsOwnFolders) {
-    const auto oficinaCon = [](int filas) {
-        auto o = std::make_unique<prueba::OficinaPrueba>(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
-        QDir().mkpath(o->ruta(QStringLiteral("DATOS")));
-        const QString ruta = o->ruta(QStringLiteral("DATOS/TABLA.DBF"));
-        CreaFicheroDbf(ruta, kCampos);
-        anade(ruta, 0, filas);
-        return o;
-    };
-    const auto filas = [] {
-        return CreaTabla(QStringLiteral("DB"), QStringLiteral("TABLA.DBF"))->RecordCount();
-    };
-    const auto una = oficinaCon(1);
     EXPECT_EQ(filas(), 1);
     {
         const auto otra = oficinaCon(2);
