@@ -4,7 +4,6 @@
 #include "ident/cif.h"
 #include "ident/controlcatastral.h"
 
-#include <QFile>
 #include <QProcess>
 #include <gtest/gtest.h>
 

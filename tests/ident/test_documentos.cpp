@@ -41,26 +41,24 @@ INSTANTIATE_TEST_SUITE_P(
         CasoCif{u"A5881850", false}, CasoCif{u"A588185011", false}, CasoCif{u"", false},
         CasoCif{u"   ", false}, CasoCif{u"A58818\u00e91", false}, CasoCif{u"\u00d158818501", false}));
 
-TEST(TipoDeDocumento, LabelsOfCodes) {
-    const std::pair<int, const char16_t*> casos[] = {
-        {1, u"N.I.F."}, {2, u"C.I.F."}, {3, u"N.I.E."}, {4, u"PASAPORTE"}};
-    for (const auto& [codigo, etiqueta] : casos)
-        EXPECT_EQ(TipoDeDocumento(codigo), QString::fromUtf16(etiqueta)) << codigo;
+TEST(TipoDeDocumento, LabelsOfCodesAndCodesOfLabelsWithTheirCaseAsymmetry) {
+    const char16_t* etiquetas[] = {u"N.I.F.", u"C.I.F.", u"N.I.E.", u"PASAPORTE"};
+    for (int codigo = 1; codigo <= 4; ++codigo) {
+        const QString etiqueta = QString::fromUtf16(etiquetas[codigo - 1]);
+        EXPECT_EQ(TipoDeDocumento(codigo), etiqueta) << codigo;
+        EXPECT_EQ(TipoDeDocumento(etiqueta), codigo) << codigo;
+    }
     for (int otro : {0, 5, -1})
         EXPECT_EQ(TipoDeDocumento(otro), QStringLiteral("DOCUMENTO DE IDENTIFICACION")) << otro;
-}
-
-TEST(TipoDeDocumento, CodesOfLabelsKeepTheirCaseAsymmetry) {
-    // Each label of a code gives its code back; blanks and control characters are trimmed.
-    const std::pair<const char16_t*, int> casos[] = {
-        {u"N.I.F.", 1}, {u"NIF", 1},       {u"C.I.F.", 2},    {u"N.I.E.", 3},     {u" N.I.E. ", 3},
-        {u"N.I.E", 3},  {u"PASAPORTE", 4}, {u"pasaporte", 4}, {u"Pasa.porte", 4}, {u"\tN.I.E.\r\n", 3}};
-    // A no-break space is a character of the label.
-    for (const char16_t* otra : {u"n.i.f.", u"nie", u"DNI", u"", u"....", u"\u00a0NIF", u"PASAPORTE\u00a0"})
-        EXPECT_EQ(TipoDeDocumento(QString::fromUtf16(otra)), 5) << qPrintable(QString::fromUtf16(otra));
-    for (const auto& [etiqueta, codigo] : casos)
+    // Other ways of writing a label; blanks and control characters are trimmed, a no-break space is not.
+    const std::pair<const char16_t*, int> variantes[] = {{u"NIF", 1},        {u" N.I.E. ", 3},
+                                                         {u"N.I.E", 3},      {u"pasaporte", 4},
+                                                         {u"Pasa.porte", 4}, {u"\tN.I.E.\r\n", 3}};
+    for (const auto& [etiqueta, codigo] : variantes)
         EXPECT_EQ(TipoDeDocumento(QString::fromUtf16(etiqueta)), codigo)
             << qPrintable(QString::fromUtf16(etiqueta));
+    for (const char16_t* otra : {u"n.i.f.", u"nie", u"DNI", u"", u"....", u"\u00a0NIF", u"PASAPORTE\u00a0"})
+        EXPECT_EQ(TipoDeDocumento(QString::fromUtf16(otra)), 5) << qPrintable(QString::fromUtf16(otra));
 }
 
 // For the DNI consultation only a CIF and a passport keep their type: everything else is asked as a NIF.
