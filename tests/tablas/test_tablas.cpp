@@ -68,7 +68,7 @@ protected:
     QString ruta;
 };
 
-TEST_F(Tablas, WrittenRowsReadBack) {
+TEST_F(Tablas, WrittenRowsReadBackHereAndInAnIndependentReader) {
     auto tb = TTabla::AbreRuta(ruta);
     ASSERT_EQ(tb->RecordCount(), 4);
     for (const Fila& f : kFilas) {
@@ -83,9 +83,6 @@ TEST_F(Tablas, WrittenRowsReadBack) {
     }
     EXPECT_TRUE(tb->Eof());
     EXPECT_THROW(tb->AsString(QStringLiteral("NO_EXISTE")), ErrorTabla);
-}
-
-TEST_F(Tablas, IndependentReaderSeesTheSameRows) {
     QProcess py;
     py.start(
         QStringLiteral("/usr/bin/python3"),

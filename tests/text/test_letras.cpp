@@ -103,7 +103,7 @@ TEST(LetrasNod, GroupsOfDigitsAsText) {
     }
 }
 
-TEST(LetrasDecimalNod, DecimalDigitsReadAsAWholeNumber) {
+TEST(LetrasDecimalNod, DecimalDigitsReadAsAWholeNumberOrNamedByTheirCount) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const struct {
         double x;
@@ -124,21 +124,18 @@ TEST(LetrasDecimalNod, DecimalDigitsReadAsAWholeNumber) {
     for (const auto& c : casos)
         EXPECT_EQ(LetrasDecimalNod(c.x, c.decimales, QLatin1Char('N'), QLatin1Char(c.caso)), u8(c.esperado))
             << c.x << ' ' << c.decimales;
-}
-
-TEST(LetrasPorCientoNod, DecimalsNamedByTheirCount) {
     const struct {
         double x;
         char genero, caso;
         const char* esperado;
-    } casos[] = {{3.25, 'M', 'N', "TRES ENTEROS CON VEINTICINCO CENTÉSIMAS"},
-                 {3.5, 'F', 'N', "TRES ENTEROS CON CINCO DÉCIMAS"},
-                 {3.125, 'N', 'S', "tres enteros con ciento veinticinco milésimas"},
-                 {21.1234, 'F', 'N', "VEINTIUNO ENTEROS CON MIL DOSCIENTAS TREINTA Y CUATRO"},
-                 {3, 'N', 'N', "TRES"},
-                 {0.5, 'N', 'N', "CERO ENTEROS CON CINCO DÉCIMAS"},
-                 {-1, 'N', 'N', ""}};
-    for (const auto& c : casos)
+    } porCiento[] = {{3.25, 'M', 'N', "TRES ENTEROS CON VEINTICINCO CENTÉSIMAS"},
+                     {3.5, 'F', 'N', "TRES ENTEROS CON CINCO DÉCIMAS"},
+                     {3.125, 'N', 'S', "tres enteros con ciento veinticinco milésimas"},
+                     {21.1234, 'F', 'N', "VEINTIUNO ENTEROS CON MIL DOSCIENTAS TREINTA Y CUATRO"},
+                     {3, 'N', 'N', "TRES"},
+                     {0.5, 'N', 'N', "CERO ENTEROS CON CINCO DÉCIMAS"},
+                     {-1, 'N', 'N', ""}};
+    for (const auto& c : porCiento)
         EXPECT_EQ(LetrasPorCientoNod(c.x, QLatin1Char(c.genero), QLatin1Char(c.caso)), u8(c.esperado)) << c.x;
 }
 

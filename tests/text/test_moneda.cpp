@@ -70,7 +70,7 @@ TEST(Moneda, RateIsReadOnEveryCall) {
     }
 }
 
-TEST(Moneda, PuntosNodGroupsDigits) {
+TEST(Moneda, PuntosNodGroupsDigitsAndStaysBoundedWithManyPoints) {
     const struct {
         const char* numero;
         bool decimal;
@@ -97,11 +97,8 @@ TEST(Moneda, PuntosNodGroupsDigits) {
     for (const auto& c : casos)
         EXPECT_EQ(PuntosNod(QString::fromLatin1(c.numero), c.decimal), QString::fromLatin1(c.esperado))
             << c.numero << ' ' << c.decimal;
-}
-
-// Each "." regroups the whole text written before it, which grows by a third every time: a text made of
-// many points stops being regrouped once it is wider than any column instead of growing without bound.
-TEST(Moneda, PuntosNodWithManyPointsStaysBounded) {
+    // Each "." regroups the whole text written before it, which grows by a third every time: a text made of
+    // many points stops being regrouped once it is wider than any column instead of growing without bound.
     const QString r = PuntosNod(QStringLiteral("1234567890") + QString(400, QLatin1Char('.')), true);
     EXPECT_LE(r.size(), 2 * kAnchoMaximoTexto);
     EXPECT_GE(r.size(), kAnchoMaximoTexto);
