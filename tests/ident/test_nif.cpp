@@ -35,22 +35,19 @@ TEST(RecalculaNIF, RecomputesTheLetterOfWrittenNifs) {
         EXPECT_EQ(RecalculaNIF(q(entrada)), q(salida)) << qPrintable(q(entrada));
 }
 
-TEST(Tratamiento, SexOfTitles) {
+TEST(Tratamiento, SexOfTitlesAndDonByLanguageSexAndCase) {
     const std::pair<const char16_t*, const char16_t*> casos[] = {
         {u"DON", u"H"}, {u"don", u"H"}, {u"Dº", u"H"}, {u"Dº.", u"H"}, {u"D.", u"H"}, {u"Doña", u"M"},
         {u"dª", u"M"},  {u"Dª.", u"M"}, {u"Sr.", u""}, {u" DON", u""}, {u"", u""},    {u"DONA", u""}};
     for (const auto& [titulo, sexo] : casos)
         EXPECT_EQ(DeterminaSexo(q(titulo)), q(sexo)) << qPrintable(q(titulo));
-}
-
-TEST(Tratamiento, DonByLanguageSexAndCase) {
     struct Caso {
         const char* sexo;
         char16_t caso;
         int idioma;
         const char16_t* titulo;
     };
-    const Caso casos[] = {{"H", u'N', 0, u"DON"},
+    const Caso dones[] = {{"H", u'N', 0, u"DON"},
                           {"M", u'N', 0, u"DOÑA"},
                           {"M", u'C', 0, u"Doña"},
                           {"H", u'S', 0, u"don"},
@@ -61,7 +58,7 @@ TEST(Tratamiento, DonByLanguageSexAndCase) {
                           {"M", u'S', 1, u"la senyora"},
                           {"h", u'N', 0, u""},
                           {"", u'C', 1, u""}};
-    for (const Caso& c : casos)
+    for (const Caso& c : dones)
         EXPECT_EQ(Don(QString::fromLatin1(c.sexo), QChar(c.caso), c.idioma), q(c.titulo))
             << c.sexo << char(c.caso);
 }

@@ -64,7 +64,7 @@ protected:
     TFValidaReferenciaCatastral f;
 };
 
-TEST_F(DialogoRefCatastral, ShowsTheTrimmedReferenceAndAceptarHandsBackTheTypedOne) {
+TEST_F(DialogoRefCatastral, ShowsTheReferenceTrimmedInUpperCaseAndAceptarHandsBackTheTypedOne) {
     EXPECT_EQ(f.windowTitle(), QStringLiteral("Validación de Referencias Catastrales"));
     EXPECT_EQ(f.ERCRefCatastral->text(), QStringLiteral("0000123VH5797S0001AA"));
     EXPECT_TRUE(f.RBUrbana->isChecked());
@@ -77,6 +77,11 @@ TEST_F(DialogoRefCatastral, ShowsTheTrimmedReferenceAndAceptarHandsBackTheTypedO
     QTest::mouseClick(f.BBAceptar, Qt::LeftButton);
     EXPECT_EQ(f.result(), 1);
     EXPECT_EQ(Config.GetRefCatastralActual(), QStringLiteral("9872023VH5797S0001WX"));
+    // Only typed text was upper-cased: a reference handed in lower case was shown and returned so.
+    Config.SetRefCatastralActual(QStringLiteral(" 9872023vh5797s0001wx "));
+    TFValidaReferenciaCatastral g;
+    g.show();
+    EXPECT_EQ(g.ERCRefCatastral->text(), QStringLiteral("9872023VH5797S0001WX"));
 }
 
 TEST_F(DialogoRefCatastral, TypedLettersTurnUpperCaseOneForOne) {
@@ -255,14 +260,6 @@ TEST_F(DialogoRefCatastral, CatastroWaitBlocksTheDialogAndAbandonedAnswersAreDro
             EXPECT_EQ(g.cursor().shape(), Qt::ArrowCursor);
         }
     }
-}
-
-// Only typed text was upper-cased: a reference handed in lower case was shown and returned so.
-TEST_F(DialogoRefCatastral, AReferenceHandedInLowerCaseIsShownInUpperCase) {
-    Config.SetRefCatastralActual(QStringLiteral(" 9872023vh5797s0001wx "));
-    TFValidaReferenciaCatastral g;
-    g.show();
-    EXPECT_EQ(g.ERCRefCatastral->text(), QStringLiteral("9872023VH5797S0001WX"));
 }
 
 TEST(IValidaReferenciaCatastral, EscapeClosesTheModalDialogAndLeavesNoWindow) {

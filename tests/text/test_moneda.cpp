@@ -8,7 +8,7 @@
 using namespace nod;
 using nod::prueba::OficinaPrueba;
 
-TEST(Moneda, PesetasToEurosAsTextAndAsAFigure) {
+TEST(Moneda, PesetasToEurosAsTextAndAsAFigureAndBack) {
     OficinaPrueba o;
     const struct {
         qint64 pesetas;
@@ -41,17 +41,13 @@ TEST(Moneda, PesetasToEurosAsTextAndAsAFigure) {
     for (const auto& c : redondeos)
         EXPECT_DOUBLE_EQ(PesetasEurosNod(c.pesetas, c.decimales), c.esperado)
             << c.pesetas << ' ' << c.decimales;
-}
-
-TEST(Moneda, EurosToPesetas) {
-    OficinaPrueba o;
     const struct {
         double euros;
         qint64 pesetas;
-    } casos[] = {
+    } aPesetas[] = {
         {1000.0, 166386}, {0.01, 2},  {1.0, 166}, {0, 0}, {std::numeric_limits<double>::quiet_NaN(), 0},
         {1e300, 0},       {-1e300, 0}};
-    for (const auto& c : casos)
+    for (const auto& c : aPesetas)
         EXPECT_EQ(EurosPesetasNod(c.euros), c.pesetas) << c.euros;
 }
 
