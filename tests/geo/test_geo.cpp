@@ -105,7 +105,7 @@ TEST_F(Geo, Fault2ProvinceOfBusquedaCodIneIsACodeNotFilterText) {
             << qPrintable(c.provincia.left(40));
 }
 
-TEST_F(Geo, MunicipalityOrEntityName) {
+TEST_F(Geo, MunicipalityOrEntityNameAndMinorEntityCheck) {
     struct C {
         const char *ine, *prov, *mun, *entidad, *esperado;
     };
@@ -119,17 +119,14 @@ TEST_F(Geo, MunicipalityOrEntityName) {
                                   QString::fromUtf8(c.mun), QString::fromUtf8(c.entidad)),
                   QString::fromUtf8(c.esperado))
             << c.ine << " " << c.entidad;
-}
-
-// The municipality itself sets the code only; the municipality's name is left as it was but for an entity.
-TEST_F(Geo, MinorEntityCheck) {
+    // A municipality sets only the code; the municipality's name is given for a minor entity only.
     const struct {
         const char *ine, *nombre, *entidad, *codMun, *municipio;
-    } casos[] = {{"24089", "ARMUNIA", "ARMUNIA", "089", "LEÓN"},
-                 {"28079", "MADRID", "", "079", "sin tocar"},
-                 {"28079", "GETAFE", "", "0000", "sin tocar"},
-                 {"  ", "MADRID", "", "0000", "sin tocar"}};
-    for (const auto& c : casos) {
+    } entidades[] = {{"24089", "ARMUNIA", "ARMUNIA", "089", "LEÓN"},
+                     {"28079", "MADRID", "", "079", "sin tocar"},
+                     {"28079", "GETAFE", "", "0000", "sin tocar"},
+                     {"  ", "MADRID", "", "0000", "sin tocar"}};
+    for (const auto& c : entidades) {
         QString codMun = QStringLiteral("x"), municipio = QStringLiteral("sin tocar");
         EXPECT_EQ(
             CompruebaEntidadMenor(QString::fromUtf8(c.ine), QString::fromUtf8(c.nombre), codMun, municipio),
@@ -178,7 +175,7 @@ TEST(GeoSinTablas, MissingTablesGiveDefaults) {
     EXPECT_EQ(DomicilioClienteCompletoPorCodigo(1, 0, true), QString());
 }
 
-TEST(Colegios, ExactNamesThenFragmentsInOrder) {
+TEST(Colegios, ExactNamesThenFragmentsInOrderOrTheConfiguredCollege) {
     struct C {
         const char *nombre, *alternativo, *esperado;
     };
@@ -193,9 +190,6 @@ TEST(Colegios, ExactNamesThenFragmentsInOrder) {
         EXPECT_EQ(ObtenCodColegioPorNombre(QString::fromUtf8(c.nombre), QString::fromUtf8(c.alternativo)),
                   QString::fromUtf8(c.esperado))
             << c.nombre;
-}
-
-TEST(Colegios, ConfiguredCollegeWhenNoNameIsGiven) {
     prueba::OficinaPrueba oficina(QStringLiteral("[NOTARIO1]\nColegio2=Navarra\n"));
     EXPECT_EQ(ObtenCodColegioPorNombre({}, {}), QStringLiteral("3150177"));
     Config.SetColegio(QStringLiteral("País Vasco"));

@@ -52,16 +52,13 @@ QChar otraLetra(QChar c) {
     return c == u'A' ? u'B' : u'A';
 }
 
-TEST_F(Contraste, NifLetterMatchesAndWrongLetterFails) {
+TEST_F(Contraste, NifAndNieLettersMatchWrongLettersFailAndEsCifReadsXAsZero) {
     for (const Caso& c : de("NIF", 400)) {
         EXPECT_EQ(QString(LetraNIF(c.numero.toLongLong())), c.control) << qPrintable(c.numero);
         EXPECT_TRUE(EsNif(c.numero + c.control, false)) << qPrintable(c.numero);
         EXPECT_TRUE(EsCif(c.numero + c.control)) << qPrintable(c.numero);
         EXPECT_FALSE(EsNif(c.numero + otraLetra(c.control[0]), false)) << qPrintable(c.numero);
     }
-}
-
-TEST_F(Contraste, NieLetterMatchesAndXIsReadAsZeroByEsCif) {
     for (const Caso& c : de("NIE", 400)) {
         EXPECT_TRUE(EsUnNie(c.numero + c.control, false)) << qPrintable(c.numero);
         EXPECT_FALSE(EsUnNie(c.numero + otraLetra(c.control[0]), false)) << qPrintable(c.numero);
