@@ -20,12 +20,9 @@ namespace {
 
 class Geo : public ::testing::Test {
 protected:
-    void SetUp() override {
-        m_anterior = Config;
-        Config.Carga(prueba::OficinaMuestra());
-    }
+    void SetUp() override { Config.Carga(prueba::OficinaMuestra()); }
     void TearDown() override { Config = m_anterior; }
-    TConfig m_anterior;
+    TConfig m_anterior = Config;
 };
 
 struct Caso {
