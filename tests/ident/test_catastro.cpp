@@ -32,7 +32,7 @@ void compruebaFormato(bool (*sePuede)(const QString&), QString (*formatea)(const
 // What follows the last two letters is dropped, an over-long group keeps its right end, 20 characters or
 // more are only trimmed and upper-cased, and control characters are trimmed; a no-break space is not, and
 // "ß" is one character, not "SS".
-TEST(ReferenciaUrbana, ShapeAndExpansion) {
+TEST(ReferenciaCatastral, ShapeAndExpansionOfUrbanAndRusticReferences) {
     compruebaFormato(&SePuedeFormatearReferenciaCatastralUrbana, &FormatearReferenciaCatastralUrbana,
                      {{u"123VH5797S1WX", u"0000123VH5797S0001WX"},
                       {u"  123vh5797s1wx ", u"0000123VH5797S0001WX"},
@@ -48,9 +48,6 @@ TEST(ReferenciaUrbana, ShapeAndExpansion) {
                       u"123VH5797S1W\u00df", u"\u00a0123VH5797S1WX"});
     EXPECT_FALSE(SePuedeFormatearReferenciaCatastralUrbana(QStringLiteral("   ")));
     EXPECT_EQ(FormatearReferenciaCatastralUrbana(QStringLiteral("   ")), QString());
-}
-
-TEST(ReferenciaRustica, ShapeLooksAtTheEndWhileTheFormatterTakesTheNextTwo) {
     compruebaFormato(
         &SePuedeFormatearReferenciaCatastralRustica, &FormatearReferenciaCatastralRustica,
         {{u"28079A1001AB", u"28079A000000001001AB"},

@@ -11,7 +11,7 @@ json pide(const char* linea) {
     return AtiendeLinea(linea, 1);
 }
 
-TEST(LoteIdent, RoutinesAnswerWithTheirJsonTypes) {
+TEST(LoteIdent, RoutinesAnswerWithTheirJsonTypesAndOutValues) {
     const std::pair<const char*, json> casos[] = {
         {R"({"fn":"NIF","args":["12345678"]})", "12.345.678-Z"},
         {R"({"fn":"EsCif","args":["A58818501"]})", true},
@@ -28,9 +28,6 @@ TEST(LoteIdent, RoutinesAnswerWithTheirJsonTypes) {
         ASSERT_FALSE(r.contains("error")) << r.dump();
         EXPECT_EQ(r["result"], resultado) << linea;
     }
-}
-
-TEST(LoteIdent, SurfaceComesBackAsAnOutValue) {
     const json r = pide(R"({"fn":"ExtraeSuperficiesRustica","args":["2 HECTAREAS 12 CENTIAREAS",0]})");
     ASSERT_FALSE(r.contains("error")) << r.dump();
     ASSERT_EQ(r["out"].size(), 1u);

@@ -49,7 +49,7 @@ protected:
     prueba::ServidorHttp servidor;
 };
 
-TEST_F(RecuperaMunicipioTest, RequestIsSentByteForByte) {
+TEST_F(RecuperaMunicipioTest, RequestIsSentByteForByteAndAnswersGiveTheirCodes) {
     servidor.respondeCon(respuestaMadrid());
     QString provincia, municipio;
     RecuperaMunicipio(QStringLiteral(" 9872023VH5797S0001WX "), provincia, municipio);
@@ -74,9 +74,6 @@ TEST_F(RecuperaMunicipioTest, RequestIsSentByteForByte) {
         "</soap:Envelope>\r";
     EXPECT_EQ(p.cuerpo, esperado);
     EXPECT_FALSE(p.cuerpo.contains('\n'));
-}
-
-TEST_F(RecuperaMunicipioTest, AnswersAndTheirCodes) {
     using enum ResultadoCatastro;
     struct Caso {
         const char* nombre;
