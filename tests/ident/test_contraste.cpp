@@ -66,7 +66,7 @@ TEST_F(Contraste, NifAndNieLettersMatchWrongLettersFailAndEsCifReadsXAsZero) {
     }
 }
 
-TEST_F(Contraste, CifControlDigitAndLetter) {
+TEST_F(Contraste, CifControlDigitAndLetterAndCadastralControlLetters) {
     for (const Caso& c : de("CIF", 400)) {
         const QChar digito = c.control[0], letra = c.control[1];
         const QChar letraInicial = c.numero[0];
@@ -89,9 +89,6 @@ TEST_F(Contraste, CifControlDigitAndLetter) {
         EXPECT_EQ(EsCif(c.numero + digito), aceptada && !(ps && digito == u'0')) << qPrintable(c.numero);
         EXPECT_EQ(EsCif(c.numero + otroDigito), libre) << qPrintable(c.numero);
     }
-}
-
-TEST_F(Contraste, CadastralControlLetters) {
     for (const Caso& c : de("RC", 800)) {
         EXPECT_EQ(LetrasControlCatastral(c.numero), c.control) << qPrintable(c.numero);
         EXPECT_TRUE(ControlCatastralCorrecto(c.numero + c.control)) << qPrintable(c.numero);

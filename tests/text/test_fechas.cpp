@@ -119,7 +119,7 @@ TEST(TraduceFecha, ReadsDatesInWordsAndEveryDayTheSpanishWriterProduces) {
     }
 }
 
-TEST(Calendario, DaysAndLastDayOfAMonth) {
+TEST(Calendario, DaysAndLastDayOfAMonthAndEncodeFechaRollingMonthsAndDaysOver) {
     const struct {
         int anio, mes, dias;
     } casos[] = {{2023, 1, 31}, {2023, 2, 28}, {2024, 2, 29},  {1900, 2, 28},
@@ -131,16 +131,13 @@ TEST(Calendario, DaysAndLastDayOfAMonth) {
     EXPECT_EQ(DiasMes(std::numeric_limits<double>::quiet_NaN()), 0);
     for (auto [mes, anio] : {std::pair{0, 2023}, {13, 2023}, {-1, 2023}, {1, 0}, {1, 10000}})
         EXPECT_EQ(UltimoDia(mes, anio), 0.0) << mes << ' ' << anio;
-}
-
-TEST(Calendario, EncodeFechaRollsMonthsAndDaysOver) {
     const struct {
         int anio, mes, dia;
         QDate esperada;
-    } casos[] = {{2010, 14, 1, QDate(2011, 2, 1)},    {2010, 1, 32, QDate(2010, 2, 1)},
-                 {2010, 12, 31, QDate(2010, 12, 31)}, {2010, 25, 1, QDate(2012, 1, 1)},
-                 {2010, 3, 0, QDate(2010, 2, 28)},    {2010, 2, 366, QDate(2011, 2, 1)}};
-    for (const auto& c : casos)
+    } fechas[] = {{2010, 14, 1, QDate(2011, 2, 1)},    {2010, 1, 32, QDate(2010, 2, 1)},
+                  {2010, 12, 31, QDate(2010, 12, 31)}, {2010, 25, 1, QDate(2012, 1, 1)},
+                  {2010, 3, 0, QDate(2010, 2, 28)},    {2010, 2, 366, QDate(2011, 2, 1)}};
+    for (const auto& c : fechas)
         EXPECT_EQ(EncodeFecha(c.anio, c.mes, c.dia), QDateToTDateTime(c.esperada)) << c.anio << '/' << c.mes;
     // A month that ends up 0 (month 24 included, kept as the suite does) and numbers a Word cannot hold.
     for (auto [anio, mes, dia] : {std::tuple{2010, 24, 1},

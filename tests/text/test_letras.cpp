@@ -24,7 +24,7 @@ QString u8(const char* s) {
 
 } // namespace
 
-TEST(LetrasNod, GroupBoundariesGenderAndShortForm) {
+TEST(LetrasNod, GroupBoundariesGenderShortFormAndGroupsOfDigits) {
     const CasoLetras casos[] = {{0, 'N', 'N', false, "CERO"},
                                 {0, 'N', 'S', false, "cero"},
                                 {1, 'M', 'N', true, "UN"},
@@ -74,9 +74,6 @@ TEST(LetrasNod, GroupBoundariesGenderAndShortForm) {
     for (const auto& c : casos)
         EXPECT_EQ(LetrasNod(c.numero, QLatin1Char(c.genero), QLatin1Char(c.caso), c.corto), u8(c.esperado))
             << c.numero << ' ' << c.genero << c.caso << c.corto;
-}
-
-TEST(LetrasNod, GroupsOfDigitsAsText) {
     // Blanks count as zeros, a short group is right-aligned, and the words go after what the text held.
     for (const auto& [cifras, genero, esperado] : {std::tuple{"021500", 'M', "X VEINTIÚN MIL QUINIENTOS "},
                                                    {"  1  1", 'F', "X MIL UNA "},
