@@ -155,20 +155,16 @@ TEST(CalculaLetraNIFResultado, SalirEscapeAndTheCloseButtonGiveTwo) {
 // The verdict goes by the mode chosen, also on a form that is not on screen yet (built and driven by a
 // program before showing it).
 TEST(CalculaLetraNIFSinMostrar, VerdictFollowsTheChosenMode) {
-    struct Caso {
-        bool cif;
-        const char* numero;
-    };
-    for (const Caso& c : {Caso{true, "B58818501"}, Caso{false, "X1234567L"}}) {
+    for (bool cif : {true, false}) {
         TFCalculaLetraNIF f;
-        (c.cif ? f.RBCIF : f.RBNIE)->setChecked(true);
-        (c.cif ? f.ECIF : f.ENIE)->setText(QString::fromLatin1(c.numero));
+        (cif ? f.RBCIF : f.RBNIE)->setChecked(true);
+        (cif ? f.ECIF : f.ENIE)->setText(cif ? QStringLiteral("B58818501") : QStringLiteral("X1234567L"));
         f.BBValidaCIF->click();
-        QLabel* esperado = c.cif ? f.LResultadoCIF_ : f.LResultadoNIE_;
-        QLabel* otro = c.cif ? f.LResultadoNIE_ : f.LResultadoCIF_;
-        EXPECT_FALSE(esperado->isHidden()) << c.numero;
-        EXPECT_EQ(esperado->text(), QStringLiteral("Correcto")) << c.numero;
-        EXPECT_EQ(otro->text(), QStringLiteral("Incorrecto")) << c.numero;
+        QLabel* esperado = cif ? f.LResultadoCIF_ : f.LResultadoNIE_;
+        QLabel* otro = cif ? f.LResultadoNIE_ : f.LResultadoCIF_;
+        EXPECT_FALSE(esperado->isHidden()) << cif;
+        EXPECT_EQ(esperado->text(), QStringLiteral("Correcto")) << cif;
+        EXPECT_EQ(otro->text(), QStringLiteral("Incorrecto")) << cif;
     }
 }
 
