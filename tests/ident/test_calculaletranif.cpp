@@ -29,28 +29,24 @@ TEST_F(DialogoLetraNIF, EachTypeShowsItsPanelInPlaceAndAVerdictKeepsTheEditWidth
     const QPoint salir = f.BBSalir->pos();
     const QPoint accion = f.BBCalculaLetra->pos();
     const int anchoCif = f.ECIF->width();
-    struct Caso {
-        QRadioButton* rb;
-        bool dni, cif, nie;
-    };
-    for (const Caso& c : {Caso{f.RBCIF, false, true, false}, Caso{f.RBNIE, false, false, true},
-                          Caso{f.RBDNI, true, false, false}, Caso{f.RBNIE, false, false, true}}) {
+    for (QRadioButton* rb : {f.RBCIF, f.RBNIE, f.RBDNI, f.RBNIE}) {
+        const bool dni = rb == f.RBDNI, cif = rb == f.RBCIF, nie = rb == f.RBNIE;
         f.ENIF->setText(QStringLiteral("1"));
         f.ECIF->setText(QStringLiteral("B"));
         f.ENIE->setText(QStringLiteral("X"));
-        QTest::mouseClick(c.rb, Qt::LeftButton);
+        QTest::mouseClick(rb, Qt::LeftButton);
         QApplication::processEvents();
-        const std::string modo = c.rb->text().toStdString();
-        EXPECT_EQ(f.PDNI->isVisible(), c.dni) << modo;
-        EXPECT_EQ(f.BBCalculaLetra->isVisible(), c.dni) << modo;
-        EXPECT_EQ(f.PCIF->isVisible(), c.cif) << modo;
-        EXPECT_EQ(f.PNIE->isVisible(), c.nie) << modo;
-        EXPECT_EQ(f.BBValidaCIF->isVisible(), !c.dni) << modo;
+        const std::string modo = rb->text().toStdString();
+        EXPECT_EQ(f.PDNI->isVisible(), dni) << modo;
+        EXPECT_EQ(f.BBCalculaLetra->isVisible(), dni) << modo;
+        EXPECT_EQ(f.PCIF->isVisible(), cif) << modo;
+        EXPECT_EQ(f.PNIE->isVisible(), nie) << modo;
+        EXPECT_EQ(f.BBValidaCIF->isVisible(), !dni) << modo;
         EXPECT_TRUE(f.ENIF->text().isEmpty() && f.ECIF->text().isEmpty() && f.ENIE->text().isEmpty()) << modo;
         EXPECT_FALSE(f.LResultadoCIF_->isVisible() || f.LResultadoNIE_->isVisible()) << modo;
         EXPECT_EQ(f.size(), tamano) << modo;
         EXPECT_EQ(f.BBSalir->pos(), salir) << modo;
-        EXPECT_EQ((c.dni ? f.BBCalculaLetra : f.BBValidaCIF)->pos(), accion) << modo;
+        EXPECT_EQ((dni ? f.BBCalculaLetra : f.BBValidaCIF)->pos(), accion) << modo;
     }
     QTest::mouseClick(f.RBCIF, Qt::LeftButton);
     for (const char* cif : {"B58818501", "B58818502"}) {

@@ -216,11 +216,8 @@ TEST_F(DialogoRefCatastral, CatastroOpensTheConsultationPageOrSaysWhy) {
 // second click started a second request, and after Cancel both answers still came: two boxes, or the
 // browser opening after the clerk had cancelled. The peer here answers, but only after 700 ms.
 TEST_F(DialogoRefCatastral, CatastroWaitBlocksTheDialogAndAbandonedAnswersAreDropped) {
-    const struct {
-        const char* como;
-        bool cancelar; // "&Cancelar" (closes the dialog), else Escape (the dialog stays)
-    } casos[] = {{"Cancelar", true}, {"Escape", false}};
-    for (const auto& k : casos) {
+    for (bool cancelar : {true, false}) { // "&Cancelar" closes the dialog, Escape leaves it open
+        const char* como = cancelar ? "Cancelar" : "Escape";
         TFValidaReferenciaCatastral g;
         g.show();
         QApplication::setActiveWindow(&g);
@@ -232,13 +229,13 @@ TEST_F(DialogoRefCatastral, CatastroWaitBlocksTheDialogAndAbandonedAnswersAreDro
         bool visto = false;
         QTimer::singleShot(200, &g, [&] {
             visto = true;
-            EXPECT_EQ(g.cursor().shape(), Qt::WaitCursor) << k.como;
-            EXPECT_TRUE(mensajes.esperaVisible()) << k.como;
-            EXPECT_FALSE(g.ERCRefCatastral->isEnabled()) << k.como;
-            EXPECT_FALSE(g.BBCatastro->isEnabled()) << k.como;
-            EXPECT_TRUE(g.BBCancelar->isEnabled()) << k.como;
+            EXPECT_EQ(g.cursor().shape(), Qt::WaitCursor) << como;
+            EXPECT_TRUE(mensajes.esperaVisible()) << como;
+            EXPECT_FALSE(g.ERCRefCatastral->isEnabled()) << como;
+            EXPECT_FALSE(g.BBCatastro->isEnabled()) << como;
+            EXPECT_TRUE(g.BBCancelar->isEnabled()) << como;
             QTest::mouseClick(g.BBCatastro, Qt::LeftButton); // the second click
-            if (k.cancelar)
+            if (cancelar)
                 QTest::mouseClick(g.BBCancelar, Qt::LeftButton);
             else
                 QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &g,
@@ -246,13 +243,13 @@ TEST_F(DialogoRefCatastral, CatastroWaitBlocksTheDialogAndAbandonedAnswersAreDro
         });
         QTest::mouseClick(g.BBCatastro, Qt::LeftButton);
         QTest::qWait(1200); // the answer has come and gone
-        EXPECT_TRUE(visto) << k.como;
-        EXPECT_EQ(servidor.peticiones().size() - antes, 1) << k.como;
-        EXPECT_TRUE(abiertas.isEmpty()) << k.como;
-        EXPECT_TRUE(textos().isEmpty()) << k.como << ": " << textos().join(u' ').toStdString();
-        EXPECT_FALSE(mensajes.esperaVisible()) << k.como;
-        EXPECT_EQ(g.isVisible(), !k.cancelar) << k.como;
-        if (k.cancelar) {
+        EXPECT_TRUE(visto) << como;
+        EXPECT_EQ(servidor.peticiones().size() - antes, 1) << como;
+        EXPECT_TRUE(abiertas.isEmpty()) << como;
+        EXPECT_TRUE(textos().isEmpty()) << como << ": " << textos().join(u' ').toStdString();
+        EXPECT_FALSE(mensajes.esperaVisible()) << como;
+        EXPECT_EQ(g.isVisible(), !cancelar) << como;
+        if (cancelar) {
             EXPECT_EQ(g.result(), 2);
             EXPECT_EQ(Config.GetRefCatastralActual(), QStringLiteral("0000123VH5797S0001AA"));
         } else {

@@ -282,29 +282,29 @@ TEST_F(Tablas, KeySearchFastPathAgreesWithTBBusca) {
     }
     struct C {
         const char* indice;
-        const char* filtro;
-        bool rango; // IMPORTE between 0 and 100: not the tag's field
         QVariant clave;
         int recno; // 0: not found
+        const char* filtro = "";
+        bool rango = false; // IMPORTE between 0 and 100: not the tag's field
     };
-    const C casos[] = {{"CODIGO", "", false, 2, 3},
-                       {"CODIGO", "", false, 3, 1},
-                       {"CODIGO", "", false, 4, 0},
-                       {"CODIGO", "", false, -1, 0},
-                       {"CODIGO", "", false, QStringLiteral("02"), 3},
-                       {"CODIGO", "", false, QStringLiteral("x"), 0},
-                       {"CODIGO", "ACTIVO=False", false, 2, 4},
-                       {"CODIGO", "", true, 2, 4},
-                       {"CODIGO", "", true, 1, 0},
-                       {"CODIGO", "", true, 5, 5},
-                       {"NOMBRE", "", false, QStringLiteral("LOPEZ"), 5},
-                       {"NOMBRE", "", false, QStringLiteral("LOPEZ  "), 5},
-                       {"NOMBRE", "", false, QStringLiteral("LOPE"), 0},
-                       {"NOMBRE", "", false, QStringLiteral("LOPEZZ"), 0},
-                       {"NOMBRE", "", false, QStringLiteral("GARCÍA"), 3},
-                       {"NOMBRE", "", false, QStringLiteral("PEÑA"), 1},
-                       {"NOMBRE", "CODIGO=5", false, QStringLiteral("PEÑA"), 0},
-                       {"NOMBRE", "", true, QStringLiteral("ÁLVAREZ"), 0}};
+    const C casos[] = {{"CODIGO", 2, 3},
+                       {"CODIGO", 3, 1},
+                       {"CODIGO", 4, 0},
+                       {"CODIGO", -1, 0},
+                       {"CODIGO", QStringLiteral("02"), 3},
+                       {"CODIGO", QStringLiteral("x"), 0},
+                       {"CODIGO", 2, 4, "ACTIVO=False"},
+                       {"CODIGO", 2, 4, "", true},
+                       {"CODIGO", 1, 0, "", true},
+                       {"CODIGO", 5, 5, "", true},
+                       {"NOMBRE", QStringLiteral("LOPEZ"), 5},
+                       {"NOMBRE", QStringLiteral("LOPEZ  "), 5},
+                       {"NOMBRE", QStringLiteral("LOPE"), 0},
+                       {"NOMBRE", QStringLiteral("LOPEZZ"), 0},
+                       {"NOMBRE", QStringLiteral("GARCÍA"), 3},
+                       {"NOMBRE", QStringLiteral("PEÑA"), 1},
+                       {"NOMBRE", QStringLiteral("PEÑA"), 0, "CODIGO=5"},
+                       {"NOMBRE", QStringLiteral("ÁLVAREZ"), 0, "", true}};
     for (const C& c : casos) {
         SCOPED_TRACE(testing::Message() << c.indice << " [" << c.filtro << "] " << c.rango << ' '
                                         << qPrintable(c.clave.toString()));
