@@ -272,14 +272,7 @@ TEST_F(Tablas, KilledPackLeavesTheTableWhole) {
 }
 
 TEST_F(Tablas, KeySearchFastPathAgreesWithTBBusca) {
-    {
-        auto tb = TTabla::AbreRuta(ruta);
-        tb->Append();
-        tb->SetInteger(QStringLiteral("CODIGO"), 5);
-        tb->SetString(QStringLiteral("NOMBRE"), QStringLiteral("LOPEZ"));
-        tb->SetFloat(QStringLiteral("IMPORTE"), 50);
-        tb->Post();
-    }
+    anade(ruta, 5, 1); // NOMBRE "P5", IMPORTE blank: within the range 0 to 100
     struct C {
         const char* indice;
         QVariant clave;
@@ -297,10 +290,10 @@ TEST_F(Tablas, KeySearchFastPathAgreesWithTBBusca) {
                        {"CODIGO", 2, 4, "", true},
                        {"CODIGO", 1, 0, "", true},
                        {"CODIGO", 5, 5, "", true},
-                       {"NOMBRE", QStringLiteral("LOPEZ"), 5},
-                       {"NOMBRE", QStringLiteral("LOPEZ  "), 5},
-                       {"NOMBRE", QStringLiteral("LOPE"), 0},
-                       {"NOMBRE", QStringLiteral("LOPEZZ"), 0},
+                       {"NOMBRE", QStringLiteral("P5"), 5},
+                       {"NOMBRE", QStringLiteral("P5  "), 5},
+                       {"NOMBRE", QStringLiteral("P"), 0},
+                       {"NOMBRE", QStringLiteral("P55"), 0},
                        {"NOMBRE", QStringLiteral("GARCÍA"), 3},
                        {"NOMBRE", QStringLiteral("PEÑA"), 1},
                        {"NOMBRE", QStringLiteral("PEÑA"), 0, "CODIGO=5"},
