@@ -1,6 +1,8 @@
 #pragma once
 // Small helpers of the communications tests: Qt texts in GoogleTest's failure messages as text, files
-// written for a test to send or find, and the log caught while a test runs.
+// written for a test to send or find, the dialogs shown, and the log caught while a test runs.
+
+#include "companion/mensajes.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -27,6 +29,14 @@ inline QString EscribeFichero(const QString& ruta, const QByteArray& contenido) 
     QFile f(ruta);
     EXPECT_TRUE(f.open(QIODevice::WriteOnly) && f.write(contenido) == contenido.size()) << ruta.toStdString();
     return ruta;
+}
+
+/// The dialogs the scripted message service showed, each as "kind|title|text".
+inline QStringList Dialogos(const ServicioMensajesGuionado& g) {
+    QStringList r;
+    for (const DialogoMostrado& d : g.mostrados())
+        r.append(d.kind + u'|' + d.title + u'|' + d.text);
+    return r;
 }
 
 /// Catches every line the library logs (all of its categories, informational ones too) while it lives.

@@ -7,18 +7,18 @@
 #include <QFile>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace nod {
 namespace {
 
 class EmailDmTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        QDir().mkpath(oficina.ruta(QStringLiteral("DATOS")));
-        CreaFicheroDbf(oficina.ruta(QStringLiteral("DATOS/CLIENTES.DBF")),
-                       {{QStringLiteral("CODIGO"), 'N', 8, 0},
-                        {QStringLiteral("APELLIDOS"), 'C', 40, 0},
-                        {QStringLiteral("NOMBRE"), 'C', 30, 0}});
-        auto clientes = TTabla::AbreRuta(oficina.ruta(QStringLiteral("DATOS/CLIENTES.DBF")));
+        QDir().mkpath(oficina.ruta(u"DATOS"_s));
+        CreaFicheroDbf(oficina.ruta(u"DATOS/CLIENTES.DBF"_s),
+                       {{u"CODIGO"_s, 'N', 8, 0}, {u"APELLIDOS"_s, 'C', 40, 0}, {u"NOMBRE"_s, 'C', 30, 0}});
+        auto clientes = TTabla::AbreRuta(oficina.ruta(u"DATOS/CLIENTES.DBF"_s));
         const struct {
             int codigo;
             const char *apellidos, *nombre;
@@ -29,13 +29,24 @@ protected:
                      {9, "  MUÑOZ", "ÁNGEL  "}};
         for (const auto& f : filas) {
             clientes->Append();
-            clientes->SetInteger(QStringLiteral("CODIGO"), f.codigo);
-            clientes->SetString(QStringLiteral("APELLIDOS"), QString::fromUtf8(f.apellidos));
-            clientes->SetString(QStringLiteral("NOMBRE"), QString::fromUtf8(f.nombre));
+            clientes->SetInteger(u"CODIGO"_s, f.codigo);
+            clientes->SetString(u"APELLIDOS"_s, QString::fromUtf8(f.apellidos));
+            clientes->SetString(u"NOMBRE"_s, QString::fromUtf8(f.nombre));
             clientes->Post();
         }
     }
-    prueba::OficinaPrueba oficina{QStringLiteral("[ALIAS]\nDB=DATOS\n")};
+    // A table at `ruta` of the office whose first field `campo` holds `codigos`, one record each.
+    std::unique_ptr<TTabla> tabla(const QString& ruta, const QList<TCampoDbf>& campos, QList<int> codigos) {
+        CreaFicheroDbf(oficina.ruta(ruta), campos);
+        auto t = TTabla::AbreRuta(oficina.ruta(ruta));
+        for (int cod : codigos) {
+            t->Append();
+            t->SetInteger(campos[0].nombre, cod);
+            t->Post();
+        }
+        return t;
+    }
+    prueba::OficinaPrueba oficina{u"[ALIAS]\nDB=DATOS\n"_s};
 };
 
 TEST_F(EmailDmTest, ClientNameIsSurnamesCommaName) {
@@ -57,44 +68,26 @@ TEST_F(EmailDmTest, ClientNameIsSurnamesCommaName) {
 }
 
 TEST_F(EmailDmTest, CalculatedFieldFollowsTheCurrentParty) {
-    const QString ruta = oficina.ruta(QStringLiteral("INTERESA.DBF"));
-    CreaFicheroDbf(ruta,
-                   {{QStringLiteral("CODCLIENTE"), 'N', 8, 0}, {QStringLiteral("CALIDAD"), 'C', 20, 0}});
-    {
-        auto t = TTabla::AbreRuta(ruta);
-        for (int cod : {7, 0, 12, 99}) {
-            t->Append();
-            t->SetInteger(QStringLiteral("CODCLIENTE"), cod);
-            t->Post();
-        }
-    }
     TDMEmail dm;
     dm.tbInteresadosCalcFields();
     EXPECT_EQ(dm.CLIENTE(), QString()) << "no table yet";
-    dm.AsignaInteresados(TTabla::AbreRuta(ruta));
+    dm.AsignaInteresados(
+        tabla(u"INTERESA.DBF"_s, {{u"CODCLIENTE"_s, 'N', 8, 0}, {u"CALIDAD"_s, 'C', 20, 0}}, {7, 0, 12, 99}));
     QStringList clientes;
     for (dm.tbInteresados()->First(); !dm.tbInteresados()->Eof(); dm.tbInteresados()->Next()) {
         dm.tbInteresadosCalcFields();
         clientes.append(dm.CLIENTE());
     }
-    EXPECT_EQ(
-        clientes,
-        QStringList({QStringLiteral("GARCÍA LÓPEZ, MARÍA"), {}, QStringLiteral("PÉREZ & CÍA, S.L."), {}}));
+    EXPECT_EQ(clientes, QStringList({u"GARCÍA LÓPEZ, MARÍA"_s, {}, u"PÉREZ & CÍA, S.L."_s, {}}));
 }
 
 TEST_F(EmailDmTest, UnreadableTablesGiveAnEmptyName) {
-    QFile::resize(oficina.ruta(QStringLiteral("DATOS/CLIENTES.DBF")), 40);
+    QFile::resize(oficina.ruta(u"DATOS/CLIENTES.DBF"_s), 40);
     OlvidaTablasCargadas();
     EXPECT_EQ(ClienteInteresado(7), QString());
 
-    const QString ruta = oficina.ruta(QStringLiteral("OTRA.DBF"));
-    CreaFicheroDbf(ruta, {{QStringLiteral("CODIGO"), 'N', 8, 0}});
-    auto t = TTabla::AbreRuta(ruta);
-    t->Append();
-    t->SetInteger(QStringLiteral("CODIGO"), 7);
-    t->Post();
     TDMEmail dm;
-    dm.AsignaInteresados(std::move(t));
+    dm.AsignaInteresados(tabla(u"OTRA.DBF"_s, {{u"CODIGO"_s, 'N', 8, 0}}, {7}));
     dm.tbInteresadosCalcFields();
     EXPECT_EQ(dm.CLIENTE(), QString()) << "a table without CODCLIENTE";
 }

@@ -16,19 +16,23 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <iostream>
+
+using namespace Qt::StringLiterals;
 
 namespace nod {
 namespace {
 
+using prueba::Dialogos;
 using prueba::RespuestaHttp;
 
 const QByteArray kRuta = "/modules/Programas/NODRIM/Actualizaciones/Download/08tecnico01/";
 
-RespuestaHttp fichero(const QByteArray& contenido, const QByteArray& tipo = "application/octet-stream") {
+RespuestaHttp fichero(const QByteArray& contenido, const QByteArray& tipo = "application/octet-stream",
+                      int estado = 200) {
     RespuestaHttp r;
     r.cuerpo = contenido;
     r.tipo = tipo;
+    r.estado = estado;
     return r;
 }
 
@@ -37,40 +41,22 @@ QByteArray lee(const QString& ruta) {
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
 }
 
-void escribe(const QString& ruta, const QByteArray& contenido) {
-    prueba::EscribeFichero(ruta, contenido);
-}
+using prueba::EscribeFichero;
 
-// Dialogs as "kind|title|text".
-QStringList vistos(const ServicioMensajesGuionado& g) {
-    QStringList r;
-    for (const DialogoMostrado& d : g.mostrados())
-        r.append(d.kind + u'|' + d.title + u'|' + d.text);
-    return r;
-}
-
-QStringList textos(std::initializer_list<const char*> l) {
-    QStringList r;
-    for (const char* t : l)
-        r.append(QString::fromUtf8(t));
-    return r;
-}
-
-const QStringList kLibrerias = textos({"PasarelaWebCGN.dll", "Base64.dll", "CGZipLibrary.dll", "msxml4.dll",
-                                       "msxml4a.dll", "msxml4r.dll", "Unzip32.dll", "zip32.dll"});
+const QStringList kLibrerias = u"PasarelaWebCGN.dll Base64.dll CGZipLibrary.dll msxml4.dll "
+                               "msxml4a.dll msxml4r.dll Unzip32.dll zip32.dll"_s.split(u' ');
 const QStringList kConfiguracion =
-    textos({"conf/cgn_config.xml", "conf/cgn_config.xsd", "xsd_forms/common.xsd"});
-const QStringList kEnviosUnicos = textos({"templates/acta_1.7.xml", "templates/parte_1.7.xml",
-                                          "xsd/ACTA_NOTARIO-1.7dll.xsd", "xsd/PARTE_NOTARIO-1.7dll.xsd"});
+    u"conf/cgn_config.xml conf/cgn_config.xsd xsd_forms/common.xsd"_s.split(u' ');
+const QStringList kEnviosUnicos = u"templates/acta_1.7.xml templates/parte_1.7.xml "
+                                  "xsd/ACTA_NOTARIO-1.7dll.xsd xsd/PARTE_NOTARIO-1.7dll.xsd"_s.split(u' ');
 
-const QString kPreguntaFicheros = QStringLiteral("Mensaje_SiNo|Alguno de los ficheros de la Pasarela Web no "
-                                                 "encontrados|No se han encontrado alguno de los "
-                                                 "ficheros de la Pasarela Web\n¿Descargar los ficheros para "
-                                                 "enviar Partes y Actas? Asegúrese de estar conectado");
-const QString kErrorFicheros =
-    QStringLiteral("Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
-                   "descargar alguno de los ficheros de instalación de la Pasarela Web");
-const QString kEsperaFicheros = QStringLiteral("Descargando ficheros del Portal de Zeb Soft...");
+const QString kPreguntaFicheros = u"Mensaje_SiNo|Alguno de los ficheros de la Pasarela Web no "
+                                  "encontrados|No se han encontrado alguno de los "
+                                  "ficheros de la Pasarela Web\n¿Descargar los ficheros para "
+                                  "enviar Partes y Actas? Asegúrese de estar conectado"_s;
+const QString kErrorFicheros = u"Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
+                               "descargar alguno de los ficheros de instalación de la Pasarela Web"_s;
+const QString kEsperaFicheros = u"Descargando ficheros del Portal de Zeb Soft..."_s;
 
 class PasarelaTest : public ::testing::Test {
 protected:
@@ -78,11 +64,7 @@ protected:
         FijaCarpetaPrograma(programa.path());
         Config.SetPortalFabricante(servidor.base());
         Config.SetEsperaDescargaMs(1000);
-        RespuestaHttp noEsta;
-        noEsta.estado = 404;
-        noEsta.cuerpo = "<html>Not found</html>";
-        noEsta.tipo = "text/html";
-        servidor.respondeCon(noEsta);
+        servidor.respondeCon(fichero("<html>Not found</html>", "text/html", 404));
         for (const QString& f : kEnviosUnicos)
             servidor.respondeEn(kRuta + f.toLatin1(), fichero("contenido de " + f.toLatin1(), "text/xml"));
     }
@@ -92,9 +74,16 @@ protected:
     void instalaTodo(const QStringList& menos = {}) {
         for (const QStringList* grupo : {&kLibrerias, &kConfiguracion, &kEnviosUnicos})
             for (const QString& f : *grupo)
-                if (!menos.contains(f)) escribe(QDir(programa.path()).filePath(f), "x");
+                if (!menos.contains(f)) EscribeFichero(QDir(programa.path()).filePath(f), "x");
     }
     QString base(const QString& relativa) const { return oficina.ruta(relativa); }
+    // Clears the dialogs, queues the clerk's answers and runs `f`; gives the dialogs it showed.
+    template <class F> QStringList tras(std::deque<int> respuestas, F f) {
+        guion.limpia();
+        guion.respuestas(std::move(respuestas));
+        f();
+        return Dialogos(guion);
+    }
 
     prueba::OficinaPrueba oficina;
     QTemporaryDir programa;
@@ -103,34 +92,27 @@ protected:
     ServicioMensajesInstalado instalado{guion};
 };
 
-TEST_F(PasarelaTest, EverythingPresentIsTrueWithoutAWord) {
-    instalaTodo();
-    EXPECT_TRUE(CompruebaFicherosPasarela());
-    EXPECT_TRUE(guion.mostrados().isEmpty());
-    EXPECT_TRUE(servidor.peticiones().isEmpty());
-}
-
-// Any library or configuration entry missing gives false silently, even with the single-sending files
-// missing too: nothing is offered for download.
-TEST_F(PasarelaTest, AMissingLibraryOrConfigurationEntryFailsSilently) {
-    QStringList entradas = kLibrerias + kConfiguracion;
-    entradas << QStringLiteral("conf") << QStringLiteral("xsd_forms");
-    for (const QString& falta : entradas) {
+// Everything present is true. Any library or configuration entry missing, or a folder where a file should
+// be, gives false, even with the single-sending files missing too. Either way silently: nothing is offered
+// for download.
+TEST_F(PasarelaTest, LibrariesAndConfigurationAreCheckedSilently) {
+    QStringList faltas = kLibrerias + kConfiguracion;
+    faltas << u"conf"_s << u"xsd_forms"_s << QString();
+    for (const QString& falta : faltas) {
         QTemporaryDir otro;
         FijaCarpetaPrograma(otro.path());
-        for (const QStringList* grupo : {&kLibrerias, &kConfiguracion})
+        for (const QStringList* grupo : {&kLibrerias, &kConfiguracion, &kEnviosUnicos})
             for (const QString& f : *grupo)
-                if (f != falta && !f.startsWith(falta + u'/')) escribe(QDir(otro.path()).filePath(f), "x");
-        EXPECT_FALSE(CompruebaFicherosPasarela()) << falta.toStdString();
+                if (falta.isEmpty() || (grupo != &kEnviosUnicos && f != falta && !f.startsWith(falta + u'/')))
+                    EscribeFichero(QDir(otro.path()).filePath(f), "x");
+        EXPECT_EQ(CompruebaFicherosPasarela(), falta.isEmpty()) << falta.toStdString();
     }
+    instalaTodo({u"Base64.dll"_s});
+    QDir(programa.path()).mkdir(u"Base64.dll"_s);
+    FijaCarpetaPrograma(programa.path());
+    EXPECT_FALSE(CompruebaFicherosPasarela()) << "a folder in place of a file";
     EXPECT_TRUE(guion.mostrados().isEmpty());
     EXPECT_TRUE(servidor.peticiones().isEmpty());
-}
-
-TEST_F(PasarelaTest, AFolderWhereAFileShouldBeDoesNotCount) {
-    instalaTodo({QStringLiteral("Base64.dll")});
-    QDir(programa.path()).mkdir(QStringLiteral("Base64.dll"));
-    EXPECT_FALSE(CompruebaFicherosPasarela());
 }
 
 TEST_F(PasarelaTest, MissingSingleSendingFilesAreDownloadedIntoTheBaseFolder) {
@@ -148,15 +130,13 @@ TEST_F(PasarelaTest, MissingSingleSendingFilesAreDownloadedIntoTheBaseFolder) {
         EXPECT_EQ(lee(base(f)), "contenido de " + f.toLatin1()) << f.toStdString();
     EXPECT_FALSE(QFileInfo::exists(QDir(programa.path()).filePath(kEnviosUnicos[2])))
         << "downloads go to the base folder, not the program folder";
-    const QStringList d = vistos(guion);
+    const QStringList d = Dialogos(guion);
     ASSERT_GE(d.size(), 7);
     EXPECT_EQ(d[0], kPreguntaFicheros);
-    EXPECT_EQ(d[1], QStringLiteral("MuestraMensaje||") + kEsperaFicheros);
-    EXPECT_EQ(d[2], QStringLiteral("CambiaMensaje||") + kEsperaFicheros);
-    EXPECT_EQ(d[3], QStringLiteral("CambiaMensaje||") + kEsperaFicheros +
-                        QStringLiteral("\ntemplates\\acta_1.7.xml"));
-    EXPECT_EQ(d.last(), QStringLiteral("CambiaMensaje||") + kEsperaFicheros +
-                            QStringLiteral("\nxsd\\PARTE_NOTARIO-1.7dll.xsd"));
+    EXPECT_EQ(d[1], u"MuestraMensaje||"_s + kEsperaFicheros);
+    EXPECT_EQ(d[2], u"CambiaMensaje||"_s + kEsperaFicheros);
+    EXPECT_EQ(d[3], u"CambiaMensaje||"_s + kEsperaFicheros + u"\ntemplates\\acta_1.7.xml"_s);
+    EXPECT_EQ(d.last(), u"CambiaMensaje||"_s + kEsperaFicheros + u"\nxsd\\PARTE_NOTARIO-1.7dll.xsd"_s);
     EXPECT_FALSE(guion.esperaVisible());
 }
 
@@ -174,8 +154,7 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
         fichero("<!DOCTYPE html><html><body>Inicie sesión</body></html>", "text/html; charset=utf-8");
     RespuestaHttp htmlSinTipo =
         fichero("\xef\xbb\xbf  <HTML><body>Acceso</body></HTML>", "application/octet-stream");
-    RespuestaHttp noEsta = fichero("no", "text/plain");
-    noEsta.estado = 404;
+    const RespuestaHttp noEsta = fichero("no", "text/plain", 404);
     RespuestaHttp cortada = fichero(QByteArray(64 * 1024, 'x'), "text/xml");
     cortada.corta = true;
     const Caso casos[] = {
@@ -192,9 +171,7 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
         prueba::ServidorHttp portal;
         Config.SetPortalFabricante(portal.base());
         Config.SetEsperaDescargaMs(500);
-        RespuestaHttp por404;
-        por404.estado = 404;
-        portal.respondeCon(por404);
+        portal.respondeCon(QByteArray(), 404);
         for (qsizetype i = 0; i < kEnviosUnicos.size(); ++i)
             portal.respondeEn(kRuta + kEnviosUnicos[i].toLatin1(),
                               i == c.falla ? c.respuesta : fichero("bien " + kEnviosUnicos[i].toLatin1()));
@@ -203,14 +180,14 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
         guion.respuestas(c.respuestas);
 
         EXPECT_FALSE(CompruebaFicherosPasarelaParaEnviosUnicos()) << c.nombre;
-        EXPECT_EQ(vistos(guion).last(), kErrorFicheros) << c.nombre;
+        EXPECT_EQ(Dialogos(guion).last(), kErrorFicheros) << c.nombre;
         EXPECT_EQ(portal.peticiones().size(), c.falla + 1) << c.nombre;
         QStringList esperado;
         for (int i = 0; i < c.falla; ++i)
             esperado.append(kEnviosUnicos[i]);
         QStringList hay;
         const QDir raiz(propia.ruta());
-        for (const QString& carpeta : {QStringLiteral("templates"), QStringLiteral("xsd")})
+        for (const QString& carpeta : {u"templates"_s, u"xsd"_s})
             for (const QString& f :
                  QDir(raiz.filePath(carpeta)).entryList(QDir::Files | QDir::Hidden | QDir::System))
                 hay.append(carpeta + u'/' + f);
@@ -222,44 +199,39 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
 }
 
 TEST_F(PasarelaTest, SetUpProgramIsFetchedAfreshEveryTime) {
-    const QString setup = base(QStringLiteral("PasarelaSetup.exe"));
-    const QString pregunta = QStringLiteral(
-        "Mensaje_SiNo|Ficheros de la Pasarela Web no encontrados|No se han encontrado los ficheros de la "
-        "Pasarela "
-        "Web\n¿Desea descargar ahora el fichero de Instalación? Asegúrese de que está conectado");
-    const QString error = QStringLiteral("Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
-                                         "descargar el fichero de instalación de la Pasarela Web");
+    const QString setup = base(u"PasarelaSetup.exe"_s);
+    const QString pregunta =
+        u"Mensaje_SiNo|Ficheros de la Pasarela Web no encontrados|No se han encontrado los ficheros de la "
+        "Pasarela Web\n¿Desea descargar ahora el fichero de Instalación? Asegúrese de que está conectado"_s;
+    const QString error = u"Mensaje_Error|Fichero de instalación no descargado|No se ha podido "
+                          "descargar el fichero de instalación de la Pasarela Web"_s;
     servidor.respondeEn(kRuta + "PasarelaSetup.exe", fichero("MZ nuevo"));
 
-    escribe(setup, "MZ viejo");
+    EscribeFichero(setup, "MZ viejo");
     guion.respuestas({6});
     EXPECT_TRUE(DescargaFicherosPasarela());
     EXPECT_EQ(lee(setup), "MZ nuevo");
     ASSERT_EQ(servidor.peticiones().size(), 1);
     EXPECT_EQ(servidor.peticiones()[0].ruta, kRuta + "PasarelaSetup.exe");
-    EXPECT_EQ(vistos(guion).value(0), pregunta);
-    EXPECT_EQ(vistos(guion).value(1),
-              QStringLiteral("MuestraMensaje||Descargando fichero del Portal de Zeb Soft..."));
-    EXPECT_FALSE(vistos(guion).contains(error));
+    EXPECT_EQ(Dialogos(guion).value(0), pregunta);
+    EXPECT_EQ(Dialogos(guion).value(1), u"MuestraMensaje||Descargando fichero del Portal de Zeb Soft..."_s);
+    EXPECT_FALSE(Dialogos(guion).contains(error));
 
-    guion.limpia();
-    guion.respuestas({7});
-    EXPECT_FALSE(DescargaFicherosPasarela());
-    EXPECT_EQ(vistos(guion), QStringList({pregunta, error}));
+    bool bien = true;
+    EXPECT_EQ(tras({7}, [&] { bien = DescargaFicherosPasarela(); }), QStringList({pregunta, error}));
+    EXPECT_FALSE(bien);
     EXPECT_FALSE(QFileInfo::exists(setup)) << "the old program was deleted before asking";
 
-    guion.limpia();
-    guion.respuestas({6});
     servidor.respondeEn(kRuta + "PasarelaSetup.exe", fichero("MZ", "text/html"));
-    EXPECT_FALSE(DescargaFicherosPasarela());
-    EXPECT_EQ(vistos(guion).last(), error);
+    EXPECT_EQ(tras({6}, [&] { bien = DescargaFicherosPasarela(); }).last(), error);
+    EXPECT_FALSE(bien);
     EXPECT_FALSE(QFileInfo::exists(setup));
 }
 
 // A set-up "program" that is a folder with something in it cannot be deleted (by root either): kept, and
 // nothing is asked.
 TEST_F(PasarelaTest, SetUpProgramThatCannotBeDeletedIsKept) {
-    escribe(base(QStringLiteral("PasarelaSetup.exe/dentro")), "x");
+    EscribeFichero(base(u"PasarelaSetup.exe/dentro"_s), "x");
     EXPECT_TRUE(DescargaFicherosPasarela());
     EXPECT_TRUE(guion.mostrados().isEmpty());
     EXPECT_TRUE(servidor.peticiones().isEmpty());
@@ -272,94 +244,52 @@ TEST_F(PasarelaTest, InstalaPasarelaStartsTheSetUpOnlyWhenPresentAndWanted) {
         lanzados.append(p);
         return arranca;
     });
-    const QString setup = base(QStringLiteral("PasarelaSetup.exe"));
-    const QString pregunta =
-        QStringLiteral("Mensaje_SiNo|Pasarela Web no instalada|No tiene instalada la Pasarela "
-                       "Web\n¿Desea instalar la Pasarela Web?");
+    const QString setup = base(u"PasarelaSetup.exe"_s);
+    const QString pregunta = u"Mensaje_SiNo|Pasarela Web no instalada|No tiene instalada la Pasarela "
+                             "Web\n¿Desea instalar la Pasarela Web?"_s;
 
-    InstalaPasarela();
-    EXPECT_EQ(vistos(guion),
-              QStringList{QStringLiteral("Mensaje_Error|Fichero de instalación no encontrado|No se ha "
-                                         "encontrado el fichero de instalación de la Pasarela Web")});
-    escribe(setup, "MZ");
-    guion.limpia();
-    guion.respuestas({7});
-    InstalaPasarela();
-    EXPECT_EQ(vistos(guion), QStringList{pregunta});
+    EXPECT_EQ(tras({}, InstalaPasarela),
+              QStringList{u"Mensaje_Error|Fichero de instalación no encontrado|No se ha "
+                          "encontrado el fichero de instalación de la Pasarela Web"_s});
+    EscribeFichero(setup, "MZ");
+    EXPECT_EQ(tras({7}, InstalaPasarela), QStringList{pregunta});
     EXPECT_TRUE(lanzados.isEmpty());
-
-    guion.limpia();
-    guion.respuestas({6});
-    InstalaPasarela();
-    EXPECT_EQ(vistos(guion), QStringList{pregunta});
+    EXPECT_EQ(tras({6}, InstalaPasarela), QStringList{pregunta});
     EXPECT_EQ(lanzados, QStringList{setup});
-
     arranca = false;
-    guion.limpia();
-    guion.respuestas({6});
-    InstalaPasarela();
-    EXPECT_TRUE(vistos(guion).last().startsWith(QStringLiteral("Mensaje_Error|Pasarela Web no instalada|")));
+    EXPECT_TRUE(tras({6}, InstalaPasarela).last().startsWith(u"Mensaje_Error|Pasarela Web no instalada|"_s));
     FijaLanzadorPrograma(nullptr);
 }
 
 TEST_F(PasarelaTest, GatewayIniIsWrittenOnceAndNeverOverwritten) {
-    const QString ruta = oficina.ruta(QStringLiteral("C/PasarelaWeb.ini"));
+    const QString ruta = oficina.ruta(u"C/PasarelaWeb.ini"_s);
     EXPECT_EQ(CompruebaPasarelaWebIni(), ruta);
     EXPECT_EQ(lee(ruta), "[Parameters]\r\nNIVEL_LOG=2\r\nFICHERO_LOG=C:\\PasarelaWeb.log\r\n"
                          "PROXY_SERVER=<CURRENT_USER>\r\nCONNECTOR_TIMEOUT=120000\r\n");
-    escribe(ruta, "[Parameters]\r\nNIVEL_LOG=5\r\n");
+    EscribeFichero(ruta, "[Parameters]\r\nNIVEL_LOG=5\r\n");
     EXPECT_EQ(CompruebaPasarelaWebIni(), ruta);
     EXPECT_EQ(lee(ruta), "[Parameters]\r\nNIVEL_LOG=5\r\n");
     EXPECT_TRUE(guion.mostrados().isEmpty());
 }
 
-// A drive-root folder that cannot take the file: read-only (not for root, who writes anyway), a file
-// standing where the folder should be, or a folder of the kernel's that refuses even root.
+// A drive-root folder that cannot take the file: a file standing where the folder should be, or a folder of
+// the kernel's that refuses even root (as a read-only folder refuses anyone else).
 TEST_F(PasarelaTest, GatewayIniThatCannotBeWrittenIsReported) {
-    struct Caso {
-        const char* nombre;
-        std::function<bool(const QString& raiz)> prepara; // false: skip
-    };
-    const Caso casos[] = {
-        {"read-only folder",
-         [](const QString& raiz) {
-             QDir().mkpath(raiz);
-             QFile::setPermissions(raiz, QFile::ReadOwner | QFile::ExeOwner);
-             QFile prueba(raiz + QStringLiteral("/sonda"));
-             if (prueba.open(QIODevice::WriteOnly)) { // root: permissions do not bind
-                 prueba.remove();
-                 return false;
-             }
-             return true;
-         }},
-        {"a file in place of the folder",
-         [](const QString& raiz) {
-             QFile f(raiz);
-             return f.open(QIODevice::WriteOnly) && f.write("x") == 1;
-         }},
-        {"a folder not even root may write (the kernel's /sys)",
-         [](const QString&) {
-             Config.SetUnidadC(QStringLiteral("/sys"));
-             return QFileInfo(QStringLiteral("/sys")).isDir();
-         }},
-    };
-    for (const Caso& c : casos) {
+    for (const bool sys : {false, true}) {
+        SCOPED_TRACE(sys ? "the kernel's /sys" : "a file in place of the folder");
         prueba::OficinaPrueba propia;
         guion.limpia();
-        const QString raiz = propia.ruta(QStringLiteral("C"));
-        if (!c.prepara(raiz)) {
-            std::cout << "[ skipped  ] " << c.nombre << ": running as root\n";
-            continue;
-        }
-        const QString ini = Config.RutaUnidadC(QStringLiteral("C:\\PasarelaWeb.ini"));
-        EXPECT_EQ(CompruebaPasarelaWebIni(), ini) << c.nombre;
-        QFile::setPermissions(raiz, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        ASSERT_EQ(guion.mostrados().size(), 1) << c.nombre;
-        EXPECT_EQ(guion.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
+        if (sys)
+            Config.SetUnidadC(u"/sys"_s);
+        else
+            EscribeFichero(propia.ruta(u"C"_s), "x");
+        const QString ini = Config.RutaUnidadC(u"C:\\PasarelaWeb.ini"_s);
+        EXPECT_EQ(CompruebaPasarelaWebIni(), ini);
+        ASSERT_EQ(guion.mostrados().size(), 1);
+        EXPECT_EQ(guion.mostrados()[0].kind, u"Mensaje_Error"_s);
         EXPECT_TRUE(guion.mostrados()[0].text.startsWith(
-            QStringLiteral("No se ha podido crear el fichero de configuración de la Pasarela Web")))
-            << c.nombre;
-        EXPECT_FALSE(QFileInfo(ini).isFile()) << c.nombre;
+            u"No se ha podido crear el fichero de configuración de la Pasarela Web"_s));
+        EXPECT_FALSE(QFileInfo(ini).isFile());
     }
 }
 
@@ -389,15 +319,13 @@ TEST(PuedeActualizarEsteEquipo, TodosOnlyInCapitalsElseTheComputerName) {
     prueba::OficinaPrueba oficina;
     const QString equipo = DameNombreEquipo();
     ASSERT_FALSE(equipo.isEmpty());
-    ASSERT_NE(equipo.toUpper(), QStringLiteral("TODOS"));
+    ASSERT_NE(equipo.toUpper(), u"TODOS"_s);
     const struct {
         QString valor;
         bool puede;
     } casos[] = {
-        {QStringLiteral("TODOS"), true},  {QStringLiteral("todos"), false},
-        {QStringLiteral("Todos"), false}, {QStringLiteral(" TODOS"), false},
-        {equipo.toLower(), true},         {equipo.toUpper(), true},
-        {equipo + u'x', false},           {{}, false},
+        {u"TODOS"_s, true},       {u"todos"_s, false},      {u"Todos"_s, false},    {u" TODOS"_s, false},
+        {equipo.toLower(), true}, {equipo.toUpper(), true}, {equipo + u'x', false}, {{}, false},
     };
     for (const auto& c : casos) {
         Config.SetUsuarioParaActualizar(c.valor);
@@ -408,7 +336,7 @@ TEST(PuedeActualizarEsteEquipo, TodosOnlyInCapitalsElseTheComputerName) {
 class ConexionTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        Config.SetWebFabricante(servidor.base() + QStringLiteral("/"));
+        Config.SetWebFabricante(servidor.base() + u"/"_s);
         Config.SetEsperaConexionMs(500);
         FijaEstadoConexion([this] { return sistema; });
     }
@@ -419,18 +347,6 @@ protected:
     bool sistema = true;
 };
 
-TEST_F(ConexionTest, AsksTheSiteFromTheNetworkWithTheSuitesAgent) {
-    servidor.respondeCon(fichero(QByteArray(200000, 'x'), "text/html"));
-    EXPECT_TRUE(TieneConexionAInternet());
-    ASSERT_EQ(servidor.peticiones().size(), 1);
-    const prueba::PeticionHttp& p = servidor.peticiones()[0];
-    EXPECT_EQ(p.metodo, "GET");
-    EXPECT_EQ(p.ruta, "/");
-    EXPECT_EQ(p.cabeceras.value("user-agent"), "InetURL:/1.0");
-    EXPECT_EQ(p.cabeceras.value("cache-control"), "no-cache");
-    EXPECT_EQ(p.cabeceras.value("pragma"), "no-cache");
-}
-
 TEST_F(ConexionTest, ReachingTheSiteIsWhatCounts) {
     struct Caso {
         const char* nombre;
@@ -439,17 +355,16 @@ TEST_F(ConexionTest, ReachingTheSiteIsWhatCounts) {
         int peticiones;
     };
     const Caso casos[] = {
+        {"a large page", [this] { servidor.respondeCon(fichero(QByteArray(200000, 'x'), "text/html")); },
+         true, 1},
         {"any answer, even an error page", [this] { servidor.respondeCon("no", 404); }, true, 1},
         {"system reports no network", [this] { sistema = false; }, false, 0},
         {"nobody listening",
-         [] {
-             Config.SetWebFabricante(
-                 QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado()));
-         },
+         [] { Config.SetWebFabricante(u"http://127.0.0.1:%1"_s.arg(prueba::ServidorHttp::puertoCerrado())); },
          false, 0},
         {"connection closed unanswered", [this] { servidor.cierra(); }, false, -1},
         {"no answer in time", [this] { servidor.calla(); }, false, 1},
-        {"not an address", [] { Config.SetWebFabricante(QStringLiteral("zebsoft")); }, false, 0},
+        {"not an address", [] { Config.SetWebFabricante(u"zebsoft"_s); }, false, 0},
     };
     for (const Caso& c : casos) {
         SetUp();
@@ -461,22 +376,30 @@ TEST_F(ConexionTest, ReachingTheSiteIsWhatCounts) {
             EXPECT_EQ(servidor.peticiones().size() - antes, c.peticiones) << c.nombre;
         }
     }
+    // The site is asked from the network, never from a cache, with the suite's agent.
+    ASSERT_FALSE(servidor.peticiones().isEmpty());
+    const prueba::PeticionHttp& p = servidor.peticiones()[0];
+    EXPECT_EQ(p.metodo, "GET");
+    EXPECT_EQ(p.ruta, "/");
+    EXPECT_EQ(p.cabeceras.value("user-agent"), "InetURL:/1.0");
+    EXPECT_EQ(p.cabeceras.value("cache-control"), "no-cache");
+    EXPECT_EQ(p.cabeceras.value("pragma"), "no-cache");
 }
 
-TEST(DescargarFichero, ReportsProgressAndKeepsTheOldFileOnFailure) {
+// A web page is refused where a file is wanted, welcome where a page is.
+TEST(DescargarFichero, ReportsProgressKeepsTheOldFileOnFailureAndTakesPagesOnlyAsPages) {
     prueba::OficinaPrueba oficina;
     Config.SetEsperaDescargaMs(1000);
     prueba::ServidorHttp servidor;
     QTemporaryDir carpeta;
-    const QString destino = QDir(carpeta.path()).filePath(QStringLiteral("datos.bin"));
+    const QString destino = QDir(carpeta.path()).filePath(u"datos.bin"_s);
     const QByteArray contenido(300 * 1024, 'z');
     servidor.respondeEn("/datos.bin", fichero(contenido));
     qint64 ultimo = -1, total = -1;
-    EXPECT_TRUE(
-        DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"), destino, [&](qint64 r, qint64 t) {
-            ultimo = r;
-            total = t;
-        }));
+    EXPECT_TRUE(DescargarFichero(servidor.base() + u"/datos.bin"_s, destino, [&](qint64 r, qint64 t) {
+        ultimo = r;
+        total = t;
+    }));
     EXPECT_EQ(lee(destino), contenido);
     EXPECT_EQ(ultimo, contenido.size());
     EXPECT_EQ(total, contenido.size());
@@ -484,25 +407,19 @@ TEST(DescargarFichero, ReportsProgressAndKeepsTheOldFileOnFailure) {
     RespuestaHttp cortada = fichero(QByteArray(300 * 1024, 'n'));
     cortada.corta = true;
     servidor.respondeEn("/datos.bin", cortada);
-    EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"), destino));
+    EXPECT_FALSE(DescargarFichero(servidor.base() + u"/datos.bin"_s, destino));
     EXPECT_EQ(lee(destino), contenido) << "the old file stays whole";
-    EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden),
-              QStringList{QStringLiteral("datos.bin")});
+    EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"datos.bin"_s});
 
-    EXPECT_FALSE(DescargarFichero(QStringLiteral("ftp://127.0.0.1/datos.bin"), destino));
-    EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/datos.bin"),
-                                  QDir(carpeta.path()).filePath(QStringLiteral("no/existe/datos.bin"))));
-}
+    EXPECT_FALSE(DescargarFichero(u"ftp://127.0.0.1/datos.bin"_s, destino));
+    EXPECT_FALSE(DescargarFichero(servidor.base() + u"/datos.bin"_s,
+                                  QDir(carpeta.path()).filePath(u"no/existe/datos.bin"_s)));
 
-TEST(DescargarFichero, AWebPageIsWelcomeWhenAPageIsWanted) {
-    prueba::OficinaPrueba oficina;
-    prueba::ServidorHttp servidor;
-    QTemporaryDir carpeta;
     servidor.respondeCon(fichero("<html>hola</html>", "text/html"));
-    EXPECT_TRUE(DescargarFichero(servidor.base() + QStringLiteral("/ayuda.html"),
-                                 QDir(carpeta.path()).filePath(QStringLiteral("ayuda.html"))));
-    EXPECT_FALSE(DescargarFichero(servidor.base() + QStringLiteral("/ayuda.html"),
-                                  QDir(carpeta.path()).filePath(QStringLiteral("ayuda.xml"))));
+    EXPECT_TRUE(
+        DescargarFichero(servidor.base() + u"/ayuda.html"_s, QDir(carpeta.path()).filePath(u"ayuda.html"_s)));
+    EXPECT_FALSE(
+        DescargarFichero(servidor.base() + u"/ayuda.html"_s, QDir(carpeta.path()).filePath(u"ayuda.xml"_s)));
 }
 
 } // namespace

@@ -15,13 +15,10 @@ TEST(CodePage, EveryByteRoundTripsInEveryPage) {
     }
 }
 
-TEST(CodePage, Windows1252IsNotLatin1) {
+TEST(CodePage, Windows1252IsNotLatin1AndCharactersOutsideThePageAreAnErrorNotAQuestionMark) {
     EXPECT_EQ(Decodifica("\x80"), QStringLiteral("€"));
     EXPECT_EQ(Decodifica("\xD1\xC7\xB7"), QStringLiteral("ÑÇ·"));
     EXPECT_EQ(Decodifica("\xA5", CodePage::Cp850), QStringLiteral("Ñ"));
-}
-
-TEST(CodePage, CharactersOutsideThePageAreAnErrorNotAQuestionMark) {
     qsizetype fallo = -1;
     EXPECT_FALSE(Codifica(u"Ab\u4E2D", CodePage::Windows1252, &fallo).has_value());
     EXPECT_EQ(fallo, 2);

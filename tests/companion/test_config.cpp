@@ -36,14 +36,11 @@ TEST(Config, MalformedLinesAreSkippedWithFileAndLine) {
     const QString avisos = Config.Avisos().join(QLatin1Char('\n'));
     EXPECT_TRUE(avisos.contains(QStringLiteral("CONFIG.INI:3:"))) << avisos.toStdString();
     EXPECT_TRUE(avisos.contains(QStringLiteral("NumeroNotarios=tres"))) << avisos.toStdString();
-}
 
-TEST(Config, WarningsAreCappedPerFile) {
-    QString basura = QStringLiteral("[GENERAL]\n");
-    for (int i = 0; i < 50; ++i)
-        basura += QStringLiteral("junk\n");
-    OficinaPrueba o(basura);
-    EXPECT_EQ(Config.Avisos().size(), IniFile::kMaxAvisos + 1);
+    o.escribe(QStringLiteral("CONFIG/CONFIG.INI"),
+              QStringLiteral("[GENERAL]\n") + QStringLiteral("junk\n").repeated(50));
+    o.recarga();
+    EXPECT_EQ(Config.Avisos().size(), IniFile::kMaxAvisos + 1) << "warnings are capped per file";
     EXPECT_TRUE(Config.Avisos().last().contains(QStringLiteral("40")));
 }
 

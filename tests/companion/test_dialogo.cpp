@@ -18,6 +18,7 @@
 #include <QTextEdit>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
@@ -71,55 +72,45 @@ TEST(ConvencionesDialogo, EnterMovesTheFocusFromEveryControlAndNeverAccepts) {
     EXPECT_FALSE(f.aceptar->isDefault()) << "no button is drawn as the one Enter presses";
     QTest::keyClick(f.aceptar, Qt::Key_Space);
     EXPECT_EQ(f.aceptados, 1) << "Space still presses a button";
+
+    Formulario sin({}, false); // without the conventions Qt accepts on Enter: the check above is not empty
+    sin.muestra();
+    sin.uno->setFocus();
+    QTest::keyClick(sin.uno, Qt::Key_Return);
+    EXPECT_EQ(sin.aceptados, 1);
 }
 
-// Without the conventions the same form accepts on Enter: the check above is not empty.
-TEST(ConvencionesDialogo, WithoutThemQtAcceptsOnEnter) {
-    Formulario f({}, false);
-    f.muestra();
-    f.uno->setFocus();
-    QTest::keyClick(f.uno, Qt::Key_Return);
-    EXPECT_EQ(f.aceptados, 1);
-}
-
-TEST(ConvencionesDialogo, EscapeCloseButtonAndRejectGiveTheCancelResult) {
+TEST(ConvencionesDialogo, EscapeCloseButtonAndRejectGiveTheCancelResultUnlessTheWindowCannotBeCancelled) {
     struct PropioReject : Formulario {
         void reject() override { done(7); }
     };
-    const struct {
-        const char* caso;
-        int resultadoEscape;
-        bool propio;
-        int como; // 0 Escape, 1 close button, 2 "&Cancelar", 3 reject()
-        int esperado;
-    } casos[] = {{"Escape", 2, false, 0, 2},
-                 {"close button", 2, false, 1, 2},
-                 {"Cancelar of a button box", 2, false, 2, 2},
-                 {"reject()", 2, false, 3, 2},
-                 {"another result", 6, false, 0, 6},
-                 {"the dialog's own reject()", 2, true, 0, 7}};
-    for (const auto& c : casos) {
+    // como: 0 Escape, 1 close button, 2 "&Cancelar", 3 reject()
+    const std::tuple<const char*, int, bool, int, int> casos[] = {
+        {"Escape", 2, false, 0, 2},
+        {"close button", 2, false, 1, 2},
+        {"Cancelar of a button box", 2, false, 2, 2},
+        {"reject()", 2, false, 3, 2},
+        {"another result", 6, false, 0, 6},
+        {"the dialog's own reject()", 2, true, 0, 7}};
+    for (const auto& [caso, resultadoEscape, propio, como, esperado] : casos) {
         OpcionesDialogo o;
-        o.resultadoEscape = c.resultadoEscape;
+        o.resultadoEscape = resultadoEscape;
         std::unique_ptr<Formulario> f =
-            c.propio ? std::make_unique<PropioReject>() : std::make_unique<Formulario>();
+            propio ? std::make_unique<PropioReject>() : std::make_unique<Formulario>();
         AplicaConvencionesDialogo(f.get(), o);
         prueba::AlAbrirseModal([&](QWidget* w) {
-            if (c.como == 0)
+            if (como == 0)
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-            else if (c.como == 1)
+            else if (como == 1)
                 w->close();
-            else if (c.como == 2)
+            else if (como == 2)
                 QTest::mouseClick(f->cancelar, Qt::LeftButton);
             else
                 f->reject();
         });
-        EXPECT_EQ(f->exec(), c.esperado) << c.caso;
-        EXPECT_EQ(f->result(), c.esperado) << c.caso;
+        EXPECT_EQ(f->exec(), esperado) << caso;
+        EXPECT_EQ(f->result(), esperado) << caso;
     }
-}
-
-TEST(ConvencionesDialogo, AWindowThatCannotBeCancelledIgnoresEscapeAndTheCloseButton) {
     OpcionesDialogo o;
     o.escapeCierra = false;
     Formulario f(o);
@@ -129,14 +120,18 @@ TEST(ConvencionesDialogo, AWindowThatCannotBeCancelledIgnoresEscapeAndTheCloseBu
     EXPECT_TRUE(f.isVisible());
 }
 
-TEST(ConvencionesDialogo, DefaultButtonRule) {
+TEST(ConvencionesDialogo, DefaultButtonRuleAndPlainLettersOnButtons) {
     OpcionesDialogo o;
     o.enter = ReglaEnter::BotonPorDefecto;
+    o.letrasPulsanBotones = true;
     Formulario f(o);
     QSignalSpy cancelado(f.cancelar, &QPushButton::clicked);
     f.aceptar->setDefault(true);
     f.muestra();
     f.uno->setFocus();
+    QTest::keyClick(f.uno, Qt::Key_C);
+    EXPECT_EQ(f.uno->text(), QStringLiteral("c")) << "in a field a letter is a letter";
+    EXPECT_EQ(cancelado.size(), 0);
     QTest::keyClick(f.uno, Qt::Key_Return);
     EXPECT_EQ(f.aceptados, 1) << "Enter in a field presses the default button";
     f.muestra();
@@ -145,6 +140,12 @@ TEST(ConvencionesDialogo, DefaultButtonRule) {
     EXPECT_EQ(cancelado.size(), 1) << "Enter on a button presses that button";
     EXPECT_EQ(f.aceptados, 1);
     f.muestra();
+    f.aceptar->setFocus();
+    QTest::keyClick(f.aceptar, Qt::Key_X);
+    EXPECT_TRUE(f.isVisible()) << "a letter of no button does nothing";
+    QTest::keyClick(f.aceptar, Qt::Key_C);
+    EXPECT_EQ(cancelado.size(), 2) << "a plain letter presses its button when the focus sits on one";
+    f.muestra();
     f.aceptar->setDefault(false);
     f.aceptar->hide();
     f.uno->setFocus();
@@ -152,34 +153,24 @@ TEST(ConvencionesDialogo, DefaultButtonRule) {
     EXPECT_EQ(QApplication::focusWidget(), f.dos) << "with no default button shown Enter moves on";
 }
 
-TEST(ConvencionesDialogo, PlainLettersPressButtonsWhenTheFocusSitsOnOne) {
-    OpcionesDialogo o;
-    o.letrasPulsanBotones = true;
-    Formulario f(o);
-    f.muestra();
-    QSignalSpy cancelado(f.cancelar, &QPushButton::clicked);
-    f.uno->setFocus();
-    QTest::keyClick(f.uno, Qt::Key_C);
-    EXPECT_EQ(f.uno->text(), QStringLiteral("c")) << "in a field a letter is a letter";
-    EXPECT_EQ(cancelado.size(), 0);
-    f.aceptar->setFocus();
-    QTest::keyClick(f.aceptar, Qt::Key_X);
-    EXPECT_TRUE(f.isVisible()) << "a letter of no button does nothing";
-    QTest::keyClick(f.aceptar, Qt::Key_C);
-    EXPECT_EQ(cancelado.size(), 1);
-}
-
-TEST(ConvencionesDialogo, LabelsArePlainTextAndEnterIsLeftToAMultiLineEdit) {
+// Controls added after the conventions were applied follow them too.
+TEST(ConvencionesDialogo, LabelsArePlainTextEnterIsLeftToAMultiLineEditAndTheFocusIsMarked) {
     Formulario f;
+    auto* barra = new QStatusBar(&f);
+    f.layout()->addWidget(barra);
+    f.dos->setToolTip(QStringLiteral("El segundo"));
+    OpcionesDialogo o;
+    o.marcaFoco = MarcaFoco::Campos;
+    o.barraAyuda = barra;
+    AplicaConvencionesDialogo(&f, o);
     auto* memo = new QTextEdit(&f);
     auto* ayuda = new QTextEdit(&f);
+    auto* tarde = new QLabel(&f);
+    for (QWidget* w : std::initializer_list<QWidget*>{memo, ayuda, tarde})
+        f.layout()->addWidget(w);
     ayuda->setReadOnly(true);
     ayuda->setFocusPolicy(Qt::ClickFocus);
     memo->setToolTip(QStringLiteral("Observaciones"));
-    f.layout()->addWidget(memo);
-    f.layout()->addWidget(ayuda);
-    auto* tarde = new QLabel(&f);
-    f.layout()->addWidget(tarde);
     f.nota->setText(QStringLiteral("<b>Pérez & Cía</b>"));
     tarde->setText(QStringLiteral("<i>añadida después</i>"));
     f.muestra();
@@ -192,18 +183,7 @@ TEST(ConvencionesDialogo, LabelsArePlainTextAndEnterIsLeftToAMultiLineEdit) {
     EXPECT_TRUE(ayuda->focusPolicy() & Qt::TabFocus) << "a read-only text is reached with Tab";
     EXPECT_EQ(memo->accessibleName(), QStringLiteral("Observaciones")) << "a field without label: its hint";
     EXPECT_TRUE(f.uno->accessibleName().isEmpty()) << "a field with a label is named by the label";
-}
 
-TEST(ConvencionesDialogo, FocusMarkAndHintInTheStatusBar) {
-    Formulario f;
-    auto* barra = new QStatusBar(&f);
-    f.layout()->addWidget(barra);
-    f.dos->setToolTip(QStringLiteral("El segundo"));
-    OpcionesDialogo o;
-    o.marcaFoco = MarcaFoco::Campos;
-    o.barraAyuda = barra;
-    AplicaConvencionesDialogo(&f, o);
-    f.muestra();
     f.dos->setFocus();
     EXPECT_TRUE(TieneFocoMarcado(f.dos));
     EXPECT_EQ(barra->currentMessage(), QStringLiteral("El segundo"));
@@ -229,13 +209,10 @@ TEST(ConvencionesDialogo, ShownNextToAScreenEdgeTheWindowStaysInside) {
 }
 
 TEST(ConvencionesDialogo, AcceleratorsAreUniqueAmongVisibleControls) {
-    const struct {
-        const char* texto;
-        QChar letra;
-    } letras[] = {
+    const std::tuple<const char*, QChar> letras[] = {
         {"Cata&stro", u's'}, {"&Ñ", u'ñ'}, {"Pérez && Cía", QChar()}, {"&& &Otro", u'o'}, {"fin&", QChar()}};
-    for (const auto& l : letras)
-        EXPECT_EQ(Acelerador(QString::fromUtf8(l.texto)), l.letra) << l.texto;
+    for (const auto& [texto, letra] : letras)
+        EXPECT_EQ(Acelerador(QString::fromUtf8(texto)), letra) << texto;
 
     Formulario f;
     EXPECT_TRUE(AceleradoresRepetidos(&f).isEmpty());
@@ -259,19 +236,16 @@ TEST(ConvencionesDialogo, ATextTooLongForItsLabelKeepsItsBeginning) {
     QString largo;
     for (int i = 0; largo.size() < 2000; ++i)
         largo += QStringLiteral("palabra%1 ").arg(i);
-    const struct {
-        QString texto;
-        bool cabe;
-    } casos[] = {{QStringLiteral("Corto\r<b>dos</b>"), true},
-                 {largo, false},
-                 {QString(2000, u'x'), false},
-                 {QString(100000, u'y'), false},
-                 {QStringLiteral("uno\ndos\ntres\ncuatro\ncinco"), false}};
-    for (const auto& c : casos) {
-        EXPECT_EQ(PonTextoAjustado(&l, c.texto), c.cabe) << c.texto.left(20).toStdString();
+    const std::tuple<QString, bool> casos[] = {{QStringLiteral("Corto\r<b>dos</b>"), true},
+                                               {largo, false},
+                                               {QString(2000, u'x'), false},
+                                               {QString(100000, u'y'), false},
+                                               {QStringLiteral("uno\ndos\ntres\ncuatro\ncinco"), false}};
+    for (const auto& [texto, cabe] : casos) {
+        EXPECT_EQ(PonTextoAjustado(&l, texto), cabe) << texto.left(20).toStdString();
         EXPECT_EQ(l.textFormat(), Qt::PlainText);
-        EXPECT_TRUE(l.text().startsWith(TextoVisible(c.texto).left(5))) << "the beginning is shown";
-        if (c.cabe) {
+        EXPECT_TRUE(l.text().startsWith(TextoVisible(texto).left(5))) << "the beginning is shown";
+        if (cabe) {
             EXPECT_EQ(l.text(), QStringLiteral("Corto\n<b>dos</b>"));
             EXPECT_EQ(l.alignment(), Qt::AlignLeft | Qt::AlignVCenter);
             EXPECT_TRUE(l.toolTip().isEmpty());
@@ -282,9 +256,9 @@ TEST(ConvencionesDialogo, ATextTooLongForItsLabelKeepsItsBeginning) {
             const QFontMetrics fm(l.font());
             for (const QString& linea : l.text().split(u'\n'))
                 EXPECT_LE(fm.horizontalAdvance(linea), l.contentsRect().width());
-            EXPECT_EQ(l.accessibleDescription(), c.texto.size() > kMaximoTextoAyuda
-                                                     ? c.texto.left(kMaximoTextoAyuda) + QStringLiteral("…")
-                                                     : TextoVisible(c.texto));
+            EXPECT_EQ(l.accessibleDescription(), texto.size() > kMaximoTextoAyuda
+                                                     ? texto.left(kMaximoTextoAyuda) + QStringLiteral("…")
+                                                     : TextoVisible(texto));
             EXPECT_FALSE(l.toolTip().isEmpty());
         }
     }

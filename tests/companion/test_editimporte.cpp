@@ -4,79 +4,52 @@
 #include <QApplication>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
 TEST(LeeImporte, APointGroupsThreeDigitsOrEndsWithTheDecimals) {
-    const struct {
-        const char* texto;
-        int decimales;
-        std::optional<double> valor;
-    } casos[] = {
-        {"1500.50", 2, 1500.5},
-        {"150000.5", 2, 150000.5},
-        {"1.500", 2, 1500},
-        {"1.500,50", 2, 1500.5},
-        {"1.234.567,8", 2, 1234567.8},
-        {"1500,5", 2, 1500.5},
-        {".5", 2, 0.5},
-        {"12,", 2, 12},
-        {"", 2, 0},
-        {" 1 500,50 ", 2, 1500.5},
-        {"1.500", 0, 1500},
-        {"2.000.000", 0, 2000000},
-        {"1.5", 0, std::nullopt},
-        {"15.00", 0, std::nullopt},
-        {"1.", 2, std::nullopt},
-        {"1.234.5", 2, std::nullopt},
-        {"1.50.0", 2, std::nullopt},
-        {"1500.500", 2, std::nullopt},
-        {"1.5000", 2, std::nullopt},
-        {"15.00,5", 2, std::nullopt},
-        {"1.5,5", 2, std::nullopt},
-        {"1,234", 2, std::nullopt},
-        {"1,5", 0, std::nullopt},
-        {"1,2,3", 2, std::nullopt},
-        {"-5", 2, std::nullopt},
-        {"1e5", 2, std::nullopt},
-        {"12345678901234", 2, std::nullopt},
-    };
-    for (const auto& c : casos) {
-        const std::optional<double> v = LeeImporte(QString::fromLatin1(c.texto), c.decimales);
-        EXPECT_EQ(v.has_value(), c.valor.has_value()) << c.texto << " / " << c.decimales;
-        if (v && c.valor) {
-            EXPECT_DOUBLE_EQ(*v, *c.valor) << c.texto;
-        }
+    const std::tuple<const char*, int, double> leidos[] = {{"1500.50", 2, 1500.5},
+                                                           {"150000.5", 2, 150000.5},
+                                                           {"1.500", 2, 1500},
+                                                           {"1.500,50", 2, 1500.5},
+                                                           {"1.234.567,8", 2, 1234567.8},
+                                                           {"1500,5", 2, 1500.5},
+                                                           {".5", 2, 0.5},
+                                                           {"12,", 2, 12},
+                                                           {"", 2, 0},
+                                                           {" 1 500,50 ", 2, 1500.5},
+                                                           {"1.500", 0, 1500},
+                                                           {"2.000.000", 0, 2000000}};
+    for (const auto& [texto, decimales, valor] : leidos) {
+        const std::optional<double> v = LeeImporte(QString::fromLatin1(texto), decimales);
+        ASSERT_TRUE(v.has_value()) << texto << " / " << decimales;
+        EXPECT_DOUBLE_EQ(*v, valor) << texto << " / " << decimales;
     }
+    for (const char* texto : {"1.", "1.234.5", "1.50.0", "1500.500", "1.5000", "15.00,5", "1.5,5", "1,234",
+                              "1,2,3", "-5", "1e5", "12345678901234"})
+        EXPECT_FALSE(LeeImporte(QString::fromLatin1(texto), 2).has_value()) << texto;
+    for (const char* texto : {"1.5", "15.00", "1,5"})
+        EXPECT_FALSE(LeeImporte(QString::fromLatin1(texto), 0).has_value()) << texto << " without decimals";
     EXPECT_EQ(LeeImporte(u"-1.500,5", 2, true), -1500.5);
 }
 
 TEST(FormateaImporte, SpanishWayRoundedHalfAwayFromZero) {
-    const struct {
-        double valor;
-        int decimales;
-        const char* texto;
-    } casos[] = {{1500.5, 2, "1.500,50"},
-                 {1500.5, 0, "1.501"},
-                 {-0.004, 2, "0,00"},
-                 {0, 2, "0,00"},
-                 {1234567.891, 2, "1.234.567,89"},
-                 {2.675, 2, "2,68"},
-                 {-1500.5, 0, "-1.501"},
-                 {999.999, 2, "1.000,00"}};
-    for (const auto& c : casos)
-        EXPECT_EQ(FormateaImporte(c.valor, c.decimales), QLatin1String(c.texto)) << c.valor;
+    const std::tuple<double, int, const char*> casos[] = {{1500.5, 2, "1.500,50"},
+                                                          {1500.5, 0, "1.501"},
+                                                          {-0.004, 2, "0,00"},
+                                                          {0, 2, "0,00"},
+                                                          {1234567.891, 2, "1.234.567,89"},
+                                                          {2.675, 2, "2,68"},
+                                                          {-1500.5, 0, "-1.501"},
+                                                          {999.999, 2, "1.000,00"}};
+    for (const auto& [valor, decimales, texto] : casos)
+        EXPECT_EQ(FormateaImporte(valor, decimales), QLatin1String(texto)) << valor;
 }
 
 // What is typed key by key: refused keys leave the text as it was.
 TEST(EditImporte, TypedKeysFollowTheRule) {
-    const struct {
-        const char* tecleado;
-        int decimales;
-        const char* queda;
-        double valor;
-        const char* alSalir;
-    } casos[] = {
+    const std::tuple<const char*, int, const char*, double, const char*> casos[] = {
         {"1500.50", 2, "1500.50", 1500.5, "1.500,50"},
         {"150000.5", 2, "150000.5", 150000.5, "150.000,50"},
         {"1.500.000", 0, "1.500.000", 1500000, "1.500.000"},
@@ -86,23 +59,21 @@ TEST(EditImporte, TypedKeysFollowTheRule) {
         {"1.5", 0, "1.5", 0, "1.5"},              // unfinished: kept as typed, no value
         {"-3", 2, "3", 3, "3,00"},                // no sign unless negatives are asked for
     };
-    for (const auto& c : casos) {
+    for (const auto& [tecleado, decimales, queda, valor, alSalir] : casos) {
         QWidget ventana;
-        auto* e = new TEditImporte(&ventana, c.decimales);
+        auto* e = new TEditImporte(&ventana, decimales);
         auto* otro = new QLineEdit(&ventana);
         ventana.show();
         QApplication::setActiveWindow(&ventana);
         e->setFocus();
-        QTest::keyClicks(e, QString::fromLatin1(c.tecleado));
-        EXPECT_EQ(e->text(), QLatin1String(c.queda)) << c.tecleado;
-        EXPECT_DOUBLE_EQ(e->Valor(), c.valor) << c.tecleado;
+        QTest::keyClicks(e, QString::fromLatin1(tecleado));
+        EXPECT_EQ(e->text(), QLatin1String(queda)) << tecleado;
+        EXPECT_DOUBLE_EQ(e->Valor(), valor) << tecleado;
         otro->setFocus();
-        EXPECT_EQ(e->text(), QLatin1String(c.alSalir)) << c.tecleado;
+        EXPECT_EQ(e->text(), QLatin1String(alSalir)) << tecleado;
         e->setFocus();
-        if (e->EsValido()) {
-            EXPECT_FALSE(e->text().contains(u'.'))
-                << "edited again, the amount stands without thousands points";
-        }
+        EXPECT_FALSE(e->EsValido() && e->text().contains(u'.'))
+            << tecleado << ": edited again, the amount stands without thousands points";
     }
 }
 

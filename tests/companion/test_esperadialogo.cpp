@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
@@ -79,27 +80,18 @@ TEST(EsperaDialogo, BlocksShowsAndComesBackAsItWas) {
 TEST(EsperaDialogo, EscapeTheCancelButtonOrClosingAbandonsTheWait) {
     ServicioMensajesGuionado mensajes;
     ServicioMensajesInstalado instalado(mensajes);
-    const struct {
-        const char* caso;
-        std::function<void(Dialogo&)> accion;
-        bool sigueAbierto;
-    } casos[] = {
+    const std::tuple<const char*, std::function<void(Dialogo&)>, bool> casos[] = {
         {"Escape in the dialog", [](Dialogo& d) { QTest::keyClick(&d, Qt::Key_Escape); }, true},
-        {"Escape elsewhere",
-         [](Dialogo&) {
-             QTest::keyClick(qApp->focusWidget() ? qApp->focusWidget() : nullptr, Qt::Key_Escape);
-         },
-         true},
+        {"Escape elsewhere", [](Dialogo&) { QTest::keyClick(qApp->focusWidget(), Qt::Key_Escape); }, true},
         {"the cancel button", [](Dialogo& d) { QTest::mouseClick(d.cancelar, Qt::LeftButton); }, false},
-        {"the window closed", [](Dialogo& d) { d.reject(); }, false},
-    };
-    for (const auto& c : casos) {
+        {"the window closed", [](Dialogo& d) { d.reject(); }, false}};
+    for (const auto& [caso, accion, sigueAbierto] : casos) {
         Dialogo d;
         TEsperaDialogo espera(&d, QStringLiteral("Consultando..."), d.cancelar);
         ASSERT_TRUE(espera.Empieza());
-        QTimer::singleShot(50, &d, [&] { c.accion(d); });
-        EXPECT_TRUE(esperaHastaCancelar(espera.Vigia())) << c.caso;
-        EXPECT_TRUE(espera.Cancelada()) << c.caso;
-        EXPECT_EQ(d.isVisible(), c.sigueAbierto) << c.caso;
+        QTimer::singleShot(50, &d, [&] { accion(d); });
+        EXPECT_TRUE(esperaHastaCancelar(espera.Vigia())) << caso;
+        EXPECT_TRUE(espera.Cancelada()) << caso;
+        EXPECT_EQ(d.isVisible(), sigueAbierto) << caso;
     }
 }

@@ -8,6 +8,7 @@
 #include <QRegularExpressionValidator>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
@@ -33,32 +34,23 @@ TEST(FiltroCaracteres, KeysThatAreNotCharactersAlwaysPass) {
 
 // Editing keys over a selection, in a digits-only edit holding "123456" with "34" selected.
 TEST(FiltroCaracteres, EditingKeysOverASelectionInADigitsEdit) {
-    const struct {
-        const char* caso;
-        int tecla;
-        const char16_t* texto;
-        const char* queda;
-        int cursor;
-    } casos[] = {
+    const std::tuple<const char*, int, const char16_t*, const char*, int> casos[] = {
         {"Delete as X11 sends it", Qt::Key_Delete, u"\x7f", "1256", 2},
         {"Backspace", Qt::Key_Backspace, u"\b", "1256", 2},
         {"a refused letter leaves text and selection", Qt::Key_A, u"a", "123456", 4},
         {"a refused point", Qt::Key_Period, u".", "123456", 4},
         {"a digit replaces the selection", Qt::Key_9, u"9", "12956", 3},
         {"Home", Qt::Key_Home, u"", "123456", 0},
-        {"End", Qt::Key_End, u"", "123456", 6},
-    };
-    for (const auto& c : casos) {
+        {"End", Qt::Key_End, u"", "123456", 6}};
+    for (const auto& [caso, tecla, texto, queda, cursor] : casos) {
         QLineEdit e;
         SoloDigitos(&e);
         e.setText(QStringLiteral("123456"));
         e.setSelection(2, 2);
-        pulsa(&e, c.tecla, QString::fromUtf16(c.texto));
-        EXPECT_EQ(e.text(), QLatin1String(c.queda)) << c.caso;
-        EXPECT_EQ(e.cursorPosition(), c.cursor) << c.caso;
-        if (qstrcmp(c.queda, "123456") == 0 && c.cursor == 4) {
-            EXPECT_EQ(e.selectedText(), QStringLiteral("34")) << c.caso;
-        }
+        pulsa(&e, tecla, QString::fromUtf16(texto));
+        EXPECT_EQ(e.text(), QLatin1String(queda)) << caso;
+        EXPECT_EQ(e.cursorPosition(), cursor) << caso;
+        EXPECT_EQ(e.selectedText(), cursor == 4 ? QStringLiteral("34") : QString()) << caso;
     }
 }
 

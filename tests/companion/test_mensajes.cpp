@@ -28,7 +28,7 @@ TEST(Mensajes, ScriptedServiceRecordsAndAnswersInOrder) {
     }
 }
 
-TEST(Mensajes, ScriptedServiceTakesAnswersFromItsOwnersSource) {
+TEST(Mensajes, ScriptedServiceTakesAnswersFromItsOwnersSourceAndComesBackAfterAnInnerOne) {
     QStringList pedidas;
     std::deque<int> cola{7};
     ServicioMensajesGuionado guion([&](const QString& kind) -> std::optional<int> {
@@ -39,32 +39,17 @@ TEST(Mensajes, ScriptedServiceTakesAnswersFromItsOwnersSource) {
         return r;
     });
     ServicioMensajesInstalado instalado(guion);
-    MuestraMensaje(QStringLiteral("Espere..."));
-    EXPECT_FALSE(NoSi(QStringLiteral("¿Seguro?")));
-    EXPECT_EQ(Mensaje_NoSi(QString(), QString(), QString()), 2);
-    EXPECT_EQ(pedidas, QStringList({QStringLiteral("NoSi"), QStringLiteral("Mensaje_NoSi")}));
-    EXPECT_FALSE(guion.mostrados()[1].porDefecto);
-    EXPECT_TRUE(guion.mostrados()[2].porDefecto);
-}
-
-TEST(Mensajes, WaitWindowIsTracked) {
-    ServicioMensajesGuionado guion;
-    ServicioMensajesInstalado instalado(guion);
-    MuestraMensaje(QStringLiteral("Espere..."));
-    EXPECT_TRUE(guion.esperaVisible());
-    CierraMensaje();
-    EXPECT_FALSE(guion.esperaVisible());
-}
-
-TEST(Mensajes, InstalledServiceIsRestoredAfterItsScope) {
-    ServicioMensajesGuionado exterior;
-    ServicioMensajesInstalado a(exterior);
     {
         ServicioMensajesGuionado interior;
         ServicioMensajesInstalado b(interior);
         Mensaje_Info(QStringLiteral("dentro"));
         EXPECT_EQ(interior.mostrados().size(), 1);
     }
-    Mensaje_Info(QStringLiteral("fuera"));
-    EXPECT_EQ(exterior.mostrados().size(), 1);
+    MuestraMensaje(QStringLiteral("Espere...")); // the outer service is back after the inner one's scope
+    EXPECT_FALSE(NoSi(QStringLiteral("¿Seguro?")));
+    EXPECT_EQ(Mensaje_NoSi(QString(), QString(), QString()), 2);
+    EXPECT_EQ(pedidas, QStringList({QStringLiteral("NoSi"), QStringLiteral("Mensaje_NoSi")}));
+    ASSERT_EQ(guion.mostrados().size(), 3) << "nothing of the inner service's reached the outer one";
+    EXPECT_FALSE(guion.mostrados()[1].porDefecto);
+    EXPECT_TRUE(guion.mostrados()[2].porDefecto);
 }

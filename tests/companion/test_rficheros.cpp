@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 using nod::prueba::OficinaPrueba;
@@ -26,9 +27,7 @@ void crea(const QString& ruta, const QByteArray& contenido = "x") {
 }
 
 TEST(SlashSep, OneBackslashBetweenTheParts) {
-    const struct {
-        const char *ruta, *parte, *esperado;
-    } casos[] = {
+    const std::tuple<const char*, const char*, const char*> casos[] = {
         {"C:\\DATOS\\", "\\2024", "C:\\DATOS\\2024"},
         {"C:\\DATOS", "2024", "C:\\DATOS\\2024"},
         {"C:\\DATOS\\\\", "\\\\2024", "C:\\DATOS\\2024"},
@@ -37,19 +36,15 @@ TEST(SlashSep, OneBackslashBetweenTheParts) {
         {"C:\\", "x", "C:\\x"},
         {"/srv/datos/", "Archivos", "/srv/datos\\Archivos"}, // a real folder of this machine as the base
     };
-    for (const auto& c : casos)
-        EXPECT_EQ(SlashSep(QString::fromUtf8(c.ruta), QString::fromUtf8(c.parte)),
-                  QString::fromUtf8(c.esperado))
-            << c.ruta << " + " << c.parte;
+    for (const auto& [ruta, parte, esperado] : casos)
+        EXPECT_EQ(SlashSep(QString::fromUtf8(ruta), QString::fromUtf8(parte)), QString::fromUtf8(esperado))
+            << ruta << " + " << parte;
 }
 
 TEST(RutaEnDisco, DriveCRelativeAndAbsoluteLocations) {
     OficinaPrueba o(QStringLiteral("[GENERAL]\nUnidadC=UNIDAD\n"));
     const QString raiz = o.ruta(QStringLiteral("UNIDAD"));
-    const struct {
-        const char* ruta;
-        QString esperado;
-    } casos[] = {
+    const std::tuple<const char*, QString> casos[] = {
         {"C:\\WORDZEB\\IMAGENES\\", raiz + QStringLiteral("/WORDZEB/IMAGENES")},
         {"c:\\x\\..\\y", raiz + QStringLiteral("/y")},
         {"EXPEDIENTES\\2024", o.ruta(QStringLiteral("EXPEDIENTES/2024"))},
@@ -60,8 +55,8 @@ TEST(RutaEnDisco, DriveCRelativeAndAbsoluteLocations) {
         {"\\\\SERVIDOR\\NODRIM", QString()}, // nor a network name
 #endif
     };
-    for (const auto& c : casos)
-        EXPECT_EQ(RutaEnDisco(QString::fromUtf8(c.ruta)), c.esperado) << c.ruta;
+    for (const auto& [ruta, esperado] : casos)
+        EXPECT_EQ(RutaEnDisco(QString::fromUtf8(ruta)), esperado) << ruta;
     EXPECT_EQ(RutaEnDisco(QStringLiteral("C:\\a") + QChar(0) + QStringLiteral("b")), QString());
 }
 
@@ -71,19 +66,15 @@ TEST(FindFileNoRecursivo, WindowsMasksIgnoringCaseFilesOnly) {
          {"D/0007.JPG", "D/b.jpg", "D/a.jpeg", "D/LEEME", "D/[1].doc", "D/x.jpg.txt", "D/sub/c.jpg"})
         crea(o.ruta(QString::fromLatin1(f)));
     QDir().mkpath(o.ruta(QStringLiteral("D/carpeta.jpg")));
-    const struct {
-        const char* mascara;
-        QStringList esperado;
-    } casos[] = {
+    const std::tuple<const char*, QStringList> casos[] = {
         {"*.jpg", lista({"0007.JPG", "b.jpg"})},
         {"?.JP*G", lista({"a.jpeg", "b.jpg"})},
         {"*.*", lista({"0007.JPG", "[1].doc", "a.jpeg", "b.jpg", "LEEME", "x.jpg.txt"})},
         {"[1].doc", lista({"[1].doc"})}, // brackets are plain characters in a Windows mask
-        {"*.bmp", {}},
-    };
-    for (const auto& c : casos)
-        EXPECT_EQ(FindFileNoRecursivo(QStringLiteral("D"), QString::fromLatin1(c.mascara)), c.esperado)
-            << c.mascara;
+        {"*.bmp", {}}};
+    for (const auto& [mascara, esperado] : casos)
+        EXPECT_EQ(FindFileNoRecursivo(QStringLiteral("D"), QString::fromLatin1(mascara)), esperado)
+            << mascara;
     EXPECT_EQ(ImagenesJpeg(QStringLiteral("D")), lista({"0007.JPG", "a.jpeg", "b.jpg"}));
     EXPECT_TRUE(FindFileNoRecursivo(QStringLiteral("NO_EXISTE"), QStringLiteral("*")).isEmpty());
 }

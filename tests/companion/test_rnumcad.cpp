@@ -5,6 +5,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+#include <tuple>
 
 using namespace nod;
 
@@ -17,15 +18,13 @@ constexpr double kInf = std::numeric_limits<double>::infinity();
 } // namespace
 
 TEST(Rnumcad, Float_CadWritesTheShortestExactDigits) {
-    const struct {
-        double x;
-        const char* esperado;
-    } casos[] = {{7.5, "7,5"},         {21, "21"},          {-0.25, "-0,25"},
-                 {0.1, "0,1"},         {-0.0, "0"},         {1e15, "1000000000000000"},
-                 {1234.56, "1234,56"}, {1e-7, "0,0000001"}, {kNan, "0"},
-                 {kInf, "0"}};
-    for (const auto& c : casos)
-        EXPECT_EQ(Float_Cad(c.x), QString::fromLatin1(c.esperado)) << c.x;
+    const std::tuple<double, const char*> casos[] = {{7.5, "7,5"},         {21, "21"},
+                                                     {-0.25, "-0,25"},     {0.1, "0,1"},
+                                                     {-0.0, "0"},          {1e15, "1000000000000000"},
+                                                     {1234.56, "1234,56"}, {1e-7, "0,0000001"},
+                                                     {kNan, "0"},          {kInf, "0"}};
+    for (const auto& [x, esperado] : casos)
+        EXPECT_EQ(Float_Cad(x), QString::fromLatin1(esperado)) << x;
 
     // Figures far longer than any amount: every digit is written without exponent and reads back as
     // the same number.
@@ -41,52 +40,42 @@ TEST(Rnumcad, Float_CadWritesTheShortestExactDigits) {
 }
 
 TEST(Rnumcad, RedondeaDecHalfAwayFromZeroOnTheWrittenDigits) {
-    const struct {
-        double x;
-        int decimales;
-        double esperado;
-    } casos[] = {{2.675, 2, 2.68},  {-0.5, 0, -1}, {0.5, 0, 1},      {1.005, 2, 1.01}, {9.995, 2, 10},
-                 {1.234, 5, 1.234}, {0.004, 2, 0}, {123.4, -2, 123}, {2.5, 0, 3}};
-    for (const auto& c : casos)
-        EXPECT_DOUBLE_EQ(RedondeaDec(c.x, c.decimales), c.esperado) << c.x << ' ' << c.decimales;
+    const std::tuple<double, int, double> casos[] = {{2.675, 2, 2.68}, {-0.5, 0, -1},    {0.5, 0, 1},
+                                                     {1.005, 2, 1.01}, {9.995, 2, 10},   {1.234, 5, 1.234},
+                                                     {0.004, 2, 0},    {123.4, -2, 123}, {2.5, 0, 3}};
+    for (const auto& [x, decimales, esperado] : casos)
+        EXPECT_DOUBLE_EQ(RedondeaDec(x, decimales), esperado) << x << ' ' << decimales;
     EXPECT_TRUE(std::isnan(RedondeaDec(kNan, 2)));
 }
 
 TEST(Rnumcad, ParteEnteraDecimal) {
-    const struct {
-        const char* numero;
-        const char* entera;
-        const char* decimal;
-    } casos[] = {{"1234,05", "1234", "05"}, {"21", "21", ""}, {"-0,25", "-0", "25"},
-                 {"3.5", "3", "5"},         {"", "", ""},     {",5", "", "5"}};
-    for (const auto& c : casos) {
-        QString entera = QStringLiteral("x"), decimal = QStringLiteral("x");
-        ParteEnteraDecimal(QString::fromLatin1(c.numero), entera, decimal);
-        EXPECT_EQ(entera, QString::fromLatin1(c.entera)) << c.numero;
-        EXPECT_EQ(decimal, QString::fromLatin1(c.decimal)) << c.numero;
+    const std::tuple<const char*, const char*, const char*> casos[] = {
+        {"1234,05", "1234", "05"}, {"21", "21", ""}, {"-0,25", "-0", "25"},
+        {"3.5", "3", "5"},         {"", "", ""},     {",5", "", "5"}};
+    for (const auto& [numero, entera, decimal] : casos) {
+        QString e = QStringLiteral("x"), d = QStringLiteral("x");
+        ParteEnteraDecimal(QString::fromLatin1(numero), e, d);
+        EXPECT_EQ(e, QString::fromLatin1(entera)) << numero;
+        EXPECT_EQ(d, QString::fromLatin1(decimal)) << numero;
     }
 }
 
 TEST(Rnumcad, TextToNumbers) {
-    const struct {
-        const char* texto;
-        qint64 entero;
-    } enteros[] = {{" -42 ", -42},    {"+7", 7},  {"4a", 0}, {"", 0}, {"2147483647", 2147483647},
-                   {"2147483648", 0}, {"1.5", 0}, {"ñ", 0}};
-    for (const auto& c : enteros)
-        EXPECT_EQ(Cad_Int(u8(c.texto)), c.entero) << c.texto;
+    const std::tuple<const char*, qint64> enteros[] = {
+        {" -42 ", -42},    {"+7", 7},  {"4a", 0}, {"", 0}, {"2147483647", 2147483647},
+        {"2147483648", 0}, {"1.5", 0}, {"ñ", 0}};
+    for (const auto& [texto, entero] : enteros)
+        EXPECT_EQ(Cad_Int(u8(texto)), entero) << texto;
     EXPECT_EQ(Cad_Int64(QStringLiteral("2147483648")), 2147483648LL);
     EXPECT_EQ(Cad_Int64(QStringLiteral("-9223372036854775808")), std::numeric_limits<qint64>::min());
     EXPECT_EQ(Cad_Int64(QStringLiteral("9223372036854775808")), 0);
 
-    const struct {
-        const char* texto;
-        double valor;
-    } reales[] = {{"1.234,5", 1234.5}, {"2.5", 2.5}, {"2,5", 2.5}, {" 1 234,5 ", 1234.5},
-                  {"-0,25", -0.25},    {"abc", 0},   {"", 0},      {"1e400", 0},
-                  {"nan", 0}};
-    for (const auto& c : reales)
-        EXPECT_DOUBLE_EQ(Cad_Float(QString::fromLatin1(c.texto)), c.valor) << c.texto;
+    const std::tuple<const char*, double> reales[] = {
+        {"1.234,5", 1234.5}, {"2.5", 2.5}, {"2,5", 2.5}, {" 1 234,5 ", 1234.5},
+        {"-0,25", -0.25},    {"abc", 0},   {"", 0},      {"1e400", 0},
+        {"nan", 0}};
+    for (const auto& [texto, valor] : reales)
+        EXPECT_DOUBLE_EQ(Cad_Float(QString::fromLatin1(texto)), valor) << texto;
 }
 
 TEST(Rnumcad, CutsAndZeros) {
@@ -96,19 +85,16 @@ TEST(Rnumcad, CutsAndZeros) {
     EXPECT_EQ(StrLeft(s, -1), QString());
     EXPECT_EQ(StrRight(s, 2), QStringLiteral("DE"));
     EXPECT_EQ(StrRight(s, 0), QString());
-    const struct {
-        qint64 valor;
-        int ancho;
-        const char* esperado;
-    } ceros[] = {{7, 3, "007"},
-                 {-7, 3, "-07"},
-                 {1234, 2, "1234"},
-                 {0, 0, "0"},
-                 {7, kAnchoMaximoTexto + 1, "7"},
-                 {-7, std::numeric_limits<int>::max(), "-7"},
-                 {std::numeric_limits<qint64>::min(), 2, "-9223372036854775808"}};
-    for (const auto& c : ceros)
-        EXPECT_EQ(StrCeros(c.valor, c.ancho), QString::fromLatin1(c.esperado)) << c.valor;
+    const std::tuple<qint64, int, const char*> ceros[] = {
+        {7, 3, "007"},
+        {-7, 3, "-07"},
+        {1234, 2, "1234"},
+        {0, 0, "0"},
+        {7, kAnchoMaximoTexto + 1, "7"},
+        {-7, std::numeric_limits<int>::max(), "-7"},
+        {std::numeric_limits<qint64>::min(), 2, "-9223372036854775808"}};
+    for (const auto& [valor, ancho, esperado] : ceros)
+        EXPECT_EQ(StrCeros(valor, ancho), QString::fromLatin1(esperado)) << valor;
     EXPECT_EQ(StrCeros(7, kAnchoMaximoTexto).size(), kAnchoMaximoTexto);
 }
 
@@ -117,18 +103,12 @@ TEST(Rnumcad, CutsAndZeros) {
 TEST(Rnumcad, Fault14CutsNeverSplitASurrogatePair) {
     const QString s = QString::fromUtf8("a\xF0\x9F\x98\x80"
                                         "b"); // a, U+1F600 (two units), b
-    const struct {
-        QString (*rutina)(const QString&, int);
-        const char* nombre;
-        int n;
-        QString esperado;
-    } casos[] = {
+    const std::tuple<QString (*)(const QString&, int), const char*, int, QString> casos[] = {
         {&StrLeft, "StrLeft", 1, QStringLiteral("a")}, {&StrLeft, "StrLeft", 2, QStringLiteral("a")},
         {&StrLeft, "StrLeft", 3, s.left(3)},           {&StrRight, "StrRight", 2, QStringLiteral("b")},
-        {&StrRight, "StrRight", 3, s.right(3)},        {&StrLeft, "StrLeft", 4, s},
-    };
-    for (const auto& c : casos)
-        EXPECT_EQ(c.rutina(s, c.n), c.esperado) << c.nombre << ' ' << c.n;
+        {&StrRight, "StrRight", 3, s.right(3)},        {&StrLeft, "StrLeft", 4, s}};
+    for (const auto& [rutina, nombre, n, esperado] : casos)
+        EXPECT_EQ(rutina(s, n), esperado) << nombre << ' ' << n;
 }
 
 TEST(Rnumcad, CaseKeepsTheLength) {
@@ -165,13 +145,11 @@ TEST(Rnumcad, AgrupaMilesKeepsTheSignOutsideTheGroups) {
 }
 
 TEST(Fechas, CompletaAnnoCentury) {
-    const struct {
-        const char* anno;
-        const char* esperado;
-    } casos[] = {{"05", "2005"},   {"5", "2005"},    {"49", "2049"}, {"50", "1950"}, {"98", "1998"},
-                 {" 07 ", "2007"}, {"2005", "2005"}, {"123", "123"}, {"ab", "ab"},   {"", ""}};
-    for (const auto& c : casos)
-        EXPECT_EQ(CompletaAnno(QString::fromLatin1(c.anno)), QString::fromLatin1(c.esperado)) << c.anno;
+    const std::tuple<const char*, const char*> casos[] = {
+        {"05", "2005"},   {"5", "2005"},    {"49", "2049"}, {"50", "1950"}, {"98", "1998"},
+        {" 07 ", "2007"}, {"2005", "2005"}, {"123", "123"}, {"ab", "ab"},   {"", ""}};
+    for (const auto& [anno, esperado] : casos)
+        EXPECT_EQ(CompletaAnno(QString::fromLatin1(anno)), QString::fromLatin1(esperado)) << anno;
 }
 
 TEST(Fechas, MonthAndWeekdayNames) {
@@ -189,12 +167,7 @@ TEST(Fechas, MonthAndWeekdayNames) {
 }
 
 TEST(LetrasEnCatalan, FormsGenderAndCase) {
-    const struct {
-        qint64 n;
-        char genero, caso;
-        bool corto;
-        const char* esperado;
-    } casos[] = {
+    const std::tuple<qint64, char, char, bool, const char*> casos[] = {
         {0, 'M', 'N', false, "ZERO"},
         {0, 'M', 'S', false, "zero"},
         {1, 'M', 'S', false, "u"},
@@ -223,9 +196,7 @@ TEST(LetrasEnCatalan, FormsGenderAndCase) {
          "nou-cents noranta-nou mil nou-cents noranta-nou milions nou-cents noranta-nou mil nou-cents "
          "noranta-nou"},
         {1000000000000, 'M', 'S', false, ""},
-        {-5, 'M', 'S', false, ""},
-    };
-    for (const auto& c : casos)
-        EXPECT_EQ(letrasEnCatalan(c.n, QLatin1Char(c.genero), QLatin1Char(c.caso), c.corto), u8(c.esperado))
-            << c.n;
+        {-5, 'M', 'S', false, ""}};
+    for (const auto& [n, genero, caso, corto, esperado] : casos)
+        EXPECT_EQ(letrasEnCatalan(n, QLatin1Char(genero), QLatin1Char(caso), corto), u8(esperado)) << n;
 }

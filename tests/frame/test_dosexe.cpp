@@ -1,45 +1,36 @@
 #include "frame/dosexe.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
 namespace {
-QByteArray campo(const QByteArray& img, int offset, int largo) {
-    return img.mid(offset, largo);
-}
 QByteArray hastaNul(const QByteArray& img, int offset) {
     return QByteArray(img.constData() + offset);
 }
 } // namespace
 
-TEST(DOSExe, TemplateHasTheClassicSections) {
-    const QByteArray& t = PlantillaPif();
-    ASSERT_EQ(t.size(), kTamanoPif);
-    EXPECT_EQ(hastaNul(t, 0x171), "MICROSOFT PIFEX");
-    EXPECT_EQ(hastaNul(t, 0x187), "WINDOWS 386 3.0");
-    EXPECT_EQ(hastaNul(t, 0x205), "WINDOWS VMM 4.0");
-    EXPECT_TRUE(t.contains("Terminal"));
-    EXPECT_TRUE(t.contains("Lucida Console"));
-}
-
-TEST(DOSExe, ImageFillsTheFieldsAndKeepsEverythingElse) {
+TEST(DOSExe, ImageFillsTheFieldsAndKeepsTheTemplatesClassicSections) {
     const QString programa = QStringLiteral("C:\\NODRIM\\UTIL\\COPIAS.EXE");
     const QByteArray img = ImagenPif(programa, QStringLiteral("/A /B"), QStringLiteral("Copias"));
     ASSERT_EQ(img.size(), kTamanoPif);
-    EXPECT_EQ(campo(img, 2, 30), QByteArray("Copias").leftJustified(30, ' '));
+    EXPECT_EQ(img.mid(2, 30), QByteArray("Copias").leftJustified(30, ' '));
     EXPECT_EQ(hastaNul(img, 36), "C:\\NODRIM\\UTIL\\COPIAS.EXE");
     EXPECT_EQ(hastaNul(img, 101), "C:\\NODRIM\\UTIL\\");
     EXPECT_EQ(hastaNul(img, 165), "/A /B");
     EXPECT_EQ(hastaNul(img, 453), "/A /B");
-    // Outside the five fields and their NULs, the template's bytes stand as they were.
     QByteArray t = PlantillaPif();
-    for (auto [offset, largo] : {std::pair{2, 30}, {36, 64}, {101, 64}, {165, 64}, {453, 64}}) {
+    ASSERT_EQ(t.size(), kTamanoPif);
+    for (auto [offset, seccion] :
+         {std::pair{0x171, "MICROSOFT PIFEX"}, {0x187, "WINDOWS 386 3.0"}, {0x205, "WINDOWS VMM 4.0"}})
+        EXPECT_EQ(hastaNul(t, offset), seccion);
+    EXPECT_TRUE(t.contains("Terminal") && t.contains("Lucida Console")) << "the console's fonts";
+    // Outside the five fields and their NULs, the template's bytes stand as they were.
+    for (auto [offset, largo] : {std::pair{2, 30}, {36, 64}, {101, 64}, {165, 64}, {453, 64}})
         t.replace(offset, largo, img.mid(offset, largo));
-    }
     EXPECT_EQ(img, t);
 }
 
@@ -50,25 +41,20 @@ TEST(DOSExe, LongTextsAreCut) {
     EXPECT_EQ(hastaNul(img, 36).size(), 63);
     EXPECT_EQ(img[36 + 63], '\0');
     EXPECT_EQ(hastaNul(img, 165).size(), 63);
-    EXPECT_EQ(campo(img, 2, 30), QByteArray(30, 'T'));
+    EXPECT_EQ(img.mid(2, 30), QByteArray(30, 'T'));
     EXPECT_EQ(img[32], PlantillaPif()[32]) << "the title never spills into the next field";
 }
 
 TEST(DOSExe, StartUpFolderIsTheProgramsFolderPart) {
-    const struct {
-        const char *programa, *carpeta;
-    } casos[] = {{"C:\\NOD\\COPIAS.EXE", "C:\\NOD\\"},
-                 {"C:COPIAS.EXE", "C:"},
-                 {"COPIAS.EXE", ""},
-                 {"\\\\SERVIDOR\\NOD\\X.BAT", "\\\\SERVIDOR\\NOD\\"}};
-    for (const auto& k : casos) {
-        const QByteArray img = ImagenPif(QLatin1String(k.programa), {}, {});
-        EXPECT_EQ(hastaNul(img, 101), QByteArray(k.carpeta)) << k.programa;
+    const std::tuple<const char*, const char*> casos[] = {
+        {"C:\\NOD\\COPIAS.EXE", "C:\\NOD\\"},
+        {"C:COPIAS.EXE", "C:"},
+        {"COPIAS.EXE", ""},
+        {"\\\\SERVIDOR\\NOD\\X.BAT", "\\\\SERVIDOR\\NOD\\"}};
+    for (const auto& [programa, carpeta] : casos) {
+        const QByteArray img = ImagenPif(QLatin1String(programa), {}, {});
+        EXPECT_EQ(hastaNul(img, 101), QByteArray(carpeta)) << programa;
     }
-}
-
-TEST(DOSExe, TextOutsideWindows1252GivesNoImage) {
-    EXPECT_TRUE(ImagenPif(QStringLiteral("C:\\A.EXE"), QStringLiteral("\u4E2D"), QString()).isEmpty());
 }
 
 TEST(DOSExe, RunsTheProgramAndRemovesTheImage) {
@@ -91,7 +77,8 @@ TEST(DOSExe, RunsTheProgramAndRemovesTheImage) {
     FijaCarpetaPif({});
 }
 
-TEST(DOSExe, UnwritableFolderReturnsFalse) {
+TEST(DOSExe, TextOutsideWindows1252OrAnUnwritableFolderRunNothing) {
+    EXPECT_TRUE(ImagenPif(QStringLiteral("C:\\A.EXE"), QStringLiteral("\u4E2D"), QString()).isEmpty());
     FijaCarpetaPif(QStringLiteral("/proc/no-such-folder"));
     EXPECT_FALSE(DOSExe(QStringLiteral("/bin/true"), QString(), QString()));
     FijaCarpetaPif({});

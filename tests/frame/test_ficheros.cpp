@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <tuple>
 #include <unistd.h>
 
 using namespace nod;
@@ -17,42 +18,19 @@ void toca(const QString& ruta) {
 }
 } // namespace
 
-TEST(Ficheros, FicheroTemporalNodCreatesAUniqueEmptyFile) {
-    const QString a = FicheroTemporalNod(QStringLiteral("NODRIM"));
-    const QString b = FicheroTemporalNod(QStringLiteral("NODRIM"));
-    ASSERT_FALSE(a.isEmpty());
-    EXPECT_NE(a, b);
-    const QFileInfo fa(a);
-    EXPECT_TRUE(fa.exists());
-    EXPECT_EQ(fa.size(), 0);
-    EXPECT_TRUE(fa.fileName().startsWith(QStringLiteral("NOD")));
-    EXPECT_TRUE(fa.fileName().endsWith(QStringLiteral(".tmp")));
-    QFile::remove(a);
-    QFile::remove(b);
-}
-
 // The temporary folder of a test: TMPDIR points at "tmp" inside a folder of its own while it lives, so
 // that what lands beside the temporary folder can be seen too.
-class CarpetaTemporal {
-public:
-    CarpetaTemporal()
-        : m_antes(qgetenv("TMPDIR")) {
+struct CarpetaTemporal {
+    QTemporaryDir m_dir;
+    const QByteArray m_antes = qgetenv("TMPDIR");
+    CarpetaTemporal() {
         QDir(m_dir.path()).mkdir(QStringLiteral("tmp"));
         qputenv("TMPDIR", QFile::encodeName(carpeta()));
     }
-    ~CarpetaTemporal() {
-        if (m_antes.isEmpty())
-            qunsetenv("TMPDIR");
-        else
-            qputenv("TMPDIR", m_antes);
-    }
+    ~CarpetaTemporal() { m_antes.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", m_antes); }
     QString carpeta() const { return m_dir.filePath(QStringLiteral("tmp")); }
     QString ruta(const QString& nombre) const { return carpeta() + QLatin1Char('/') + nombre; }
     QString fuera(const QString& nombre) const { return m_dir.filePath(nombre); }
-
-private:
-    QTemporaryDir m_dir;
-    QByteArray m_antes;
 };
 
 TEST(Ficheros, EliminaTablaTemporalDeletesTheThreeCompanionsOnly) {
@@ -93,10 +71,17 @@ TEST(Ficheros, Fault13TemporaryFilesKeepToTheTemporaryFolder) {
     for (const char* prefijo : {"../", "/tm", "a/b", "..\\", "C:x", "\n"})
         EXPECT_EQ(FicheroTemporalNod(QString::fromLatin1(prefijo)), QString()) << prefijo;
     EXPECT_EQ(QDir(tmp.fuera({})).entryList(QDir::Files), antes) << "nothing was created outside";
-    for (const char* prefijo : {"NOD", "", "..", "ÑÇ"}) {
+    QStringList creados;
+    for (const char* prefijo : {"NOD", "NOD", "", "..", "ÑÇ"}) {
         const QString f = FicheroTemporalNod(QString::fromUtf8(prefijo));
-        EXPECT_EQ(QFileInfo(f).absolutePath(), tmp.carpeta()) << prefijo;
+        const QFileInfo fi(f);
+        EXPECT_EQ(fi.absolutePath(), tmp.carpeta()) << prefijo;
+        EXPECT_TRUE(fi.exists() && fi.size() == 0) << prefijo << ": a new empty file";
+        EXPECT_TRUE(fi.fileName().endsWith(QStringLiteral(".tmp"))) << prefijo;
+        EXPECT_FALSE(creados.contains(f)) << prefijo << ": a name of its own";
+        creados << f;
     }
+    EXPECT_TRUE(QFileInfo(creados[0]).fileName().startsWith(QStringLiteral("NOD")));
 }
 
 TEST(Ficheros, FicheroAbierto) {
@@ -121,17 +106,14 @@ TEST(Ficheros, FicheroAbierto) {
 }
 
 TEST(Ficheros, ExtraePath) {
-    const struct {
-        const char* nombre;
-        const char* carpeta;
-    } casos[] = {{"C:\\NOD\\DATOS\\A.DBF", "C:\\NOD\\DATOS\\"},
-                 {"C:A.DBF", "C:"},
-                 {"/srv/nod/a.dbf", "/srv/nod/"},
-                 {"A.DBF", ""},
-                 {"", ""},
-                 {"C:\\NOD\\", "C:\\NOD\\"}};
-    for (const auto& c : casos)
-        EXPECT_EQ(ExtraePath(QString::fromUtf8(c.nombre)), QString::fromUtf8(c.carpeta)) << c.nombre;
+    const std::tuple<const char*, const char*> casos[] = {{"C:\\NOD\\DATOS\\A.DBF", "C:\\NOD\\DATOS\\"},
+                                                          {"C:A.DBF", "C:"},
+                                                          {"/srv/nod/a.dbf", "/srv/nod/"},
+                                                          {"A.DBF", ""},
+                                                          {"", ""},
+                                                          {"C:\\NOD\\", "C:\\NOD\\"}};
+    for (const auto& [nombre, carpeta] : casos)
+        EXPECT_EQ(ExtraePath(QString::fromUtf8(nombre)), QString::fromUtf8(carpeta)) << nombre;
 }
 
 TEST(Ficheros, GetDateCountsFromTheFirstOfJanuaryOfYearOne) {

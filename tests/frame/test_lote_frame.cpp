@@ -22,32 +22,29 @@ TEST(LoteFrame, MensajePersonAnsweredFromTheScript) {
     EXPECT_EQ(r["dialogs"][0]["text"], "Se va a borrar la escritura\n¿Desea continuar?");
 }
 
-TEST(LoteFrame, MensajePersonWithoutAnswersIsEscape) {
-    const json r = pide(R"({"fn":"Mensaje_Person","args":[0,"",0,"T","x","","",0,0,0,0]})");
-    EXPECT_EQ(r["result"], 2);
+// Boxes without an answer give Escape's result.
+TEST(LoteFrame, RoutinesAnswerFromTheScriptOrWithEscape) {
+    const std::pair<const char*, int> casos[] = {
+        {R"({"fn":"GetMaxColor","args":[1]})", 0x8C0000},
+        {R"({"fn":"GetMinColorMen","args":[1]})", 0xFFB546},
+        {R"({"fn":"GetMaxColorMen","args":[5]})", 0xC0C0C0},
+        {R"({"fn":"Mensaje_Person","args":[0,"",0,"T","x","","",0,0,0,0]})", 2},
+        {R"({"fn":"Mensaje_ActivosFinancieros","args":[1]})", 6},
+        {R"({"fn":"Mensaje_ActivosFinancieros","args":[1],"answers":[7]})", 7}};
+    for (auto [peticion, resultado] : casos)
+        EXPECT_EQ(pide(peticion)["result"], resultado) << peticion;
 }
 
-TEST(LoteFrame, ColourRoutinesAndTheirErrors) {
-    EXPECT_EQ(pide(R"({"fn":"GetMaxColor","args":[1]})")["result"], 0x8C0000);
-    EXPECT_EQ(pide(R"({"fn":"GetMinColorMen","args":[1]})")["result"], 0xFFB546);
-    EXPECT_EQ(pide(R"({"fn":"GetMaxColorMen","args":[5]})")["result"], 0xC0C0C0);
-    const json e = pide(R"({"fn":"GetMinColor","args":[1.5]})");
-    ASSERT_TRUE(e.contains("error"));
-    EXPECT_NE(e["error"].get<std::string>().find("GetMinColor(integer)"), std::string::npos) << e.dump();
-}
-
-TEST(LoteFrame, FinancialAssetsBoxAnswers) {
-    EXPECT_EQ(pide(R"({"fn":"Mensaje_ActivosFinancieros","args":[1]})")["result"], 6);
-    EXPECT_EQ(pide(R"({"fn":"Mensaje_ActivosFinancieros","args":[1],"answers":[7]})")["result"], 7);
-}
-
-TEST(LoteFrame, MensajePersonWithTooFewArgumentsNamesItsSignature) {
-    const json e = pide(R"({"fn":"Mensaje_Person","args":[1,"abajo",1,"T","arriba"],"answers":[1]})");
-    ASSERT_TRUE(e.contains("error"));
-    EXPECT_NE(
-        e["error"].get<std::string>().find("Mensaje_Person(integer, string, integer, string, string, string, "
-                                           "string, integer, integer, integer, integer)"),
-        std::string::npos)
-        << e.dump();
-    EXPECT_TRUE(e["dialogs"].empty()) << "nothing is shown for a call that does not fit";
+TEST(LoteFrame, CallsThatDoNotFitNameTheSignatureAndShowNothing) {
+    const std::pair<const char*, const char*> casos[] = {
+        {R"({"fn":"GetMinColor","args":[1.5]})", "GetMinColor(integer)"},
+        {R"({"fn":"Mensaje_Person","args":[1,"abajo",1,"T","arriba"],"answers":[1]})",
+         "Mensaje_Person(integer, string, integer, string, string, string, string, integer, integer, "
+         "integer, integer)"}};
+    for (auto [peticion, firma] : casos) {
+        const json e = pide(peticion);
+        ASSERT_TRUE(e.contains("error")) << peticion;
+        EXPECT_NE(e["error"].get<std::string>().find(firma), std::string::npos) << e.dump();
+        EXPECT_TRUE(e["dialogs"].empty()) << peticion;
+    }
 }

@@ -7,10 +7,11 @@
 #include <QPointer>
 #include <QScreen>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace nod;
 
-TEST(Ventanas, CreaObjetoFindsByNameAmongTheApplicationsObjectsOnly) {
+TEST(Ventanas, CreaObjetoFindsByNameAmongTheApplicationsObjectsAndForms) {
     auto* suelto = new QObject(qApp);
     suelto->setObjectName(QStringLiteral("DMEMAIL"));
     QWidget propietario;
@@ -36,11 +37,8 @@ TEST(Ventanas, CreaObjetoFindsByNameAmongTheApplicationsObjectsOnly) {
 
     BorraObjeto(nullptr, false); // nothing to free
     delete suelto;
-}
 
-TEST(Ventanas, CreaObjetoFindsTopLevelForms) {
-    TFMensajeNod forma;
-    bool existia = false;
+    TFMensajeNod forma; // top-level forms are the application's too
     EXPECT_EQ(CreaObjeto({}, QStringLiteral("FMENSAJENOD"), nullptr, existia), &forma);
     EXPECT_TRUE(existia);
 }
@@ -63,16 +61,13 @@ TEST(Ventanas, MostrarNoModalReusesTheOwnersFormByClassName) {
 }
 
 TEST(Ventanas, CentroDeRoundsHalvesToEven) {
-    const struct {
-        QSize tamano;
-        QPoint centro;
-    } casos[] = {{{1920, 1080}, {960, 540}},
-                 {{1367, 769}, {684, 384}},
-                 {{1365, 767}, {682, 384}},
-                 {{1, 3}, {0, 2}},
-                 {{0, 0}, {0, 0}}};
-    for (const auto& c : casos)
-        EXPECT_EQ(CentroDe(c.tamano), c.centro) << c.tamano.width() << "x" << c.tamano.height();
+    const std::tuple<QSize, QPoint> casos[] = {{{1920, 1080}, {960, 540}},
+                                               {{1367, 769}, {684, 384}},
+                                               {{1365, 767}, {682, 384}},
+                                               {{1, 3}, {0, 2}},
+                                               {{0, 0}, {0, 0}}};
+    for (const auto& [tamano, centro] : casos)
+        EXPECT_EQ(CentroDe(tamano), centro) << tamano.width() << "x" << tamano.height();
     EXPECT_EQ(CentroDeLaPantalla(), CentroDe(QGuiApplication::primaryScreen()->virtualSize()));
 }
 
@@ -89,72 +84,57 @@ TEST(Ventanas, PosicionDelCursorLeavesThePointAloneOnFailure) {
     FijaLectorCursor(anterior);
 }
 
-TEST(Ventanas, OcultaYMuestraNodrim) {
-    QWidget a, b, oculta;
-    a.show();
-    b.show();
-    ListaVentanas lista;
-    OcultaNodrim(lista);
-    ASSERT_TRUE(lista);
-    EXPECT_EQ(lista->size(), 2);
-    EXPECT_FALSE(a.isVisible());
-    EXPECT_FALSE(b.isVisible());
-    EXPECT_FALSE(lista->contains(&oculta));
-    {
-        QWidget efimera; // a form freed while hidden is skipped when showing again
-        efimera.show();
-        ListaVentanas otra;
-        OcultaNodrim(otra);
-        EXPECT_EQ(otra->size(), 1);
-        lista->append(&efimera);
-    }
-    MuestraNodrim(lista);
-    EXPECT_FALSE(lista);
-    EXPECT_TRUE(a.isVisible());
-    EXPECT_TRUE(b.isVisible());
-    EXPECT_FALSE(oculta.isVisible());
-    MuestraNodrim(lista); // an empty list is ignored
-}
-
 TEST(Ventanas, OcultaNodrimHidesTheActiveWindowLastSoItComesBackOnTop) {
     // Creation order a, b, c; the list the suite walks keeps the active window first.
-    const struct {
-        int activa; // index of the active window, -1 none
-        const char* ocultadas;
-    } casos[] = {{-1, "cba"}, {1, "cab"}, {0, "cba"}, {2, "bac"}};
-    for (const auto& k : casos) {
-        QWidget v[3];
+    // activa: index of the active window, -1 none
+    const std::tuple<int, const char*> casos[] = {{-1, "cba"}, {1, "cab"}, {0, "cba"}, {2, "bac"}};
+    for (const auto& [activa, ocultadas] : casos) {
+        QWidget v[3], oculta;
         for (int i = 0; i < 3; ++i) {
             v[i].setObjectName(QString(QLatin1Char('a' + i)));
             v[i].show();
         }
-        QApplication::setActiveWindow(k.activa < 0 ? nullptr : &v[k.activa]);
+        QApplication::setActiveWindow(activa < 0 ? nullptr : &v[activa]);
         ListaVentanas lista;
         OcultaNodrim(lista);
-        QString ocultadas;
+        ASSERT_TRUE(lista);
+        EXPECT_FALSE(lista->contains(&oculta)) << "a hidden window is left alone";
+        QString orden;
         for (const QPointer<QWidget>& w : *lista)
-            ocultadas += w->objectName();
-        EXPECT_EQ(ocultadas, QLatin1String(k.ocultadas)) << k.activa;
+            orden += w->isVisible() ? QStringLiteral("!") : w->objectName();
+        EXPECT_EQ(orden, QLatin1String(ocultadas)) << activa;
         MuestraNodrim(lista);
+        EXPECT_FALSE(lista);
+        for (const QWidget& w : v)
+            EXPECT_TRUE(w.isVisible()) << activa;
+        EXPECT_FALSE(oculta.isVisible());
     }
+    ListaVentanas lista;
+    {
+        QWidget efimera; // a form freed while hidden is skipped when showing again
+        efimera.show();
+        OcultaNodrim(lista);
+        EXPECT_EQ(lista->size(), 1);
+    }
+    MuestraNodrim(lista);
+    EXPECT_FALSE(lista);
+    MuestraNodrim(lista); // an empty list is ignored
 }
 
 TEST(Ventanas, TomaFocoLeavesTheWindowRestoredToItsPlacement) {
-    const struct {
-        bool maximizada, minimizada; // before the call
-    } casos[] = {{false, false}, {false, true}, {true, false}, {true, true}};
-    for (const auto& k : casos) {
-        QWidget principal;
-        k.maximizada ? principal.showMaximized() : principal.show();
-        if (k.minimizada) principal.showMinimized();
-        FijaVentanaPrincipal(&principal);
-        TomaFocoNodrim();
-        EXPECT_FALSE(principal.isMinimized()) << k.maximizada << k.minimizada;
-        EXPECT_EQ(principal.isMaximized(), k.maximizada) << k.maximizada << k.minimizada;
-        EXPECT_TRUE(principal.isVisible());
-        EXPECT_EQ(VentanaPrincipal(), &principal);
-        FijaVentanaPrincipal(nullptr);
-    }
+    for (bool maximizada : {false, true})
+        for (bool minimizada : {false, true}) { // the placement before the call
+            QWidget principal;
+            maximizada ? principal.showMaximized() : principal.show();
+            if (minimizada) principal.showMinimized();
+            FijaVentanaPrincipal(&principal);
+            TomaFocoNodrim();
+            EXPECT_FALSE(principal.isMinimized()) << maximizada << minimizada;
+            EXPECT_EQ(principal.isMaximized(), maximizada) << maximizada << minimizada;
+            EXPECT_TRUE(principal.isVisible());
+            EXPECT_EQ(VentanaPrincipal(), &principal);
+            FijaVentanaPrincipal(nullptr);
+        }
     TomaFoco(WId(0)); // not a window of the program: ignored
 }
 

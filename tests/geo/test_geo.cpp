@@ -20,12 +20,9 @@ namespace {
 
 class Geo : public ::testing::Test {
 protected:
-    void SetUp() override {
-        m_anterior = Config;
-        Config.Carga(prueba::OficinaMuestra());
-    }
+    void SetUp() override { Config.Carga(prueba::OficinaMuestra()); }
     void TearDown() override { Config = m_anterior; }
-    TConfig m_anterior;
+    TConfig m_anterior = Config;
 };
 
 struct Caso {
@@ -35,13 +32,12 @@ struct Caso {
     QString esperado = QString::fromUtf8(s);
 };
 
-TEST_F(Geo, CountryCodesByName) {
+TEST_F(Geo, CountryAndProvinceCodesAndNames) {
     EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ALEMANIA")), QStringLiteral("276"));
     EXPECT_EQ(Cod_PaisBOE(QStringLiteral("  FRANCIA ")), QStringLiteral("250"));
-    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("")), QStringLiteral("999"));
-    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ATLANTIDA")), QStringLiteral("999"));
-    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("ALEMAN")), QStringLiteral("999")) << "the key is matched whole";
-    EXPECT_EQ(Cod_PaisBOE(QStringLiteral("MADRID")), QStringLiteral("999")) << "provinces are filtered out";
+    // The key is matched whole, and provinces are filtered out.
+    for (const char* nombre : {"", "ATLANTIDA", "ALEMAN", "MADRID"})
+        EXPECT_EQ(Cod_PaisBOE(QString::fromLatin1(nombre)), QStringLiteral("999")) << nombre;
     EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("FRANCIA")), QStringLiteral("FRA"));
     EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("ESPAÑA")), QStringLiteral("ESP"));
     EXPECT_EQ(Cod_PaisISO3166(QStringLiteral("NINGUNO")), QStringLiteral("ESP"));
@@ -51,13 +47,9 @@ TEST_F(Geo, CountryCodesByName) {
     EXPECT_EQ(Cod_PaisCodigo(QStringLiteral("NINGUNO")), QStringLiteral("999"));
     EXPECT_EQ(Cod_PaisToNombre(codigo), QStringLiteral("ESPAÑA"));
     EXPECT_EQ(Cod_PaisISO3166PorCodigo(codigo), QStringLiteral("ESP"));
-}
-
-TEST_F(Geo, CodesToNames) {
     EXPECT_EQ(Cod_PaisISO3166PorCodigo(QStringLiteral("99")), QStringLiteral("ESP"));
-    EXPECT_EQ(Cod_PaisToNombre(QStringLiteral("0")), QStringLiteral("999"));
-    EXPECT_EQ(Cod_PaisToNombre(QStringLiteral("28")), QStringLiteral("999")) << "a province is not a country";
-    EXPECT_EQ(Cod_PaisToNombre(QStringLiteral("9999")), QStringLiteral("999"));
+    for (const char* codigo : {"0", "28", "9999"}) // a province (28) is not a country
+        EXPECT_EQ(Cod_PaisToNombre(QString::fromLatin1(codigo)), QStringLiteral("999")) << codigo;
     for (const Caso& c :
          {Caso{"28", "MADRID"}, Caso{"028", "MADRID"}, Caso{"15", "A CORUÑA"}, Caso{"52", "MELILLA"},
           Caso{"000", ""}, Caso{"", ""}, Caso{"53", ""}, Caso{"XX", ""}})
@@ -85,8 +77,6 @@ TEST_F(Geo, Municipalities) {
     EXPECT_EQ(BusquedaMunicipio(QStringLiteral("28"), QStringLiteral("999")), QString());
     EXPECT_EQ(BusquedaCodIne(false, QStringLiteral(" MADRID "), QStringLiteral("28")),
               QStringLiteral("28079"));
-    EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("MADRID"), QString()), QStringLiteral("28079"));
-    EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("MADRID"), QStringLiteral("08")), QString());
     EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("GAMINDE"), QString()), QString()) << "a minor entity";
     EXPECT_EQ(BusquedaCodIne(true, QStringLiteral("GAMINDE"), QStringLiteral("09")), QStringLiteral("09209"));
 }
@@ -95,26 +85,19 @@ TEST_F(Geo, Municipalities) {
 // Madrid's code and 20,000 parentheses crashed the process. A province code holds digits and blanks only:
 // any other text finds nothing, and the legitimate calls answer as they always did.
 TEST_F(Geo, Fault2ProvinceOfBusquedaCodIneIsACodeNotFilterText) {
-    const struct {
-        QString provincia;
-        const char* esperado;
-    } casos[] = {
-        {QStringLiteral("28"), "28079"},
-        {QStringLiteral(" 28 "), "28079"},
-        {QString(), "28079"},
-        {QStringLiteral("08"), ""},
-        {QStringLiteral("99 OR COD_PROV=28"), ""},
-        {QStringLiteral("28) OR (COD_PROV=08"), ""},
-        {QStringLiteral("'28'"), ""},
-        {QStringLiteral("(").repeated(20000) + QStringLiteral("28"), ""},
-        {QStringLiteral("28 OR ").repeated(50000) + QStringLiteral("28"), ""},
+    const auto madrid = [](const QString& provincia) {
+        return BusquedaCodIne(false, QStringLiteral("MADRID"), provincia);
     };
-    for (const auto& c : casos)
-        EXPECT_EQ(BusquedaCodIne(false, QStringLiteral("MADRID"), c.provincia), QLatin1String(c.esperado))
-            << qPrintable(c.provincia.left(40));
+    for (const QString& provincia : {QStringLiteral("28"), QStringLiteral(" 28 "), QString()})
+        EXPECT_EQ(madrid(provincia), QStringLiteral("28079")) << qPrintable(provincia);
+    for (const QString& provincia :
+         {QStringLiteral("08"), QStringLiteral("99 OR COD_PROV=28"), QStringLiteral("28) OR (COD_PROV=08"),
+          QStringLiteral("'28'"), QStringLiteral("(").repeated(20000) + QStringLiteral("28"),
+          QStringLiteral("28 OR ").repeated(50000) + QStringLiteral("28")})
+        EXPECT_EQ(madrid(provincia), QString()) << qPrintable(provincia.left(40));
 }
 
-TEST_F(Geo, MunicipalityOrEntityName) {
+TEST_F(Geo, MunicipalityOrEntityNameAndMinorEntityCheck) {
     struct C {
         const char *ine, *prov, *mun, *entidad, *esperado;
     };
@@ -128,38 +111,30 @@ TEST_F(Geo, MunicipalityOrEntityName) {
                                   QString::fromUtf8(c.mun), QString::fromUtf8(c.entidad)),
                   QString::fromUtf8(c.esperado))
             << c.ine << " " << c.entidad;
+    // A municipality sets only the code; the municipality's name is given for a minor entity only.
+    const struct {
+        const char *ine, *nombre, *entidad, *codMun, *municipio;
+    } entidades[] = {{"24089", "ARMUNIA", "ARMUNIA", "089", "LEÓN"},
+                     {"28079", "MADRID", "", "079", "sin tocar"},
+                     {"28079", "GETAFE", "", "0000", "sin tocar"},
+                     {"  ", "MADRID", "", "0000", "sin tocar"}};
+    for (const auto& c : entidades) {
+        QString codMun = QStringLiteral("x"), municipio = QStringLiteral("sin tocar");
+        EXPECT_EQ(
+            CompruebaEntidadMenor(QString::fromUtf8(c.ine), QString::fromUtf8(c.nombre), codMun, municipio),
+            QString::fromUtf8(c.entidad))
+            << c.nombre;
+        EXPECT_EQ(codMun, QString::fromUtf8(c.codMun)) << c.nombre;
+        EXPECT_EQ(municipio, QString::fromUtf8(c.municipio)) << c.nombre;
+    }
 }
 
-TEST_F(Geo, MinorEntityCheck) {
-    QString codMun = QStringLiteral("x"), municipio = QStringLiteral("sin tocar");
-    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("24089"), QStringLiteral("ARMUNIA"), codMun, municipio),
-              QStringLiteral("ARMUNIA"));
-    EXPECT_EQ(codMun, QStringLiteral("089"));
-    EXPECT_EQ(municipio, QStringLiteral("LEÓN"));
-
-    municipio = QStringLiteral("sin tocar");
-    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("28079"), QStringLiteral("MADRID"), codMun, municipio),
-              QString());
-    EXPECT_EQ(codMun, QStringLiteral("079")) << "the municipality itself sets the code only";
-    EXPECT_EQ(municipio, QStringLiteral("sin tocar"));
-
-    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("28079"), QStringLiteral("GETAFE"), codMun, municipio),
-              QString());
-    EXPECT_EQ(codMun, QStringLiteral("0000"));
-    EXPECT_EQ(CompruebaEntidadMenor(QStringLiteral("  "), QStringLiteral("MADRID"), codMun, municipio),
-              QString());
-    EXPECT_EQ(codMun, QStringLiteral("0000"));
-}
-
-TEST(GeoPuro, PoblacionFormateada) {
+TEST(GeoPuro, PoblacionFormateadaPlantaYEscalera) {
     for (const Caso& c :
          {Caso{"CORUÑA (A)", "*CORUÑA*"}, Caso{"PALMAS (LAS)", "*PALMAS*"},
           Caso{"SAN SEBASTIAN-DONOSTIA", "*SAN*SEBASTIAN*DONOSTIA*"}, Caso{"ALAVA/ARABA", "*ALAVA*ARABA*"},
           Caso{"(A)", "**"}, Caso{"", "**"}, Caso{"PRAT DE LLOBREGAT (EL)", "*PRAT*DE*LLOBREGAT*"}})
         EXPECT_EQ(PoblacionFormateada(c.entrada), c.esperado) << c.entrada.toStdString();
-}
-
-TEST(GeoPuro, PlantaYEscalera) {
     for (const Caso& c :
          {Caso{"3", "planta 3ª"}, Caso{"0", "planta baja"}, Caso{"pr", "principal"}, Caso{"+2", "sobreático"},
           Caso{"+1", "ático"}, Caso{"-1", "sótano"}, Caso{"-2", "sótano 2º"}, Caso{"en", "entreplanta"},
@@ -192,11 +167,7 @@ TEST(GeoSinTablas, MissingTablesGiveDefaults) {
     EXPECT_EQ(DomicilioClienteCompletoPorCodigo(1, 0, true), QString());
 }
 
-} // namespace
-
-namespace {
-
-TEST(Colegios, ExactNamesThenFragmentsInOrder) {
+TEST(Colegios, ExactNamesThenFragmentsInOrderOrTheConfiguredCollege) {
     struct C {
         const char *nombre, *alternativo, *esperado;
     };
@@ -211,9 +182,6 @@ TEST(Colegios, ExactNamesThenFragmentsInOrder) {
         EXPECT_EQ(ObtenCodColegioPorNombre(QString::fromUtf8(c.nombre), QString::fromUtf8(c.alternativo)),
                   QString::fromUtf8(c.esperado))
             << c.nombre;
-}
-
-TEST(Colegios, ConfiguredCollegeWhenNoNameIsGiven) {
     prueba::OficinaPrueba oficina(QStringLiteral("[NOTARIO1]\nColegio2=Navarra\n"));
     EXPECT_EQ(ObtenCodColegioPorNombre({}, {}), QStringLiteral("3150177"));
     Config.SetColegio(QStringLiteral("País Vasco"));

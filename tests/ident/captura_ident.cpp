@@ -12,12 +12,9 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
-#include <QStatusBar>
 #include <QTcpServer>
 #include <QTest>
 #include <QTimer>

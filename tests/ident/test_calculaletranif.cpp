@@ -20,31 +20,42 @@ protected:
     TFCalculaLetraNIF f;
 };
 
-TEST_F(DialogoLetraNIF, OpensInDniModeAndEachTypeShowsItsPanel) {
+// Switching DNI/CIF/NIE resized the window and moved the buttons, and a verdict narrowed its edit: each
+// type shows its own panel in place.
+TEST_F(DialogoLetraNIF, EachTypeShowsItsPanelInPlaceAndAVerdictKeepsTheEditWidth) {
     EXPECT_EQ(f.windowTitle(), QStringLiteral("Calculo de la letra del N.I.F."));
     EXPECT_TRUE(f.RBDNI->isChecked());
-    struct Caso {
-        QRadioButton* rb;
-        bool dni, cif, nie;
-    };
-    for (const Caso& c : {Caso{f.RBCIF, false, true, false}, Caso{f.RBNIE, false, false, true},
-                          Caso{f.RBDNI, true, false, false}}) {
+    const QSize tamano = f.size();
+    const QPoint salir = f.BBSalir->pos();
+    const QPoint accion = f.BBCalculaLetra->pos();
+    const int anchoCif = f.ECIF->width();
+    for (QRadioButton* rb : {f.RBCIF, f.RBNIE, f.RBDNI, f.RBNIE}) {
+        const bool dni = rb == f.RBDNI, cif = rb == f.RBCIF, nie = rb == f.RBNIE;
         f.ENIF->setText(QStringLiteral("1"));
         f.ECIF->setText(QStringLiteral("B"));
         f.ENIE->setText(QStringLiteral("X"));
-        QTest::mouseClick(c.rb, Qt::LeftButton);
-        EXPECT_EQ(f.PDNI->isVisible(), c.dni);
-        EXPECT_EQ(f.BBCalculaLetra->isVisible(), c.dni);
-        EXPECT_EQ(f.PCIF->isVisible(), c.cif);
-        EXPECT_EQ(f.PNIE->isVisible(), c.nie);
-        EXPECT_EQ(f.BBValidaCIF->isVisible(), !c.dni);
-        EXPECT_TRUE(f.ENIF->text().isEmpty() && f.ECIF->text().isEmpty() && f.ENIE->text().isEmpty());
-        if (c.cif) {
-            EXPECT_FALSE(f.LResultadoCIF_->isVisible());
-        }
-        if (c.nie) {
-            EXPECT_FALSE(f.LResultadoNIE_->isVisible());
-        }
+        QTest::mouseClick(rb, Qt::LeftButton);
+        QApplication::processEvents();
+        const std::string modo = rb->text().toStdString();
+        EXPECT_EQ(f.PDNI->isVisible(), dni) << modo;
+        EXPECT_EQ(f.BBCalculaLetra->isVisible(), dni) << modo;
+        EXPECT_EQ(f.PCIF->isVisible(), cif) << modo;
+        EXPECT_EQ(f.PNIE->isVisible(), nie) << modo;
+        EXPECT_EQ(f.BBValidaCIF->isVisible(), !dni) << modo;
+        EXPECT_TRUE(f.ENIF->text().isEmpty() && f.ECIF->text().isEmpty() && f.ENIE->text().isEmpty()) << modo;
+        EXPECT_FALSE(f.LResultadoCIF_->isVisible() || f.LResultadoNIE_->isVisible()) << modo;
+        EXPECT_EQ(f.size(), tamano) << modo;
+        EXPECT_EQ(f.BBSalir->pos(), salir) << modo;
+        EXPECT_EQ((dni ? f.BBCalculaLetra : f.BBValidaCIF)->pos(), accion) << modo;
+    }
+    QTest::mouseClick(f.RBCIF, Qt::LeftButton);
+    for (const char* cif : {"B58818501", "B58818502"}) {
+        f.ECIF->setText(QLatin1String(cif));
+        f.BBValidaCIF->click();
+        QApplication::processEvents();
+        EXPECT_TRUE(f.LResultadoCIF_->isVisible()) << cif;
+        EXPECT_EQ(f.ECIF->width(), anchoCif) << cif;
+        EXPECT_EQ(f.size(), tamano) << cif;
     }
 }
 
@@ -121,30 +132,6 @@ TEST_F(DialogoLetraNIF, DeleteAndTheEditingKeysWorkInTheDniEdit) {
     EXPECT_EQ(f.ENIF->text(), QStringLiteral("12345678")) << "a pasted or handed-in number keeps its digits";
 }
 
-// Switching DNI/CIF/NIE resized the window and moved the buttons, and a verdict narrowed its edit.
-TEST_F(DialogoLetraNIF, ModesAndVerdictsShowAndHideInPlace) {
-    const QSize tamano = f.size();
-    const QPoint salir = f.BBSalir->pos();
-    const QPoint accion = f.BBCalculaLetra->pos();
-    const int anchoCif = f.ECIF->width();
-    for (QRadioButton* rb : {f.RBCIF, f.RBNIE, f.RBDNI, f.RBNIE}) {
-        QTest::mouseClick(rb, Qt::LeftButton);
-        QApplication::processEvents();
-        EXPECT_EQ(f.size(), tamano) << rb->text().toStdString();
-        EXPECT_EQ(f.BBSalir->pos(), salir) << rb->text().toStdString();
-        EXPECT_EQ((f.RBDNI->isChecked() ? f.BBCalculaLetra : f.BBValidaCIF)->pos(), accion);
-    }
-    QTest::mouseClick(f.RBCIF, Qt::LeftButton);
-    for (const char* cif : {"B58818501", "B58818502"}) {
-        f.ECIF->setText(QLatin1String(cif));
-        f.BBValidaCIF->click();
-        QApplication::processEvents();
-        EXPECT_TRUE(f.LResultadoCIF_->isVisible());
-        EXPECT_EQ(f.ECIF->width(), anchoCif) << f.LResultadoCIF_->text().toStdString();
-        EXPECT_EQ(f.size(), tamano);
-    }
-}
-
 // "&Salir" and Escape gave 0 instead of the suite's cancel result.
 TEST(CalculaLetraNIFResultado, SalirEscapeAndTheCloseButtonGiveTwo) {
     for (int como : {0, 1, 2}) {
@@ -164,20 +151,16 @@ TEST(CalculaLetraNIFResultado, SalirEscapeAndTheCloseButtonGiveTwo) {
 // The verdict goes by the mode chosen, also on a form that is not on screen yet (built and driven by a
 // program before showing it).
 TEST(CalculaLetraNIFSinMostrar, VerdictFollowsTheChosenMode) {
-    struct Caso {
-        bool cif;
-        const char* numero;
-    };
-    for (const Caso& c : {Caso{true, "B58818501"}, Caso{false, "X1234567L"}}) {
+    for (bool cif : {true, false}) {
         TFCalculaLetraNIF f;
-        (c.cif ? f.RBCIF : f.RBNIE)->setChecked(true);
-        (c.cif ? f.ECIF : f.ENIE)->setText(QString::fromLatin1(c.numero));
+        (cif ? f.RBCIF : f.RBNIE)->setChecked(true);
+        (cif ? f.ECIF : f.ENIE)->setText(cif ? QStringLiteral("B58818501") : QStringLiteral("X1234567L"));
         f.BBValidaCIF->click();
-        QLabel* esperado = c.cif ? f.LResultadoCIF_ : f.LResultadoNIE_;
-        QLabel* otro = c.cif ? f.LResultadoNIE_ : f.LResultadoCIF_;
-        EXPECT_FALSE(esperado->isHidden()) << c.numero;
-        EXPECT_EQ(esperado->text(), QStringLiteral("Correcto")) << c.numero;
-        EXPECT_EQ(otro->text(), QStringLiteral("Incorrecto")) << c.numero;
+        QLabel* esperado = cif ? f.LResultadoCIF_ : f.LResultadoNIE_;
+        QLabel* otro = cif ? f.LResultadoNIE_ : f.LResultadoCIF_;
+        EXPECT_FALSE(esperado->isHidden()) << cif;
+        EXPECT_EQ(esperado->text(), QStringLiteral("Correcto")) << cif;
+        EXPECT_EQ(otro->text(), QStringLiteral("Incorrecto")) << cif;
     }
 }
 

@@ -4,7 +4,6 @@
 #include "ident/cif.h"
 #include "ident/controlcatastral.h"
 
-#include <QFile>
 #include <QProcess>
 #include <gtest/gtest.h>
 
@@ -37,10 +36,12 @@ protected:
         if (s_casos.empty())
             GTEST_SKIP() << "python3-stdnum is not installed (tools/setup-debian.sh installs it)";
     }
-    std::vector<Caso> de(const QString& tipo) const {
+    // The cases of one kind, as many as the script draws of it.
+    static std::vector<Caso> de(const char* tipo, size_t cuantos) {
         std::vector<Caso> r;
         for (const Caso& c : s_casos)
-            if (c.tipo == tipo) r.push_back(c);
+            if (c.tipo == QLatin1String(tipo)) r.push_back(c);
+        EXPECT_EQ(r.size(), cuantos) << tipo;
         return r;
     }
     static inline std::vector<Caso> s_casos;
@@ -51,31 +52,22 @@ QChar otraLetra(QChar c) {
     return c == u'A' ? u'B' : u'A';
 }
 
-TEST_F(Contraste, NifLetterMatchesAndWrongLetterFails) {
-    const auto casos = de(QStringLiteral("NIF"));
-    ASSERT_EQ(casos.size(), 400u);
-    for (const Caso& c : casos) {
+TEST_F(Contraste, NifAndNieLettersMatchWrongLettersFailAndEsCifReadsXAsZero) {
+    for (const Caso& c : de("NIF", 400)) {
         EXPECT_EQ(QString(LetraNIF(c.numero.toLongLong())), c.control) << qPrintable(c.numero);
         EXPECT_TRUE(EsNif(c.numero + c.control, false)) << qPrintable(c.numero);
         EXPECT_TRUE(EsCif(c.numero + c.control)) << qPrintable(c.numero);
         EXPECT_FALSE(EsNif(c.numero + otraLetra(c.control[0]), false)) << qPrintable(c.numero);
     }
-}
-
-TEST_F(Contraste, NieLetterMatchesAndXIsReadAsZeroByEsCif) {
-    const auto casos = de(QStringLiteral("NIE"));
-    ASSERT_EQ(casos.size(), 400u);
-    for (const Caso& c : casos) {
+    for (const Caso& c : de("NIE", 400)) {
         EXPECT_TRUE(EsUnNie(c.numero + c.control, false)) << qPrintable(c.numero);
         EXPECT_FALSE(EsUnNie(c.numero + otraLetra(c.control[0]), false)) << qPrintable(c.numero);
         EXPECT_EQ(EsCif(c.numero + c.control), c.numero[0] == u'X') << qPrintable(c.numero);
     }
 }
 
-TEST_F(Contraste, CifControlDigitAndLetter) {
-    const auto casos = de(QStringLiteral("CIF"));
-    ASSERT_EQ(casos.size(), 400u);
-    for (const Caso& c : casos) {
+TEST_F(Contraste, CifControlDigitAndLetterAndCadastralControlLetters) {
+    for (const Caso& c : de("CIF", 400)) {
         const QChar digito = c.control[0], letra = c.control[1];
         const QChar letraInicial = c.numero[0];
         EXPECT_EQ(ControlCIF(QStringView(c.numero).mid(1)), digito.digitValue()) << qPrintable(c.numero);
@@ -97,12 +89,7 @@ TEST_F(Contraste, CifControlDigitAndLetter) {
         EXPECT_EQ(EsCif(c.numero + digito), aceptada && !(ps && digito == u'0')) << qPrintable(c.numero);
         EXPECT_EQ(EsCif(c.numero + otroDigito), libre) << qPrintable(c.numero);
     }
-}
-
-TEST_F(Contraste, CadastralControlLetters) {
-    const auto casos = de(QStringLiteral("RC"));
-    ASSERT_EQ(casos.size(), 800u);
-    for (const Caso& c : casos) {
+    for (const Caso& c : de("RC", 800)) {
         EXPECT_EQ(LetrasControlCatastral(c.numero), c.control) << qPrintable(c.numero);
         EXPECT_TRUE(ControlCatastralCorrecto(c.numero + c.control)) << qPrintable(c.numero);
         EXPECT_FALSE(ControlCatastralCorrecto(c.numero + c.control[0] + otraLetra(c.control[1])));

@@ -11,7 +11,7 @@ json pide(const char* linea) {
     return AtiendeLinea(linea, 1);
 }
 
-TEST(LoteIdent, RoutinesAnswerWithTheirJsonTypes) {
+TEST(LoteIdent, RoutinesAnswerWithTheirJsonTypesAndOutValues) {
     const std::pair<const char*, json> casos[] = {
         {R"({"fn":"NIF","args":["12345678"]})", "12.345.678-Z"},
         {R"({"fn":"EsCif","args":["A58818501"]})", true},
@@ -22,16 +22,12 @@ TEST(LoteIdent, RoutinesAnswerWithTheirJsonTypes) {
         {R"({"fn":"LetrasControlCatastral","args":["9872023VH5797S0001"]})", "WX"},
         {R"({"fn":"DecodificaEstadoCivil","args":[6,"M",true]})", "vídua"},
         {R"({"fn":"CodificaTipoJuridico","args":["sociedad colectiva"]})", 1},
-        {R"({"fn":"Don","args":["M","C",0]})", "Doña"},
-    };
+        {R"({"fn":"Don","args":["M","C",0]})", "Doña"}};
     for (const auto& [linea, resultado] : casos) {
         const json r = pide(linea);
         ASSERT_FALSE(r.contains("error")) << r.dump();
         EXPECT_EQ(r["result"], resultado) << linea;
     }
-}
-
-TEST(LoteIdent, SurfaceComesBackAsAnOutValue) {
     const json r = pide(R"({"fn":"ExtraeSuperficiesRustica","args":["2 HECTAREAS 12 CENTIAREAS",0]})");
     ASSERT_FALSE(r.contains("error")) << r.dump();
     ASSERT_EQ(r["out"].size(), 1u);

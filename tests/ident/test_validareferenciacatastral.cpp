@@ -64,24 +64,31 @@ protected:
     TFValidaReferenciaCatastral f;
 };
 
-TEST_F(DialogoRefCatastral, ShowsTheTrimmedReferenceAndAceptarHandsBackTheTypedOne) {
+TEST_F(DialogoRefCatastral, ShowsTheReferenceTrimmedInUpperCaseAndAceptarHandsBackTheTypedOne) {
     EXPECT_EQ(f.windowTitle(), QStringLiteral("Validación de Referencias Catastrales"));
     EXPECT_EQ(f.ERCRefCatastral->text(), QStringLiteral("0000123VH5797S0001AA"));
     EXPECT_TRUE(f.RBUrbana->isChecked());
     EXPECT_FALSE(f.BBValidar->isVisible());
-    escribe(QStringLiteral("9872023vh5797s0001wx "));
-    EXPECT_EQ(f.ERCRefCatastral->text(), QStringLiteral("9872023VH5797S0001WX")); // upper case, 20 at most
+    // Pasted text is upper-cased too, and cut at 20 characters.
+    QApplication::clipboard()->setText(QStringLiteral("9872023vh5797s0001wx "));
+    f.ERCRefCatastral->selectAll();
+    f.ERCRefCatastral->paste();
+    EXPECT_EQ(f.ERCRefCatastral->text(), QStringLiteral("9872023VH5797S0001WX"));
     QTest::mouseClick(f.BBAceptar, Qt::LeftButton);
     EXPECT_EQ(f.result(), 1);
     EXPECT_EQ(Config.GetRefCatastralActual(), QStringLiteral("9872023VH5797S0001WX"));
+    // Only typed text was upper-cased: a reference handed in lower case was shown and returned so.
+    Config.SetRefCatastralActual(QStringLiteral(" 9872023vh5797s0001wx "));
+    TFValidaReferenciaCatastral g;
+    g.show();
+    EXPECT_EQ(g.ERCRefCatastral->text(), QStringLiteral("9872023VH5797S0001WX"));
 }
 
 TEST_F(DialogoRefCatastral, TypedLettersTurnUpperCaseOneForOne) {
     const std::pair<const char16_t*, const char16_t*> casos[] = {
         {u"9872023vh5797s0001wx", u"9872023VH5797S0001WX"},
         {u"123\u00df\u00e1\u00f1", u"123\u00df\u00c1\u00d1"}, // "ß" stays one character
-        {u"1234567890123456789\u00df", u"1234567890123456789\u00df"},
-    };
+        {u"1234567890123456789\u00df", u"1234567890123456789\u00df"}};
     for (const auto& [tecleado, mostrado] : casos) {
         f.ERCRefCatastral->clear();
         // Key by key as a keyboard sends them (QTest's key helpers take ASCII only).
@@ -132,64 +139,28 @@ TEST_F(DialogoRefCatastral, ValidationReportsEachResultWithItsMessage) {
         const char16_t* formateada;
         const char16_t* mensaje;
     };
+    const char16_t* valida = u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida.";
+    const char16_t* patron = u"Mensaje_Error|Error|La referencia Catastral NO es válida. Patrón incorrecto";
+    const char16_t* sinConexion =
+        u"Mensaje_Error|Error|No se ha podido establecer la conexión para comprobar la Referencia.";
     const Caso casos[] = {
-        {1,
-         false,
-         "9872023VH5797S0001WX",
-         {},
-         u"9872023VH5797S0001WX",
-         u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida."},
-        {1,
-         false,
-         "9872023VH5797S0001XW",
-         {},
-         u"9872023VH5797S0001XW",
-         u"Mensaje_Error|Error|La referencia Catastral NO es válida. Patrón incorrecto"},
-        {0,
-         false,
-         "123VH5797S1XW",
-         {},
-         u"0000123VH5797S0001XW",
-         u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida."},
-        {1,
-         true,
-         "28079A1001AB",
-         {},
-         u"28079A000000001001AB",
-         u"Mensaje_Error|Error|La referencia Catastral NO es válida. Patrón incorrecto"},
-        {0,
-         true,
-         "28079A1001AB",
-         {},
-         u"28079A000000001001AB",
-         u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida."},
+        {1, false, "9872023VH5797S0001WX", {}, u"9872023VH5797S0001WX", valida},
+        {1, false, "9872023VH5797S0001XW", {}, u"9872023VH5797S0001XW", patron},
+        {0, false, "123VH5797S1XW", {}, u"0000123VH5797S0001XW", valida},
+        {1, true, "28079A1001AB", {}, u"28079A000000001001AB", patron},
+        {0, true, "28079A1001AB", {}, u"28079A000000001001AB", valida},
         {2, false, "9872023VH5797S0001WX", kRespuestaCeuta, u"9872023VH5797S0001WX",
          u"Mensaje_Info|Validación Positiva|La Referencia Catastral es Válida. Según Catastro"},
         {2, false, "9872023VH5797S0001WX", "<ERR>", u"9872023VH5797S0001WX",
          u"Mensaje_Error|Error|La referencia Catastral NO es válida. Según Catastro"},
-        {2,
-         false,
-         "9872023VH5797S0001WX",
-         {},
-         u"9872023VH5797S0001WX",
-         u"Mensaje_Error|Error|No se ha podido establecer la conexión para comprobar la Referencia."},
-        {2,
-         false,
-         "",
-         {},
-         u"",
-         u"Mensaje_Error|Error|La referencia Catastral NO es válida. Patrón incorrecto"},
-    };
+        {2, false, "9872023VH5797S0001WX", {}, u"9872023VH5797S0001WX", sinConexion},
+        {2, false, "", {}, u"", patron}};
+    const QString cerrado = QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado());
     for (const Caso& c : casos) {
         mensajes.limpia();
         Config.SetnValidacionRefCat(c.modo);
-        if (c.respuesta.isEmpty())
-            Config.SetServidorCatastro(
-                QStringLiteral("http://127.0.0.1:%1").arg(prueba::ServidorHttp::puertoCerrado()));
-        else {
-            Config.SetServidorCatastro(servidor.base());
-            servidor.respondeCon(c.respuesta);
-        }
+        Config.SetServidorCatastro(c.respuesta.isEmpty() ? cerrado : servidor.base());
+        servidor.respondeCon(c.respuesta);
         (c.rustica ? f.RBRustica : f.RBUrbana)->setChecked(true);
         escribe(QString::fromLatin1(c.entrada));
         f.BBValidar->click();
@@ -245,11 +216,8 @@ TEST_F(DialogoRefCatastral, CatastroOpensTheConsultationPageOrSaysWhy) {
 // second click started a second request, and after Cancel both answers still came: two boxes, or the
 // browser opening after the clerk had cancelled. The peer here answers, but only after 700 ms.
 TEST_F(DialogoRefCatastral, CatastroWaitBlocksTheDialogAndAbandonedAnswersAreDropped) {
-    const struct {
-        const char* como;
-        bool cancelar; // "&Cancelar" (closes the dialog), else Escape (the dialog stays)
-    } casos[] = {{"Cancelar", true}, {"Escape", false}};
-    for (const auto& k : casos) {
+    for (bool cancelar : {true, false}) { // "&Cancelar" closes the dialog, Escape leaves it open
+        const char* como = cancelar ? "Cancelar" : "Escape";
         TFValidaReferenciaCatastral g;
         g.show();
         QApplication::setActiveWindow(&g);
@@ -261,13 +229,13 @@ TEST_F(DialogoRefCatastral, CatastroWaitBlocksTheDialogAndAbandonedAnswersAreDro
         bool visto = false;
         QTimer::singleShot(200, &g, [&] {
             visto = true;
-            EXPECT_EQ(g.cursor().shape(), Qt::WaitCursor) << k.como;
-            EXPECT_TRUE(mensajes.esperaVisible()) << k.como;
-            EXPECT_FALSE(g.ERCRefCatastral->isEnabled()) << k.como;
-            EXPECT_FALSE(g.BBCatastro->isEnabled()) << k.como;
-            EXPECT_TRUE(g.BBCancelar->isEnabled()) << k.como;
+            EXPECT_EQ(g.cursor().shape(), Qt::WaitCursor) << como;
+            EXPECT_TRUE(mensajes.esperaVisible()) << como;
+            EXPECT_FALSE(g.ERCRefCatastral->isEnabled()) << como;
+            EXPECT_FALSE(g.BBCatastro->isEnabled()) << como;
+            EXPECT_TRUE(g.BBCancelar->isEnabled()) << como;
             QTest::mouseClick(g.BBCatastro, Qt::LeftButton); // the second click
-            if (k.cancelar)
+            if (cancelar)
                 QTest::mouseClick(g.BBCancelar, Qt::LeftButton);
             else
                 QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &g,
@@ -275,13 +243,13 @@ TEST_F(DialogoRefCatastral, CatastroWaitBlocksTheDialogAndAbandonedAnswersAreDro
         });
         QTest::mouseClick(g.BBCatastro, Qt::LeftButton);
         QTest::qWait(1200); // the answer has come and gone
-        EXPECT_TRUE(visto) << k.como;
-        EXPECT_EQ(servidor.peticiones().size() - antes, 1) << k.como;
-        EXPECT_TRUE(abiertas.isEmpty()) << k.como;
-        EXPECT_TRUE(textos().isEmpty()) << k.como << ": " << textos().join(u' ').toStdString();
-        EXPECT_FALSE(mensajes.esperaVisible()) << k.como;
-        EXPECT_EQ(g.isVisible(), !k.cancelar) << k.como;
-        if (k.cancelar) {
+        EXPECT_TRUE(visto) << como;
+        EXPECT_EQ(servidor.peticiones().size() - antes, 1) << como;
+        EXPECT_TRUE(abiertas.isEmpty()) << como;
+        EXPECT_TRUE(textos().isEmpty()) << como << ": " << textos().join(u' ').toStdString();
+        EXPECT_FALSE(mensajes.esperaVisible()) << como;
+        EXPECT_EQ(g.isVisible(), !cancelar) << como;
+        if (cancelar) {
             EXPECT_EQ(g.result(), 2);
             EXPECT_EQ(Config.GetRefCatastralActual(), QStringLiteral("0000123VH5797S0001AA"));
         } else {
@@ -289,20 +257,6 @@ TEST_F(DialogoRefCatastral, CatastroWaitBlocksTheDialogAndAbandonedAnswersAreDro
             EXPECT_EQ(g.cursor().shape(), Qt::ArrowCursor);
         }
     }
-}
-
-// Only typed text was upper-cased: a reference handed in lower case was shown and returned so.
-TEST_F(DialogoRefCatastral, AReferenceHandedInLowerCaseIsShownAndReturnedInUpperCase) {
-    Config.SetRefCatastralActual(QStringLiteral(" 9872023vh5797s0001wx "));
-    TFValidaReferenciaCatastral g;
-    g.show();
-    EXPECT_EQ(g.ERCRefCatastral->text(), QStringLiteral("9872023VH5797S0001WX"));
-    QApplication::clipboard()->setText(QStringLiteral("28079a000000001001ab"));
-    g.ERCRefCatastral->selectAll();
-    g.ERCRefCatastral->paste();
-    EXPECT_EQ(g.ERCRefCatastral->text(), QStringLiteral("28079A000000001001AB"));
-    QTest::mouseClick(g.BBAceptar, Qt::LeftButton);
-    EXPECT_EQ(Config.GetRefCatastralActual(), QStringLiteral("28079A000000001001AB"));
 }
 
 TEST(IValidaReferenciaCatastral, EscapeClosesTheModalDialogAndLeavesNoWindow) {

@@ -5,35 +5,29 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace nod::prueba {
 
 namespace {
 
 constexpr unsigned M0 = 1, M1 = 2, M2 = 4, M3 = 8;
 
-TCampoDbf N(const char* nombre, int longitud) {
-    return {QLatin1String(nombre), 'N', longitud, 0};
-}
-TCampoDbf C(const char* nombre, int longitud) {
-    return {QLatin1String(nombre), 'C', longitud, 0};
-}
-TCampoDbf D(const char* nombre) {
-    return {QLatin1String(nombre), 'D', 8, 0};
-}
+// Numeric, text and date fields.
+const auto N = [](const char* n, int l) { return TCampoDbf{QLatin1String(n), 'N', l, 0}; };
+const auto C = [](const char* n, int l) { return TCampoDbf{QLatin1String(n), 'C', l, 0}; };
+const auto D = [](const char* n) { return TCampoDbf{QLatin1String(n), 'D', 8, 0}; };
 
+TablaRevisionPrueba otra(const char* nombre, const char* fichero, const char* campoCliente,
+                         const QList<TCampoDbf>& campos, unsigned modos) {
+    return {QLatin1String(nombre), QLatin1String(fichero), QLatin1String(campoCliente), campos, modos};
+}
 TablaRevisionPrueba protocolo(const char* nombre, unsigned modos) {
-    return {QLatin1String(nombre),
-            QLatin1String(nombre),
-            QStringLiteral("CODCLIENTE"),
-            {N("CODNUMERO", 12), N("CODCLIENTE", 8), C("TEXTO", 20)},
-            modos};
+    return otra(nombre, nombre, "CODCLIENTE", {N("CODNUMERO", 12), N("CODCLIENTE", 8), C("TEXTO", 20)},
+                modos);
 }
 TablaRevisionPrueba factura(const char* nombre) {
-    return {QLatin1String(nombre),
-            QLatin1String(nombre),
-            QStringLiteral("CODCLIENTE"),
-            {N("CODFACTURA", 12), N("CODCLIENTE", 8)},
-            M3};
+    return otra(nombre, nombre, "CODCLIENTE", {N("CODFACTURA", 12), N("CODCLIENTE", 8)}, M3);
 }
 
 // The field's text for record i, right- or left-justified to its width.
@@ -42,7 +36,7 @@ QByteArray valor(const TCampoDbf& c, const TablaRevisionPrueba& t, qint64 i, qin
     if (c.nombre == t.campoCliente)
         v = QByteArray::number(cliente);
     else if (c.tipo == 'D')
-        v = QDate(2024, 1, 1).addDays(i).toString(QStringLiteral("yyyyMMdd")).toLatin1();
+        v = QDate(2024, 1, 1).addDays(i).toString(u"yyyyMMdd"_s).toLatin1();
     else if (c.nombre == QLatin1String("SERIE"))
         v = i % 2 ? "B" : "A";
     else if (c.tipo == 'C')
@@ -90,42 +84,20 @@ void escribe(const QString& ruta, const QList<TCampoDbf>& campos, qint64 n,
 const QList<TablaRevisionPrueba>& TablasRevisionPrueba() {
     static const QList<TablaRevisionPrueba> t = {
         protocolo("ACTIVOS", M0 | M1),
-        {QStringLiteral("APODERADOS"),
-         QStringLiteral("APODERAD"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODPODER", 8), N("CODCLIENTE", 8)},
-         M0},
-        {QStringLiteral("APUNTES"),
-         QStringLiteral("APUNTES"),
-         QStringLiteral("CODCLIENTE"),
-         {N("ASIENTO", 8), D("FECHA"), C("SERIE", 1), N("FACTURA", 10), N("CODCLIENTE", 8)},
-         M0},
-        {QStringLiteral("BANCOS"),
-         QStringLiteral("BANCOS"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODBANCO", 4), C("NOMBRE", 40), N("CODCLIENTE", 8)},
-         M0},
+        otra("APODERADOS", "APODERAD", "CODCLIENTE", {N("CODPODER", 8), N("CODCLIENTE", 8)}, M0),
+        otra("APUNTES", "APUNTES", "CODCLIENTE",
+             {N("ASIENTO", 8), D("FECHA"), C("SERIE", 1), N("FACTURA", 10), N("CODCLIENTE", 8)}, M0),
+        otra("BANCOS", "BANCOS", "CODCLIENTE", {N("CODBANCO", 4), C("NOMBRE", 40), N("CODCLIENTE", 8)}, M0),
         protocolo("CLAVES", M1 | M2 | M3),
         protocolo("CLAVES_C", M1 | M2 | M3),
-        {QStringLiteral("CLAVES_E"),
-         QStringLiteral("CLAVES_E"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODENTRADA", 12), N("CODCLIENTE", 8)},
-         M0},
+        otra("CLAVES_E", "CLAVES_E", "CODCLIENTE", {N("CODENTRADA", 12), N("CODCLIENTE", 8)}, M0),
         protocolo("CLAVES_I", M1 | M2 | M3),
         protocolo("CLAVES_L", M3),
         protocolo("CLAVES_P", M3),
         protocolo("CLAVES_S", M1 | M2 | M3),
-        {QStringLiteral("CLIENTES"),
-         QStringLiteral("CLIENTES"),
-         QStringLiteral("CONYUGE"),
-         {N("CODIGO", 8), C("APELLIDOS", 40), C("NOMBRE", 30), N("CONYUGE", 8)},
-         M0},
-        {QStringLiteral("DEPOSITO"),
-         QStringLiteral("DEPOSITO"),
-         QStringLiteral("CLIENTE"),
-         {N("ASIENTO", 6), D("FECHA"), N("CLIENTE", 8)},
-         M0},
+        otra("CLIENTES", "CLIENTES", "CONYUGE",
+             {N("CODIGO", 8), C("APELLIDOS", 40), C("NOMBRE", 30), N("CONYUGE", 8)}, M0),
+        otra("DEPOSITO", "DEPOSITO", "CLIENTE", {N("ASIENTO", 6), D("FECHA"), N("CLIENTE", 8)}, M0),
         protocolo("DEUDAS", M1 | M3),
         protocolo("ENTRADAS", M0),
         protocolo("FACTURAA", M1 | M3),
@@ -137,24 +109,12 @@ const QList<TablaRevisionPrueba>& TablasRevisionPrueba() {
         factura("FACTURAF"),
         protocolo("FACTURAG", M3),
         protocolo("PLUSVAL", M1 | M2 | M3),
-        {QStringLiteral("PODERES"),
-         QStringLiteral("PODERES"),
-         QStringLiteral("PODERDANTE"),
-         {N("CODPODER", 8), N("PODERDANTE", 8)},
-         M0},
+        otra("PODERES", "PODERES", "PODERDANTE", {N("CODPODER", 8), N("PODERDANTE", 8)}, M0),
         protocolo("POLIZAS", M3),
         protocolo("TESTIGOS", M1 | M2 | M3),
-        {QStringLiteral("TIT_CLI"),
-         QStringLiteral("TIT_CLI"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODCLIENTE", 8), N("SOCIEDAD", 8)},
-         0},
+        otra("TIT_CLI", "TIT_CLI", "CODCLIENTE", {N("CODCLIENTE", 8), N("SOCIEDAD", 8)}, 0),
         protocolo("TIT_REL", M1 | M3),
-        {QStringLiteral("VALORES"),
-         QStringLiteral("VALORES"),
-         QStringLiteral("CODCLIENTE"),
-         {N("CODNUMERO", 8), N("CODCLIENTE", 8)},
-         M3},
+        otra("VALORES", "VALORES", "CODCLIENTE", {N("CODNUMERO", 8), N("CODCLIENTE", 8)}, M3),
     };
     return t;
 }
@@ -172,9 +132,9 @@ QString CarpetaDeModo(int modo) {
 }
 
 QString ConfigOficinaRevision() {
-    return QStringLiteral("[GENERAL]\nAliasNodrim=DB\nAliasNotario=DBNOTARIO\nNumeroNotarios=1\nNotario=1\n"
-                          "[ALIAS]\nDB=COMUN\nDBBORRADOR=BORRADOR\nDBARCHIVO=ARCHIVO\nDBNOTARIO1=NOTARIO1\n"
-                          "[TABLAS]\nEsperaBloqueo=200\n");
+    return u"[GENERAL]\nAliasNodrim=DB\nAliasNotario=DBNOTARIO\nNumeroNotarios=1\nNotario=1\n"
+           "[ALIAS]\nDB=COMUN\nDBBORRADOR=BORRADOR\nDBARCHIVO=ARCHIVO\nDBNOTARIO1=NOTARIO1\n"
+           "[TABLAS]\nEsperaBloqueo=200\n"_s;
 }
 
 void EscribeTablaRevision(const QString& ruta, const TablaRevisionPrueba& t, qint64 n,
@@ -189,7 +149,7 @@ void EscribeTablaRevision(const QString& ruta, const TablaRevisionPrueba& t, qin
 }
 
 void EscribeClientes(const QString& ruta, qint64 n, const std::function<qint64(qint64)>& conyuge) {
-    const TablaRevisionPrueba& t = TablaRevisionPorNombre(QStringLiteral("CLIENTES"));
+    const TablaRevisionPrueba& t = TablaRevisionPorNombre(u"CLIENTES"_s);
     escribe(ruta, t.campos, n, [&](qint64 i) {
         return QByteArray::number(i + 1).rightJustified(8, ' ') +
                ("APELLIDOS " + QByteArray::number(i)).leftJustified(40, ' ') +

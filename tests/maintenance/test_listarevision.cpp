@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace nod;
 
 namespace {
@@ -26,10 +28,9 @@ QString ejecuta(const QString& programa, const QStringList& argumentos) {
 TMensajesRevision lineas(int n) {
     TMensajesRevision l;
     for (int i = 0; i < n; ++i)
-        l.append({QStringLiteral("En la Tabla CLAVES del NOTARIO 1"),
-                  QStringLiteral("El otorgante del protocolo %1/2.024 referencia al cliente 9.%2")
-                      .arg(i + 1)
-                      .arg(i, 3, 10, QLatin1Char('0')),
+        l.append({u"En la Tabla CLAVES del NOTARIO 1"_s,
+                  u"El otorgante del protocolo %1/2.024 referencia al cliente 9.%2"_s.arg(i + 1).arg(
+                      i, 3, 10, QLatin1Char('0')),
                   9000 + i});
     return l;
 }
@@ -38,11 +39,9 @@ class ListaRevision : public ::testing::Test {
 protected:
     // The PDF's text, page by page (pdftotext separates pages with a form feed).
     QStringList paginas(const TQRListaRevisionCodCliente& lista) {
-        const QString pdf = dir.filePath(QStringLiteral("lista.pdf"));
+        const QString pdf = dir.filePath(u"lista.pdf"_s);
         EXPECT_TRUE(lista.GuardaPdf(pdf));
-        QStringList p =
-            ejecuta(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")})
-                .split(QLatin1Char('\f'));
+        QStringList p = ejecuta(u"pdftotext"_s, {u"-layout"_s, pdf, u"-"_s}).split(QLatin1Char('\f'));
         if (!p.isEmpty() && p.last().trimmed().isEmpty()) p.removeLast();
         return p;
     }
@@ -50,58 +49,55 @@ protected:
 };
 
 TEST_F(ListaRevision, EveryPageCarriesTheHeadsAndTheLinesComeInOrder) {
-    const TQRListaRevisionCodCliente lista(lineas(150), QStringLiteral("(En todas las tablas)"),
-                                           QDate(2024, 5, 31));
+    const TQRListaRevisionCodCliente lista(lineas(150), u"(En todas las tablas)"_s, QDate(2024, 5, 31));
     const QStringList p = paginas(lista);
     ASSERT_GE(p.size(), 2) << "150 lines do not fit one A4 page";
     for (int n = 0; n < p.size(); ++n) {
         SCOPED_TRACE(n + 1);
-        EXPECT_TRUE(p[n].contains(QStringLiteral("DOCUMENTOS CON CÓDIGOS DE CLIENTES ERRÓNEOS")));
-        EXPECT_TRUE(p[n].contains(QStringLiteral("(En todas las tablas)")));
-        EXPECT_TRUE(p[n].contains(QRegularExpression(QStringLiteral("Tabla +Mensaje +Código"))));
-        EXPECT_TRUE(p[n].contains(QStringLiteral("Página %1 de %2").arg(n + 1).arg(p.size())));
-        EXPECT_TRUE(p[n].contains(QStringLiteral("31/05/2024")));
+        EXPECT_TRUE(p[n].contains(u"DOCUMENTOS CON CÓDIGOS DE CLIENTES ERRÓNEOS"_s));
+        EXPECT_TRUE(p[n].contains(u"(En todas las tablas)"_s));
+        EXPECT_TRUE(p[n].contains(QRegularExpression(u"Tabla +Mensaje +Código"_s)));
+        EXPECT_TRUE(p[n].contains(u"Página %1 de %2"_s.arg(n + 1).arg(p.size())));
+        EXPECT_TRUE(p[n].contains(u"31/05/2024"_s));
     }
     // Every line once, in order: table, message and code on one printed row.
     const QString todo = p.join(QLatin1Char('\n'));
     qsizetype desde = 0;
     for (const TMensajeRevision& l : lista.Lineas()) {
-        const QRegularExpression fila(QRegularExpression::escape(l.TABLA) + QStringLiteral(" +") +
-                                      QRegularExpression::escape(l.MENSAJE) + QStringLiteral(" +") +
-                                      QRegularExpression::escape(AgrupaMiles(QString::number(l.CODCLIENTE))) +
-                                      QStringLiteral("\n"));
+        const QRegularExpression fila(
+            QRegularExpression::escape(l.TABLA) + u" +"_s + QRegularExpression::escape(l.MENSAJE) + u" +"_s +
+            QRegularExpression::escape(AgrupaMiles(QString::number(l.CODCLIENTE))) + u"\n"_s);
         const auto m = fila.match(todo, desde);
         ASSERT_TRUE(m.hasMatch()) << l.MENSAJE.toStdString();
         desde = m.capturedEnd();
     }
-    const QString info = ejecuta(QStringLiteral("pdfinfo"), {dir.filePath(QStringLiteral("lista.pdf"))});
-    EXPECT_TRUE(info.contains(QRegularExpression(QStringLiteral("Title: +Listado Clientes Repetidos"))))
+    const QString info = ejecuta(u"pdfinfo"_s, {dir.filePath(u"lista.pdf"_s)});
+    EXPECT_TRUE(info.contains(QRegularExpression(u"Title: +Listado Clientes Repetidos"_s)))
         << info.toStdString();
-    EXPECT_TRUE(info.contains(QRegularExpression(QStringLiteral("Page size: +595 x 842 pts \\(A4\\)"))))
+    EXPECT_TRUE(info.contains(QRegularExpression(u"Page size: +595 x 842 pts \\(A4\\)"_s)))
         << info.toStdString();
 }
 
 TEST_F(ListaRevision, LongTextsWrapInsideTheirColumn) {
     TMensajesRevision l = lineas(1);
-    l[0].MENSAJE = QStringLiteral("El cliente  GONZÁLEZ DE LA SERNA Y MARTÍNEZ DE IRUJO, MARÍA DEL CARMEN "
-                                  "INMACULADA (1.234) referencia al cliente 987.654");
+    l[0].MENSAJE = u"El cliente  GONZÁLEZ DE LA SERNA Y MARTÍNEZ DE IRUJO, MARÍA DEL CARMEN "
+                   "INMACULADA (1.234) referencia al cliente 987.654"_s;
     const QStringList p =
-        paginas(TQRListaRevisionCodCliente(l, TQRListaRevisionCodCliente::SubtituloDeTabla(u"clientes"_qs)));
+        paginas(TQRListaRevisionCodCliente(l, TQRListaRevisionCodCliente::SubtituloDeTabla(u"clientes"_s)));
     ASSERT_EQ(p.size(), 1);
-    EXPECT_TRUE(p[0].contains(QStringLiteral("(En la tabla CLIENTES)")));
+    EXPECT_TRUE(p[0].contains(u"(En la tabla CLIENTES)"_s));
     // The message takes several printed rows; the code stays in its column, on the first.
-    EXPECT_TRUE(p[0].contains(QRegularExpression(QStringLiteral("El cliente +GONZÁLEZ .* +9.000\n"))))
+    EXPECT_TRUE(p[0].contains(QRegularExpression(u"El cliente +GONZÁLEZ .* +9.000\n"_s)))
         << p[0].toStdString();
-    EXPECT_TRUE(p[0].contains(QRegularExpression(QStringLiteral("\n +INMACULADA|\n +MARÍA"))))
-        << p[0].toStdString();
-    EXPECT_TRUE(p[0].contains(QStringLiteral("987.654")));
+    EXPECT_TRUE(p[0].contains(QRegularExpression(u"\n +INMACULADA|\n +MARÍA"_s))) << p[0].toStdString();
+    EXPECT_TRUE(p[0].contains(u"987.654"_s));
 }
 
 TEST_F(ListaRevision, AnEmptyListSaysSoOnOnePage) {
     const QStringList p = paginas(TQRListaRevisionCodCliente({}));
     ASSERT_EQ(p.size(), 1);
-    EXPECT_TRUE(p[0].contains(QStringLiteral("No se han encontrado códigos de clientes erróneos.")));
-    EXPECT_TRUE(p[0].contains(QStringLiteral("Página 1 de 1")));
+    EXPECT_TRUE(p[0].contains(u"No se han encontrado códigos de clientes erróneos."_s));
+    EXPECT_TRUE(p[0].contains(u"Página 1 de 1"_s));
 }
 
 // Ink of a page (pixels darker than mid grey). Rows inked across most of the page are the list's rules,
@@ -147,16 +143,12 @@ struct Tinta {
 // The first page at 50 dots per inch: a centred title on top, three columns of text in the body, the
 // foot at the bottom under its rule, and white paper between the last line and the foot.
 TEST_F(ListaRevision, TheRenderedPageShowsTitleColumnsAndFoot) {
-    ASSERT_TRUE(TQRListaRevisionCodCliente(lineas(20)).GuardaPdf(dir.filePath(QStringLiteral("lista.pdf"))));
-    QProcess p;
-    p.start(QStringLiteral("pdftoppm"),
-            {QStringLiteral("-r"), QStringLiteral("50"), QStringLiteral("-f"), QStringLiteral("1"),
-             QStringLiteral("-l"), QStringLiteral("1"), QStringLiteral("-png"), QStringLiteral("-singlefile"),
-             dir.filePath(QStringLiteral("lista.pdf")), dir.filePath(QStringLiteral("p"))});
-    ASSERT_TRUE(p.waitForFinished(30000) && p.exitCode() == 0) << p.readAllStandardError().toStdString();
-    const Tinta t(QImage(dir.filePath(QStringLiteral("p.png"))));
+    ASSERT_TRUE(TQRListaRevisionCodCliente(lineas(20)).GuardaPdf(dir.filePath(u"lista.pdf"_s)));
+    ejecuta(u"pdftoppm"_s, {u"-r"_s, u"50"_s, u"-f"_s, u"1"_s, u"-l"_s, u"1"_s, u"-png"_s, u"-singlefile"_s,
+                            dir.filePath(u"lista.pdf"_s), dir.filePath(u"p"_s)});
+    const Tinta t(QImage(dir.filePath(u"p.png"_s)));
     const int an = t.imagen.width(), al = t.imagen.height();
-    ASSERT_NEAR(an, 414, 1); // A4, 8.27 by 11.69 inches
+    ASSERT_NEAR(an, 414, 1); // A4, 8.27 by 11.69 inches (0 if pdftoppm failed)
     ASSERT_NEAR(al, 585, 1);
 
     // The title: ink in the top tenth, centred on the page.
@@ -181,8 +173,7 @@ TEST_F(ListaRevision, TheRenderedPageShowsTitleColumnsAndFoot) {
 }
 
 TEST_F(ListaRevision, AFileThatCannotBeWrittenGivesFalse) {
-    EXPECT_FALSE(
-        TQRListaRevisionCodCliente(lineas(3)).GuardaPdf(dir.filePath(QStringLiteral("no/existe/lista.pdf"))));
+    EXPECT_FALSE(TQRListaRevisionCodCliente(lineas(3)).GuardaPdf(dir.filePath(u"no/existe/lista.pdf"_s)));
 }
 
 } // namespace

@@ -3,10 +3,12 @@
 #include "apps/nodrim/lote.h"
 #include "maintenance/escuchacierre.h"
 #include "maintenance/revisioncodcliente.h"
-#include "tables/tablas.h"
+#include "tests/maintenance/ayudas.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 using namespace nod;
 using namespace nod::lote;
@@ -43,21 +45,13 @@ TEST(LoteMantenimiento, EveryTableHasItsCheck) {
 }
 
 TEST(LoteMantenimiento, TheAbortQuestionIsAnsweredFromTheRequest) {
-    prueba::OficinaPrueba o(QStringLiteral("[ALIAS]\nDB=DATOS\n[ACTUALIZACION]\nTiempoEspera=0\nPausaMs=0\n"
-                                           "EsperaConexionMs=50\n"));
-    o.escribe(QStringLiteral("DATOS/LEEME.TXT"), {});
-    {
-        auto tb = CreaTablaSinExcepcion(QStringLiteral("DB"), QStringLiteral("CONEXION"), {}, true);
-        ASSERT_NE(tb, nullptr);
-        tb->Append();
-        tb->SetString(QStringLiteral("EQUIPO"), QStringLiteral("127.0.0.1"));
-        tb->SetDateTime(QStringLiteral("FECHA"), QDateToTDateTime(QDate(2024, 5, 31)));
-        tb->SetString(QStringLiteral("HORA"), QStringLiteral("23:59:59"));
-        tb->Post();
-    }
+    prueba::OficinaPrueba o(u"[ALIAS]\nDB=DATOS\n[ACTUALIZACION]\nTiempoEspera=0\nPausaMs=0\n"
+                            "EsperaConexionMs=50\n"_s);
+    o.escribe(u"DATOS/LEEME.TXT"_s, {});
+    prueba::FilaConexion("127.0.0.1", QDateToTDateTime(QDate(2024, 5, 31)), "23:59:59");
     // The workstation's program is told every pass and never leaves: the fifth pass asks.
     TEscuchaCierre programa;
-    ASSERT_TRUE(programa.Escucha(0, QStringLiteral("127.0.0.1")));
+    ASSERT_TRUE(programa.Escucha(0, u"127.0.0.1"_s));
     const json r = pide(R"({"fn":"NodrimsCerrados","args":[1],"config":{"PuertoActualiz":)" +
                         std::to_string(programa.Puerto()) + R"(},"today":"2024-05-31","answers":[6]})");
     ASSERT_FALSE(r.contains("error")) << r.dump();

@@ -1,19 +1,19 @@
 // The revision's form over the sample office: list and radio behaviour, captions and hints, a run of all
 // tables and of one table ending in the preview of the list, and the ways out.
 #include "companion/mensajes.h"
-#include "maintenance/listarevisioncodclienteqr.h"
 #include "maintenance/seleccionmodorevisioncodcliente.h"
 #include "tests/maintenance/ayudas.h"
 #include "tests/support/modal.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QComboBox>
-#include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 using namespace nod;
 
@@ -42,19 +42,19 @@ protected:
 
 TEST_F(Seleccion, OpensOnAllTablesWithTheListDisabledAndEmpty) {
     TFSeleccionModoRevisionCodCliente f;
-    EXPECT_EQ(f.windowTitle(), QStringLiteral("Indique los parámetros de Revisión"));
-    EXPECT_EQ(f.RBTodasTablas->text(), QStringLiteral("Revisión en todas las tablas"));
-    EXPECT_EQ(f.RBUnaTabla->text(), QStringLiteral("Revisión en la tabla"));
-    EXPECT_EQ(f.BBAceptar->text(), QStringLiteral("&Aceptar"));
-    EXPECT_EQ(f.BBAceptar->toolTip(), QStringLiteral("Acepta los cambios y cierra esta ventana"));
-    EXPECT_EQ(f.BBSalir->text(), QStringLiteral("&Salir"));
-    EXPECT_EQ(f.BBSalir->toolTip(), QStringLiteral("Cancela los cambios y cierra esta ventana"));
+    EXPECT_EQ(f.windowTitle(), u"Indique los parámetros de Revisión"_s);
+    EXPECT_EQ(f.RBTodasTablas->text(), u"Revisión en todas las tablas"_s);
+    EXPECT_EQ(f.RBUnaTabla->text(), u"Revisión en la tabla"_s);
+    EXPECT_EQ(f.BBAceptar->text(), u"&Aceptar"_s);
+    EXPECT_EQ(f.BBAceptar->toolTip(), u"Acepta los cambios y cierra esta ventana"_s);
+    EXPECT_EQ(f.BBSalir->text(), u"&Salir"_s);
+    EXPECT_EQ(f.BBSalir->toolTip(), u"Cancela los cambios y cierra esta ventana"_s);
     EXPECT_TRUE(f.RBTodasTablas->isChecked());
     EXPECT_FALSE(f.CBTablas->isEnabled());
     EXPECT_EQ(f.CBTablas->currentIndex(), -1);
     ASSERT_EQ(f.CBTablas->count(), 30);
-    EXPECT_EQ(f.CBTablas->itemText(0), QStringLiteral("ACTIVOS"));
-    EXPECT_EQ(f.CBTablas->itemText(29), QStringLiteral("VALORES"));
+    EXPECT_EQ(f.CBTablas->itemText(0), u"ACTIVOS"_s);
+    EXPECT_EQ(f.CBTablas->itemText(29), u"VALORES"_s);
 }
 
 TEST_F(Seleccion, OneTableEnablesTheListOnItsFirstItemAndAllTablesEmptiesIt) {
@@ -62,7 +62,7 @@ TEST_F(Seleccion, OneTableEnablesTheListOnItsFirstItemAndAllTablesEmptiesIt) {
     f.show();
     QTest::mouseClick(f.RBUnaTabla, Qt::LeftButton);
     EXPECT_TRUE(f.CBTablas->isEnabled());
-    EXPECT_EQ(f.CBTablas->currentText(), QStringLiteral("ACTIVOS"));
+    EXPECT_EQ(f.CBTablas->currentText(), u"ACTIVOS"_s);
     f.CBTablas->setCurrentIndex(4);
     QTest::mouseClick(f.RBTodasTablas, Qt::LeftButton);
     EXPECT_FALSE(f.CBTablas->isEnabled());
@@ -77,7 +77,7 @@ TEST_F(Seleccion, AcceptingAllTablesPreviewsTheListAndClosesWithOne) {
     alVerListado();
     f.BBAceptar->click();
     EXPECT_EQ(f.result(), 1);
-    EXPECT_EQ(tituloListado, QStringLiteral("Listado Clientes Repetidos"));
+    EXPECT_EQ(tituloListado, u"Listado Clientes Repetidos"_s);
     EXPECT_EQ(paginasListado, 1);
     EXPECT_EQ(f.Revision().Mensajes().size(), 24); // the sample office's dangling codes, notary 1
     EXPECT_TRUE(f.BBAceptar->isEnabled()) << "the form is given back after the run";
@@ -87,15 +87,13 @@ TEST_F(Seleccion, AcceptingAllTablesPreviewsTheListAndClosesWithOne) {
 TEST_F(Seleccion, AcceptingOneTableRevisesThatTableOnly) {
     TFSeleccionModoRevisionCodCliente f;
     f.RBUnaTabla->setChecked(true);
-    f.CBTablas->setCurrentText(QStringLiteral("CLAVES"));
+    f.CBTablas->setCurrentText(u"CLAVES"_s);
     alVerListado();
     f.BBAceptar->click();
     EXPECT_EQ(f.result(), 1);
     ASSERT_EQ(f.Revision().Mensajes().size(), 4);
     for (const auto& m : f.Revision().Mensajes())
-        EXPECT_TRUE(m.TABLA.startsWith(QStringLiteral("En la Tabla CLAVES"))) << m.TABLA.toStdString();
-    EXPECT_EQ(TQRListaRevisionCodCliente::SubtituloDeTabla(f.CBTablas->currentText()),
-              QStringLiteral("(En la tabla CLAVES)"));
+        EXPECT_TRUE(m.TABLA.startsWith(u"En la Tabla CLAVES"_s)) << m.TABLA.toStdString();
 }
 
 TEST_F(Seleccion, SalirAndEscapeGiveTwoAndRunNothing) {
@@ -117,12 +115,12 @@ TEST_F(Seleccion, SalirAndEscapeGiveTwoAndRunNothing) {
 }
 
 TEST_F(Seleccion, WithoutClientsTheClerkIsToldAndNoListOpens) {
-    prueba::OficinaPrueba vacia(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
+    prueba::OficinaPrueba vacia(u"[ALIAS]\nDB=DATOS\n"_s);
     TFSeleccionModoRevisionCodCliente f;
     f.BBAceptar->click(); // no list opens: nothing to close
     EXPECT_EQ(f.result(), 2);
     ASSERT_FALSE(mensajes.mostrados().isEmpty());
-    EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
+    EXPECT_EQ(mensajes.mostrados()[0].kind, u"Mensaje_Error"_s);
 }
 
 } // namespace

@@ -33,18 +33,42 @@ Resultado ejecuta(const std::string& guion) {
 // A request on standard input: `printf '%s\n' '{...}' |`.
 const std::string kPeticion = R"(printf '%s\n' '{"fn":"AliasNotario","args":[0]}' | )";
 
-struct Caso {
-    std::string guion;
-    int estado;
-    std::string errores; // a pattern stderr must match ("" when it must be empty)
-    std::string salida;  // a pattern stdout must match
-};
-
 bool encaja(const QString& texto, const std::string& patron) {
     return texto.contains(QRegularExpression(QString::fromStdString(patron)));
 }
 
-void compruebaCasos(const std::vector<Caso>& casos) {
+} // namespace
+
+TEST(NodrimCommandLine, UsageOfficeAndStreamErrorsGiveTheirExitStatusAndMessage) {
+    const std::string& p = kPeticion;
+    const struct {
+        std::string guion;
+        int estado;
+        std::string errores; // a pattern stderr must match ("" when it must be empty)
+        std::string salida;  // a pattern stdout must match
+    } casos[] = {
+        {p + "$N batch --ofice /x", 2, "unknown option --ofice", "^$"},
+        {p + "$N batch --office ''", 2, "--office needs a folder", "^$"},
+        {p + "$N batch --office=", 2, "--office needs a folder", "^$"},
+        {p + "$N batch --office", 2, "--office needs a folder", "^$"},
+        {p + "$N batch extra", 2, "unexpected word \"extra\" after batch", "^$"},
+        {"$N --ofice /x AliasNotario 0", 2, "unknown option --ofice", "^$"},
+        {p + "$N --office \"$S\" batch", 0, "", "DBNOTARIO1"},
+        {"$N AliasNotario -1", 0, "", "DBNOTARIO"}, // a negative number is an argument, not an option
+        {"$N batch --office /no/such/office </dev/null", 1, "/no/such/office", "^$"},
+        {"NODRIM_DIR=/no/such/office $N batch </dev/null", 1, "/no/such/office.*NODRIM_DIR", "^$"},
+        {"$N --office \"$T/file\" AliasNotario 0; touch \"$T/file\"; $N --office \"$T/file\" AliasNotario 0",
+         1, "is not a folder", "^$"},
+        {"NODRIM_DIR= $N AliasNotario 0", 0, "", "DBNOTARIO1"}, // empty: the bundled sample office
+        {p + "$N batch >/dev/full", 1, "responses could not be written.*No space", "^$"},
+        {p + "$N batch >&-", 1, "standard output is closed", "^$"},
+        {"$N AliasNotario 0 >/dev/full", 1, "could not be written", "^$"},
+        {"$N batch <&-", 1, "standard input is closed", "^$"},
+        {"$N batch <\"$T\"", 1, "requests could not be read.*directory", "^$"},
+        {"mkfifo \"$T/f\" && (printf '%s\\n' '{\"fn\":\"AliasNotario\",\"args\":[0]}' >\"$T/f\" &) && $N "
+         "batch <\"$T/f\"",
+         0, "", "DBNOTARIO1"},
+    };
     for (const auto& c : casos) {
         const Resultado r = ejecuta(c.guion);
         EXPECT_EQ(r.estado, c.estado) << c.guion << "\n" << r.errores.toStdString();
@@ -54,49 +78,4 @@ void compruebaCasos(const std::vector<Caso>& casos) {
             EXPECT_TRUE(encaja(r.errores, c.errores)) << c.guion << "\n" << r.errores.toStdString();
         EXPECT_TRUE(encaja(r.salida, c.salida)) << c.guion << "\n" << r.salida.toStdString();
     }
-}
-
-} // namespace
-
-TEST(NodrimCommandLine, UnknownOptionsAndAnEmptyOfficeAreUsageErrors) {
-    const std::string& p = kPeticion;
-    compruebaCasos({
-        {p + "$N batch --ofice /x", 2, "unknown option --ofice", "^$"},
-        {p + "$N batch --office ''", 2, "--office needs a folder", "^$"},
-        {p + "$N batch --office=", 2, "--office needs a folder", "^$"},
-        {p + "$N batch --office", 2, "--office needs a folder", "^$"},
-        {p + "$N batch extra", 2, "unexpected word \"extra\" after batch", "^$"},
-        {"$N --ofice /x AliasNotario 0", 2, "unknown option --ofice", "^$"},
-        {p + "$N --office \"$S\" batch", 0, "", "DBNOTARIO1"},
-        {"$N AliasNotario -1", 0, "", "DBNOTARIO"}, // a negative number is an argument, not an option
-    });
-}
-
-TEST(NodrimCommandLine, AnOfficeNamedExplicitlyMustExist) {
-    compruebaCasos({
-        {"$N batch --office /no/such/office </dev/null", 1, "/no/such/office", "^$"},
-        {"NODRIM_DIR=/no/such/office $N batch </dev/null", 1, "/no/such/office.*NODRIM_DIR", "^$"},
-        {"$N --office \"$T/file\" AliasNotario 0; touch \"$T/file\"; $N --office \"$T/file\" AliasNotario 0",
-         1, "is not a folder", "^$"},
-        {"NODRIM_DIR= $N AliasNotario 0", 0, "", "DBNOTARIO1"}, // empty: the bundled sample office
-    });
-}
-
-TEST(NodrimCommandLine, OutputThatCannotBeWrittenIsAnError) {
-    const std::string& p = kPeticion;
-    compruebaCasos({
-        {p + "$N batch >/dev/full", 1, "responses could not be written.*No space", "^$"},
-        {p + "$N batch >&-", 1, "standard output is closed", "^$"},
-        {"$N AliasNotario 0 >/dev/full", 1, "could not be written", "^$"},
-    });
-}
-
-TEST(NodrimCommandLine, InputThatCannotBeReadIsAnError) {
-    compruebaCasos({
-        {"$N batch <&-", 1, "standard input is closed", "^$"},
-        {"$N batch <\"$T\"", 1, "requests could not be read.*directory", "^$"},
-        {"mkfifo \"$T/f\" && (printf '%s\\n' '{\"fn\":\"AliasNotario\",\"args\":[0]}' >\"$T/f\" &) && $N "
-         "batch <\"$T/f\"",
-         0, "", "DBNOTARIO1"},
-    });
 }

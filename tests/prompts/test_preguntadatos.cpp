@@ -3,10 +3,9 @@
 #include "companion/config.h"
 #include "companion/editimporte.h"
 #include "companion/foco.h"
-#include "companion/hoy.h"
 #include "companion/mensajes.h"
-#include "prompts/preguntadatos.h"
 #include "tables/tablas.h"
+#include "tests/prompts/prueba_preguntas.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QCheckBox>
@@ -24,31 +23,9 @@
 #include <gtest/gtest.h>
 
 using namespace nod;
+using namespace nod::prueba;
 
 namespace {
-
-// Today fixed for one test.
-struct Hoy {
-    explicit Hoy(int a, int m, int d) { FijaAhora(EncodeDate(a, m, d) + 0.5); }
-    ~Hoy() { FijaAhora(std::nullopt); }
-};
-
-void muestra(QDialog& f) {
-    f.show();
-    QApplication::setActiveWindow(&f);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
-}
-
-// Puts the focus on `w` as a clerk clicking it would, then types `texto` into it.
-void teclea(QWidget* w, const QString& texto) {
-    w->setFocus(Qt::MouseFocusReason);
-    QTest::keyClicks(w, texto);
-}
-
-// Leaves the focused control the way the clerk does, with Enter.
-void sale(QWidget* w) {
-    QTest::keyClick(w, Qt::Key_Return);
-}
 
 TEST(PreguntaDatos, EveryKindShowsItsPanelAtEightEightSizedAroundIt) {
     prueba::OficinaPrueba oficina;
@@ -71,16 +48,20 @@ TEST(PreguntaDatos, EveryKindShowsItsPanelAtEightEightSizedAroundIt) {
         EXPECT_FALSE(f.btnAceptar->geometry().intersects(f.btnCANCELAR->geometry()));
         QList<QWidget*> vistos;
         for (QWidget* w : p->findChildren<QWidget*>()) {
+            const bool control = qobject_cast<QAbstractButton*>(w) || qobject_cast<QComboBox*>(w) ||
+                                 qobject_cast<QAbstractSpinBox*>(w) || qobject_cast<TEditImporte*>(w);
+            // Every control a script can name carries a name.
+            if (control || (qobject_cast<QLineEdit*>(w) && !w->parentWidget()->inherits("QAbstractSpinBox") &&
+                            !w->parentWidget()->inherits("QComboBox"))) {
+                EXPECT_FALSE(w->objectName().isEmpty()) << w->metaObject()->className();
+            }
             if (w->window() != &f || !w->isVisibleTo(p)) continue; // lists and calendars pop up apart
             const QRect enPanel(w->mapTo(p, QPoint(0, 0)), w->size());
             EXPECT_TRUE(p->rect().contains(enPanel)) << w->objectName().toStdString();
             if (auto* l = qobject_cast<QLabel*>(w); l && !l->wordWrap()) {
                 EXPECT_GE(l->width(), l->sizeHint().width()) << l->text().toStdString();
             }
-            if (qobject_cast<QLabel*>(w) || qobject_cast<QAbstractButton*>(w) ||
-                qobject_cast<QComboBox*>(w) || qobject_cast<QAbstractSpinBox*>(w) ||
-                qobject_cast<TEditImporte*>(w))
-                vistos << w;
+            if (control || qobject_cast<QLabel*>(w)) vistos << w;
         }
         // No two labels or controls of the same group overlap.
         for (int i = 0; i < vistos.size(); ++i)
@@ -90,14 +71,6 @@ TEST(PreguntaDatos, EveryKindShowsItsPanelAtEightEightSizedAroundIt) {
                         << vistos[i]->objectName().toStdString() << " / "
                         << vistos[j]->objectName().toStdString();
                 }
-        // Every control a script can name carries a name.
-        for (QWidget* w : p->findChildren<QWidget*>())
-            if ((qobject_cast<QAbstractButton*>(w) || qobject_cast<QComboBox*>(w) ||
-                 qobject_cast<QAbstractSpinBox*>(w) ||
-                 (qobject_cast<QLineEdit*>(w) && !w->parentWidget()->inherits("QAbstractSpinBox") &&
-                  !w->parentWidget()->inherits("QComboBox")))) {
-                EXPECT_FALSE(w->objectName().isEmpty()) << w->metaObject()->className();
-            }
     }
 }
 
@@ -120,18 +93,16 @@ TEST(PreguntaDatos, QuarterAndSemesterComeFromTodayShiftedBack) {
         const char* item;
         int ano;
     } casos[] = {
-        {"TrimestreAño", 2024, 1, 15, "CUARTO", 2023},     {"TrimestreAño", 2024, 4, 15, "PRIMERO", 2024},
-        {"TrimestralSinNif", 2024, 1, 15, "CUARTO", 2023}, {"SemestreAño", 2024, 7, 3, "PRIMERO", 2024},
+        {"TrimestreAño", 2024, 1, 15, "CUARTO", 2023},
+        {"TrimestreAño", 2024, 4, 15, "PRIMERO", 2024},
+        {"SemestreAño", 2024, 7, 3, "PRIMERO", 2024},
         {"SemestreAño", 2024, 6, 30, "SEGUNDO", 2023},
     };
     for (const Caso& c : casos) {
         Hoy hoy(c.a, c.m, c.d);
         TFPreguntaDatos f(nullptr, QString::fromUtf8(c.tipo));
-        const QString tipo = QString::fromUtf8(c.tipo);
-        QComboBox* lista = tipo == u"SemestreAño"    ? f.cbSemestre
-                           : tipo == u"TrimestreAño" ? f.cbTrimestre
-                                                     : f.cbTrimestre2;
-        QSpinBox* ano = tipo == u"SemestreAño" ? f.seAno6 : tipo == u"TrimestreAño" ? f.seAno5 : f.seAno12;
+        QComboBox* lista = f.cbSemestre ? f.cbSemestre : f.cbTrimestre;
+        QSpinBox* ano = f.cbSemestre ? f.seAno6 : f.seAno5;
         EXPECT_EQ(lista->currentText(), QString::fromUtf8(c.item)) << c.tipo << " " << c.m;
         EXPECT_EQ(ano->value(), c.ano) << c.tipo << " " << c.m;
     }
@@ -149,90 +120,30 @@ TEST(PreguntaDatos, MonthKindsProposeThePreviousMonth) {
     EXPECT_TRUE(g.gbBalanMensualCobroMes->isVisibleTo(&g));
 }
 
-TEST(PreguntaDatos, InvoiceNumberComposition) {
-    prueba::OficinaPrueba oficina(QStringLiteral("[GENERAL]\nNotario=2\n"));
-    Hoy hoy(2024, 3, 1);
-    struct Caso {
-        const char *serie, *numero, *bis;
-        const char *serieResultado, *anoNumero, *bisResultado;
-    } casos[] = {
-        {"A", "23", "", "2A", "202400023 ", ""},          {"a", "23b", "t", "2A", "202400023B", "T"},
-        {"1B", "199800010a", "", "1B", "199800010a", ""}, {"A", "", "", "2A", "202400000 ", ""},
-        {"A", "123456", "", "2A", "2024123456 ", ""},
-    };
-    for (const Caso& c : casos) {
-        TFPreguntaDatos f(nullptr, QStringLiteral("NumeroFactura"));
-        muestra(f);
-        teclea(f.ENOTARIOSERIE, QString::fromUtf8(c.serie));
-        teclea(f.EANONUMEROBIS, QString::fromUtf8(c.numero));
-        teclea(f.ENUMEROBIS, QString::fromUtf8(c.bis));
-        QTest::keyClick(f.btnAceptar, Qt::Key_Space);
-        EXPECT_EQ(f.result(), 1);
-        EXPECT_EQ(f.SerieResultado, QString::fromUtf8(c.serieResultado)) << c.numero;
-        EXPECT_EQ(f.AnoNumeroResultado, QString::fromUtf8(c.anoNumero)) << c.numero;
-        EXPECT_EQ(f.BisResultado, QString::fromUtf8(c.bisResultado)) << c.numero;
-    }
-    // The configured prefix and year win over the notary's number and today's year.
-    Config.SetPrefijoFacturas(QStringLiteral("7"));
-    Config.SetnAnoFacturas(2009);
-    TFPreguntaDatos f(nullptr, QStringLiteral("NumeroFactura"));
-    muestra(f);
-    teclea(f.ENOTARIOSERIE, QStringLiteral("A"));
-    teclea(f.EANONUMEROBIS, QStringLiteral("23"));
-    f.btnAceptarClick();
-    EXPECT_EQ(f.SerieResultado, QStringLiteral("7A"));
-    EXPECT_EQ(f.AnoNumeroResultado, QStringLiteral("200900023 "));
-}
-
 TEST(PreguntaDatos, ALetterEndsAnInvoiceNumber) {
-    TFPreguntaDatos f(nullptr, QStringLiteral("NumeroFactura"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("NumeroFactura"));
     teclea(f.EANONUMEROBIS, QStringLiteral("2x3y"));
     EXPECT_EQ(f.EANONUMEROBIS->text(), QStringLiteral("2x")); // the bis letter; nothing may follow it
     teclea(f.ENUMEROBIS, QStringLiteral("12b"));
     EXPECT_EQ(f.ENUMEROBIS->text(), QStringLiteral("B"));
 }
 
-TEST(PreguntaDatos, MinuteNumbers) {
+// What -1 does in each kind is answered through `nodrim batch` (tests/nodrim/test_formularios.cpp).
+TEST(PreguntaDatos, MinuteNumbersTakeZeroButNotASixthDigit) {
     ServicioMensajesGuionado mensajes;
     ServicioMensajesInstalado instalado(mensajes);
     for (const char* tipo : {"NumeroMinuta", "NumeroMinuta2"}) {
         SCOPED_TRACE(tipo);
-        // 0 is accepted.
-        {
-            TFPreguntaDatos f(nullptr, QString::fromUtf8(tipo));
-            muestra(f);
-            f.seNumero9->selectAll();
-            teclea(f.seNumero9, QStringLiteral("0"));
-            sale(f.seNumero9);
-            f.btnAceptarClick();
-            EXPECT_EQ(f.result(), 1);
-            EXPECT_EQ(f.seNumero9->value(), 0);
-        }
-        // 100000 cannot be typed: the sixth digit is refused.
-        {
-            TFPreguntaDatos f(nullptr, QString::fromUtf8(tipo));
-            muestra(f);
-            f.seNumero9->selectAll();
-            teclea(f.seNumero9, QStringLiteral("100000"));
-            EXPECT_EQ(f.seNumero9->value(), 10000);
-        }
-        // -1: the renumbering request closes the second kind as cancelled; the first cannot take it.
-        {
-            TFPreguntaDatos f(nullptr, QString::fromUtf8(tipo));
-            muestra(f);
-            f.seNumero9->selectAll();
-            teclea(f.seNumero9, QStringLiteral("-1"));
-            sale(f.seNumero9);
-            if (QString::fromUtf8(tipo) == u"NumeroMinuta2") {
-                EXPECT_EQ(f.seNumero9->value(), -1);
-                EXPECT_EQ(f.result(), 2);
-                EXPECT_FALSE(f.isVisible());
-            } else {
-                EXPECT_GE(f.seNumero9->value(), 0);
-                EXPECT_TRUE(f.isVisible());
-            }
-        }
+        FormularioVisible f(QString::fromUtf8(tipo));
+        f.seNumero9->selectAll();
+        teclea(f.seNumero9, QStringLiteral("100000"));
+        EXPECT_EQ(f.seNumero9->value(), 10000);
+        f.seNumero9->selectAll();
+        teclea(f.seNumero9, QStringLiteral("0"));
+        sale(f.seNumero9);
+        f.btnAceptarClick();
+        EXPECT_EQ(f.result(), 1);
+        EXPECT_EQ(f.seNumero9->value(), 0);
     }
     EXPECT_TRUE(mensajes.mostrados().isEmpty());
 }
@@ -243,8 +154,7 @@ TEST(PreguntaDatos, YearFieldsCompleteTwoDigitYearsOnLeaving) {
         int ano;
     } casos[] = {{"05", 2005}, {"5", 2005}, {"98", 1998}, {"150", 150}, {"2024", 2024}};
     for (const Caso& c : casos) {
-        TFPreguntaDatos f(nullptr, QStringLiteral("NumeroAño"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("NumeroAño"));
         f.seAno7->setFocus(Qt::TabFocusReason);
         f.seAno7->selectAll();
         QTest::keyClicks(f.seAno7, QString::fromUtf8(c.escrito));
@@ -255,8 +165,7 @@ TEST(PreguntaDatos, YearFieldsCompleteTwoDigitYearsOnLeaving) {
 }
 
 TEST(PreguntaDatos, YearFieldsRefuseLettersAndYearsPastTheirRange) {
-    TFPreguntaDatos f(nullptr, QStringLiteral("Año"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("Año"));
     f.seAno->selectAll();
     teclea(f.seAno, QStringLiteral("2a0x"));
     EXPECT_EQ(f.seAno->text(), QStringLiteral("20"));
@@ -266,8 +175,7 @@ TEST(PreguntaDatos, YearFieldsRefuseLettersAndYearsPastTheirRange) {
 }
 
 TEST(PreguntaDatos, MonthListDigitsAndLetters) {
-    TFPreguntaDatos f(nullptr, QStringLiteral("MesAño"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("MesAño"));
     struct Paso {
         const char* teclas;
         const char* texto;
@@ -298,8 +206,7 @@ TEST(PreguntaDatos, DigitsPastTheEndOfAShortListLeaveItWithoutAnItem) {
         const char* teclas;
     } casos[] = {{"TrimestreAño", "12"}, {"TrimestreAño", "5"}, {"SemestreAño", "12"}, {"SemestreAño", "3"}};
     for (const Caso& c : casos) {
-        TFPreguntaDatos f(nullptr, QString::fromUtf8(c.tipo));
-        muestra(f);
+        FormularioVisible f(QString::fromUtf8(c.tipo));
         QComboBox* lista = f.cbTrimestre ? f.cbTrimestre : f.cbSemestre;
         lista->setCurrentIndex(lista->count() - 1);
         lista->setFocus(Qt::TabFocusReason);
@@ -310,8 +217,7 @@ TEST(PreguntaDatos, DigitsPastTheEndOfAShortListLeaveItWithoutAnItem) {
 }
 
 TEST(PreguntaDatos, EnterMovesToTheNextControlAndEscapeCancels) {
-    TFPreguntaDatos f(nullptr, QStringLiteral("MesAño"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("MesAño"));
     EXPECT_TRUE(f.cbMes->hasFocus());
     for (QWidget* siguiente : std::initializer_list<QWidget*>{f.seAno4, f.btnAceptar, f.btnCANCELAR}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
@@ -332,8 +238,7 @@ TEST(PreguntaDatos, GaragePricesInEuros) {
 TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     // FENuevo1Change: the new range keeps the old one's length.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("Renumerar"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("Renumerar"));
         f.FEPoliza1->PonValor(100);
         f.FEPoliza2->PonValor(140);
         f.FENuevo1->clear();
@@ -342,16 +247,14 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     }
     // CBExclusionClick: the letter only while nothing is excluded.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("TrimestralSinNif"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("TrimestralSinNif"));
         EXPECT_FALSE(f.ELetraNIF->isEnabled());
         QTest::mouseClick(f.CBExclusion, Qt::LeftButton);
         EXPECT_TRUE(f.ELetraNIF->isEnabled());
     }
     // EDiasChange: two figures move on to "&Aceptar"; a third is undone, pasted or typed.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("XDias"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("XDias"));
         f.EDias->clear();
         teclea(f.EDias, QStringLiteral("15"));
         EXPECT_TRUE(f.btnAceptar->hasFocus());
@@ -361,8 +264,7 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     }
     // EnteroPress: digits and Backspace only; Delete still deletes.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("ImpresionTestamentos"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("ImpresionTestamentos"));
         f.EDesde->clear();
         teclea(f.EDesde, QStringLiteral("1a2-3"));
         EXPECT_EQ(f.EDesde->text(), QStringLiteral("123"));
@@ -376,8 +278,7 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     // gbBalanMensualCobroMesExit: the month chosen gives the deeds' dates on leaving the group.
     {
         Hoy hoy(2024, 6, 10);
-        TFPreguntaDatos f(nullptr, QStringLiteral("BalanMensualCobro"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("BalanMensualCobro"));
         f.cbMes16->setFocus(Qt::TabFocusReason);
         QTest::keyClicks(f.cbMes16, QStringLiteral("2"));
         f.seAno16->setValue(2024);
@@ -389,8 +290,7 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
     }
     // The focus mark follows the focus.
     {
-        TFPreguntaDatos f(nullptr, QStringLiteral("NumeroAño"));
-        muestra(f);
+        FormularioVisible f(QStringLiteral("NumeroAño"));
         EXPECT_TRUE(TieneFocoMarcado(f.seNumero2));
         sale(f.seNumero2);
         EXPECT_FALSE(TieneFocoMarcado(f.seNumero2));
@@ -400,8 +300,7 @@ TEST(PreguntaDatos, HandlersOfTheOtherPanels) {
 
 TEST(PreguntaDatos, VatRateTakesTwoFiguresAndTwoDecimals) {
     prueba::OficinaPrueba oficina(QStringLiteral("[NOTARIA]\nColegio=5\n[FACTURACION]\nTipoIva=21\n"));
-    TFPreguntaDatos f(nullptr, QStringLiteral("BalanMensaEspecial"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("BalanMensaEspecial"));
     EXPECT_EQ(f.lblIVA2->text(), QStringLiteral("Tipo de IGIC:"));
     EXPECT_EQ(f.eIVA2->text(), QStringLiteral("21,00"));
     f.eIVA2->clear();
@@ -460,17 +359,12 @@ TEST_F(FacturaA, AnEmptyMissingOrDamagedTableLeavesOnlySalir) {
 
 TEST(PreguntaDatos, OfficialsComeFromTheStaffTableInItsOrder) {
     prueba::OficinaPrueba oficina(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
-    {
-        TFPreguntaDatos f(nullptr, QStringLiteral("Oficial")); // no table: an empty list, no error
-        EXPECT_EQ(f.CBOficial->count(), 0);
-    }
+    // No table, then an empty one: an empty list, no error.
+    EXPECT_EQ(TFPreguntaDatos(nullptr, QStringLiteral("Oficial")).CBOficial->count(), 0);
     QDir().mkpath(oficina.ruta(QStringLiteral("DATOS")));
     const QString ruta = oficina.ruta(QStringLiteral("DATOS/EMPLEADO.DBF"));
     CreaFicheroDbf(ruta, {{QStringLiteral("CODUSER"), 'N', 4, 0}, {QStringLiteral("NOMBRE"), 'C', 40, 0}});
-    {
-        TFPreguntaDatos f(nullptr, QStringLiteral("Oficial")); // an empty table
-        EXPECT_EQ(f.CBOficial->count(), 0);
-    }
+    EXPECT_EQ(TFPreguntaDatos(nullptr, QStringLiteral("Oficial")).CBOficial->count(), 0);
     auto tb = TTabla::AbreRuta(ruta);
     for (const char* n : {"ZAPATA RUIZ, ANA", "ÁLVAREZ PÉREZ, JOSÉ"}) {
         tb->Append();

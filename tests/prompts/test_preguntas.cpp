@@ -2,11 +2,10 @@
 // Forms are answered in place through the modal seam, as a clerk would answer them.
 #include "companion/config.h"
 #include "companion/editimporte.h"
-#include "companion/hoy.h"
 #include "companion/modal.h"
 #include "companion/pideclave.h"
-#include "prompts/preguntadatos.h"
 #include "prompts/preguntas.h"
+#include "tests/prompts/prueba_preguntas.h"
 #include "tests/support/modal.h"
 #include "tests/support/oficina_prueba.h"
 
@@ -25,16 +24,11 @@
 #include <gtest/gtest.h>
 
 using namespace nod;
+using namespace nod::prueba;
 
 namespace {
 
-struct Hoy {
-    explicit Hoy(int a, int m, int d) { FijaAhora(EncodeDate(a, m, d) + 0.25); }
-    ~Hoy() { FijaAhora(std::nullopt); }
-};
-
-// Answers every form with `accion`, run on the form once it is shown; the form's own result is
-// returned (the clerk's press sets it), or `accion`'s when it returns one.
+// Answers every form with `accion`, run on the form once it is shown; the clerk's press sets the result.
 class Responde {
 public:
     explicit Responde(std::function<void(TFPreguntaDatos&)> accion)
@@ -79,56 +73,50 @@ TEST(Preguntas, ProfesionJuridica) {
     }
 }
 
-TEST(Preguntas, NumeroFacturaPadsSeriesToTwoAndNumberToTen) {
-    Hoy hoy(2024, 2, 2);
+// The series takes the notary's number (or the configured prefix), the number the year (today's or the
+// configured one); then the series is padded to two, the number to ten and the bis to one.
+TEST(Preguntas, NumeroFacturaComposesAndPads) {
+    prueba::OficinaPrueba oficina(QStringLiteral("[GENERAL]\nNotario=2\n"));
+    Hoy hoy(2024, 3, 1);
     struct Caso {
         const char *serie, *numero, *bis;
         const char *s, *n, *b;
-    } casos[] = {{"A", "23", "", "1A", "202400023 ", " "},
-                 {"", "", "", "  ", "202400000 ", " "},
-                 {"1B", "199800010a", "c", "1B", "199800010a", "C"}};
+        const char* prefijo = nullptr;
+        int anoFacturas = 0;
+    } casos[] = {
+        {"A", "23", "", "2A", "202400023 ", " "},
+        {"a", "23b", "t", "2A", "202400023B", "T"},
+        {"1B", "199800010a", "c", "1B", "199800010a", "C"},
+        {"", "", "", "  ", "202400000 ", " "},
+        {"A", "", "", "2A", "202400000 ", " "},
+        {"A", "123456", "", "2A", "2024123456", " "},
+        {"A", "23", "", "7A", "200900023 ", " ", "7", 2009},
+    };
     for (const Caso& c : casos) {
+        if (c.prefijo) {
+            Config.SetPrefijoFacturas(QString::fromUtf8(c.prefijo));
+            Config.SetnAnoFacturas(c.anoFacturas);
+        }
         Responde r([&](TFPreguntaDatos& f) {
-            f.ENOTARIOSERIE->setText(QString::fromUtf8(c.serie));
-            f.EANONUMEROBIS->setText(QString::fromUtf8(c.numero));
-            QTest::keyClicks(f.ENUMEROBIS, QString::fromUtf8(c.bis));
+            for (auto [campo, texto] :
+                 {std::pair{f.ENOTARIOSERIE, c.serie}, {f.EANONUMEROBIS, c.numero}, {f.ENUMEROBIS, c.bis}}) {
+                campo->setFocus(Qt::MouseFocusReason);
+                QTest::keyClicks(campo, QString::fromUtf8(texto));
+            }
             acepta(f);
         });
         QString serie, numero, bis;
         ASSERT_TRUE(PreguntaNumeroFactura(serie, numero, bis));
-        EXPECT_EQ(serie, QString::fromUtf8(c.s));
-        EXPECT_EQ(numero, QString::fromUtf8(c.n));
-        EXPECT_EQ(bis, QString::fromUtf8(c.b));
-        EXPECT_EQ(serie.size(), 2);
-        EXPECT_EQ(numero.size(), 10);
+        EXPECT_EQ(serie, QString::fromUtf8(c.s)) << c.numero;
+        EXPECT_EQ(numero, QString::fromUtf8(c.n)) << c.numero;
+        EXPECT_EQ(bis, QString::fromUtf8(c.b)) << c.numero;
     }
-}
-
-TEST(Preguntas, DesdeHastaFacturaWithEveryBoxTicked) {
-    Hoy hoy(2024, 3, 15);
-    Responde r([](TFPreguntaDatos& f) {
-        for (QCheckBox* c :
-             {f.cbTipoPendientes, f.cbTipoDispensadas, f.cbTipoCobradas, f.cbTipoEspeciales, f.cbTipoMorosos})
-            c->click();
-        f.dtpDesde3->setDate(QDate(2024, 1, 1));
-        acepta(f);
-    });
-    TDateTime desde = 0, hasta = 0;
-    QString tipos = QStringLiteral("x");
-    ASSERT_TRUE(PreguntaDesdeHastaFactura(desde, hasta, tipos, 0, QStringLiteral("Relación"), 0));
-    EXPECT_EQ(tipos, QStringLiteral("NDSEM"));
-    EXPECT_EQ(desde, EncodeDate(2024, 1, 1));
-    EXPECT_EQ(hasta, EncodeDate(2024, 3, 15));
 }
 
 TEST(Preguntas, SerieGastosAndMonedaShowNothingWhenTheOfficeSaysSo) {
     prueba::OficinaPrueba oficina(QStringLiteral("[FACTURACION]\nSerieGastos=S\n"));
     Responde r([](TFPreguntaDatos& f) {
         if (f.rbSerieP) f.rbSerieP->setChecked(true);
-        if (f.CBMoneda) {
-            EXPECT_EQ(f.CBMoneda->currentText(), QStringLiteral("Euro"));
-            f.CBMoneda->setCurrentIndex(0);
-        }
         acepta(f);
     });
     // Not asked: true at once, the configured series stays; euros only: "E" without a form.
@@ -141,14 +129,11 @@ TEST(Preguntas, SerieGastosAndMonedaShowNothingWhenTheOfficeSaysSo) {
     EXPECT_EQ(moneda, QStringLiteral("E"));
     EXPECT_EQ(r.veces, 0);
     EXPECT_EQ(Config.GetSerieGastos(), QStringLiteral("S"));
-    // Asked: the clerk's choice.
+    // Asked: the clerk's choice (the currency's form is answered through `nodrim batch`).
     Config.SetnPreguntaSerieGastos(1);
     EXPECT_TRUE(PreguntaSerieGastos());
     EXPECT_EQ(Config.GetSerieGastos(), QStringLiteral("P"));
-    Config.SetSoloEuros(false);
-    EXPECT_TRUE(PreguntaMoneda(moneda, 0, 0, QStringLiteral("Listado")));
-    EXPECT_EQ(moneda, QStringLiteral("P"));
-    EXPECT_EQ(r.veces, 2);
+    EXPECT_EQ(r.veces, 1);
 }
 
 TEST(Preguntas, AmountsByCurrency) {
@@ -195,17 +180,13 @@ TEST(Preguntas, YearAndMinuteStartValues) {
     EXPECT_EQ(numero, 0);
 }
 
+// The client's series start from the configured ones and are stored; an interested party's are not.
 TEST(Preguntas, ChoicesComeBackAsLettersInTheOrderOfTheBoxes) {
     prueba::OficinaPrueba oficina;
     Responde r([](TFPreguntaDatos& f) {
-        if (f.cbReparacion3) f.cbReparacion3->click();
         if (f.cbClienteD) f.cbClienteD->click();
         acepta(f);
     });
-    QString opciones;
-    ASSERT_TRUE(PreguntaReparacionCliente(opciones));
-    EXPECT_EQ(opciones, QStringLiteral("124"));
-    // The client's series start from the configured ones and are stored; an interested party's are not.
     bool todas = false;
     QString series;
     ASSERT_TRUE(PreguntaSerieCliente(todas, series, {}));

@@ -1,9 +1,8 @@
 // Answering a form without a clerk: what the form reports, values entered through its handlers, and a
 // clear refusal naming the control for every answer that does not fit.
-#include "companion/hoy.h"
 #include "companion/pideclave.h"
 #include "companion/respuestaformulario.h"
-#include "prompts/preguntadatos.h"
+#include "tests/prompts/prueba_preguntas.h"
 #include "tests/support/oficina_prueba.h"
 
 #include <QComboBox>
@@ -11,24 +10,13 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTest>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 using namespace nod;
+using namespace nod::prueba;
 
 namespace {
-
-struct Hoy {
-    explicit Hoy(int a, int m, int d) { FijaAhora(EncodeDate(a, m, d)); }
-    ~Hoy() { FijaAhora(std::nullopt); }
-};
-
-void muestra(QDialog& f) {
-    f.show();
-    QApplication::setActiveWindow(&f);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
-}
 
 QVariant valor(const FormularioMostrado& m, const char* control) {
     for (const ValorControl& v : m.valores)
@@ -36,10 +24,10 @@ QVariant valor(const FormularioMostrado& m, const char* control) {
     return {};
 }
 
-TEST(RespuestaFormulario, DescribesTheVisiblePanelAndItsValuesAsShown) {
+// What the form reports is its visible panel with the values as shown; what goes in passes its handlers.
+TEST(RespuestaFormulario, DescribesTheVisiblePanelAndValuesGoInThroughTheHandlers) {
     Hoy hoy(2024, 3, 10);
-    TFPreguntaDatos f(nullptr, QStringLiteral("TrimestralSinNif"));
-    muestra(f);
+    FormularioVisible f(QStringLiteral("TrimestralSinNif"));
     const FormularioMostrado m = DescribeFormulario(f);
     EXPECT_EQ(m.titulo, QStringLiteral("Indique el trimestre y el año."));
     EXPECT_EQ(m.panel, QStringLiteral("pnlTrimestralSinNif"));
@@ -50,12 +38,6 @@ TEST(RespuestaFormulario, DescribesTheVisiblePanelAndItsValuesAsShown) {
     EXPECT_EQ(valor(m, "ELetraNIF"), QVariant(QString()));
     EXPECT_FALSE(valor(m, "seAno").isValid()); // controls of other panels do not exist
     EXPECT_EQ(m.valores.size(), 6);
-}
-
-TEST(RespuestaFormulario, ValuesGoInThroughTheHandlers) {
-    Hoy hoy(2024, 3, 10);
-    TFPreguntaDatos f(nullptr, QStringLiteral("TrimestralSinNif"));
-    muestra(f);
     const QString e = RespondeFormulario(f, {{{QStringLiteral("cbTrimestre2"), 1},
                                               {QStringLiteral("seAno12"), QStringLiteral("05")},
                                               {QStringLiteral("CBExclusion"), false},
@@ -96,48 +78,33 @@ TEST(RespuestaFormulario, ValuesGoInInTabOrderSoAFieldIsEnabledBeforeItIsFilled)
 
 TEST(RespuestaFormulario, AnswersThatDoNotFitAreRefusedNamingTheControl) {
     prueba::OficinaPrueba oficina; // no invoice table: "&Aceptar" of the invoice number is disabled
+    // An unknown control, a boolean for a year, an item not in the list and a disabled "&Aceptar" are
+    // refused the same way through `nodrim batch` (tests/nodrim/test_formularios.cpp).
+    const auto fija = [](const char* control, const QVariant& v) {
+        return RespuestaFormulario{{{QString::fromUtf8(control), v}}, {}};
+    };
     struct Caso {
         const char* tipo;
         RespuestaFormulario r;
         const char* error;
     } casos[] = {
-        {"MesAño",
-         {{{QStringLiteral("cbMez"), 1}}, {}},
-         "the form \"Indique el mes y el año.\" has no control \"cbMez\""},
-        {"MesAño",
-         {{{QStringLiteral("seAno4"), true}}, {}},
-         "control \"seAno4\" takes a string or an integer, not a boolean"},
-        {"MesAño",
-         {{{QStringLiteral("cbMes"), QStringLiteral("Enero")}}, {}},
-         "control \"cbMes\" has no item \"Enero\""},
-        {"MesAño", {{{QStringLiteral("cbMes"), 12}}, {}}, "control \"cbMes\" has no item 12"},
+        {"MesAño", fija("cbMes", 12), "control \"cbMes\" has no item 12"},
         {"MesAño",
          {{}, QStringLiteral("btnNada")},
          "the form \"Indique el mes y el año.\" has no button \"btnNada\""},
-        {"MesAño", {{{QStringLiteral("btnAceptar"), true}}, {}}, "control \"btnAceptar\" takes no value"},
-        {"SerieGastos",
-         {{{QStringLiteral("rbSerieR"), false}}, {}},
+        {"MesAño", fija("btnAceptar", true), "control \"btnAceptar\" takes no value"},
+        {"SerieGastos", fija("rbSerieR", false),
          "radio button \"rbSerieR\" is cleared by choosing another one"},
-        {"DesdeDia",
-         {{{QStringLiteral("dtpDesdeFecha"), QStringLiteral("15/03/2024")}}, {}},
+        {"DesdeDia", fija("dtpDesdeFecha", QStringLiteral("15/03/2024")),
          "control \"dtpDesdeFecha\" takes a date \"YYYY-MM-DD\", not a string"},
-        {"Texto",
-         {{{QStringLiteral("eTexto"), 12}}, {}},
-         "control \"eTexto\" takes a string, not an integer"},
-        {"PideNumeroFactura", {{}, {}}, "button \"btnAceptar\" is disabled"},
-        {"PideNumeroFactura",
-         {{{QStringLiteral("ENUMEROFAC"), 7}}, {}},
-         "control \"ENUMEROFAC\" is disabled"},
-        {"CantidadMaxMin",
-         {{{QStringLiteral("lblCantidad"), QStringLiteral("1")}}, {}},
+        {"Texto", fija("eTexto", 12), "control \"eTexto\" takes a string, not an integer"},
+        {"PideNumeroFactura", fija("ENUMEROFAC", 7), "control \"ENUMEROFAC\" is disabled"},
+        {"CantidadMaxMin", fija("lblCantidad", QStringLiteral("1")),
          "control \"lblCantidad\" takes no value"},
-        {"Cantidad",
-         {{{QStringLiteral("FECantidadMaxima"), 5}}, {}},
-         "control \"FECantidadMaxima\" is not shown"},
+        {"Cantidad", fija("FECantidadMaxima", 5), "control \"FECantidadMaxima\" is not shown"},
     };
     for (const Caso& c : casos) {
-        TFPreguntaDatos f(nullptr, QString::fromUtf8(c.tipo));
-        muestra(f);
+        FormularioVisible f(QString::fromUtf8(c.tipo));
         const QString e = RespondeFormulario(f, c.r);
         EXPECT_TRUE(e.startsWith(QString::fromUtf8(c.error))) << c.tipo << ": " << e.toStdString();
         EXPECT_TRUE(f.isVisible()) << c.tipo; // nothing pressed

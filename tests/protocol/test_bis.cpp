@@ -49,9 +49,8 @@ TEST(BisDoble, IdaYVueltaEnLas80Posiciones) {
                                                  {78, "BZ"}, {79, "CA"}, {80, "CB"}, {0, ""},    {81, ""}};
     for (const auto& [p, s] : tabla)
         EXPECT_EQ(DadoNumeroDevuelveBisDobleMasdeUna(p), QLatin1String(s)) << p;
-    EXPECT_EQ(DadoBisDobleDevuelveNumeroMasdeUna(QStringLiteral("aa")), 0); // case-sensitive
-    EXPECT_EQ(DadoBisDobleDevuelveNumeroMasdeUna(QStringLiteral("A")), 0);
-    EXPECT_EQ(DadoBisDobleDevuelveNumeroMasdeUna(QString()), 0);
+    for (const char* otro : {"aa", "A", ""}) // "aa": the letters are case-sensitive
+        EXPECT_EQ(DadoBisDobleDevuelveNumeroMasdeUna(QLatin1String(otro)), 0) << otro;
 }
 
 TEST(BisDoble, DesdeElSencillo) {

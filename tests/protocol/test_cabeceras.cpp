@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QVariantList>
 #include <gtest/gtest.h>
 
 using namespace nod;
@@ -19,26 +20,35 @@ const char* kConfig =
     "[FACTURACION]\nMultiplesCabeceras=1\n[NOTARIO1]\nfac_1=Cabecera del INI 1\n"
     "[NOTARIO2]\nfac_1=Cabecera del INI 2\n";
 
-struct Fila {
-    TDateTime fecha;
-    const char* nombre;
-    const char* texto;
-};
-
-void escribeCabeceras(const OficinaPrueba& o, const QString& carpeta, std::initializer_list<Fila> filas) {
-    QDir().mkpath(o.ruta(carpeta));
-    const QString ruta = o.ruta(carpeta + QStringLiteral("/CAB_FACT.DBF"));
-    CreaFicheroDbf(ruta, {{QStringLiteral("FECHA_ENT"), 'D', 8, 0},
-                          {QStringLiteral("NOMBRE"), 'C', 10, 0},
-                          {QStringLiteral("DESCRIP"), 'C', 80, 0}});
+// Writes a table at `ruta` (its folder made) with the rows' values in field order.
+void creaDbf(const QString& ruta, const QList<TCampoDbf>& campos, const QList<QVariantList>& filas) {
+    QDir().mkpath(QFileInfo(ruta).absolutePath());
+    CreaFicheroDbf(ruta, campos);
     auto t = TTabla::AbreRuta(ruta);
-    for (const Fila& f : filas) {
+    for (const QVariantList& fila : filas) {
         t->Append();
-        t->SetDateTime(QStringLiteral("FECHA_ENT"), f.fecha);
-        t->SetString(QStringLiteral("NOMBRE"), QString::fromUtf8(f.nombre));
-        t->SetString(QStringLiteral("DESCRIP"), QString::fromUtf8(f.texto));
+        for (qsizetype i = 0; i < fila.size(); ++i) {
+            if (campos[i].tipo == 'D')
+                t->SetDateTime(campos[i].nombre, fila[i].toDouble());
+            else if (campos[i].tipo == 'N')
+                t->SetInteger(campos[i].nombre, fila[i].toInt());
+            else
+                t->SetString(campos[i].nombre, fila[i].toString());
+        }
         t->Post();
     }
+}
+
+void escribeCabeceras(const OficinaPrueba& o, const QString& carpeta,
+                      std::initializer_list<std::tuple<TDateTime, const char*, const char*>> lineas) {
+    QList<QVariantList> filas;
+    for (const auto& [fecha, nombre, texto] : lineas)
+        filas.append({fecha, QString::fromUtf8(nombre), QString::fromUtf8(texto)});
+    creaDbf(o.ruta(carpeta + QStringLiteral("/CAB_FACT.DBF")),
+            {{QStringLiteral("FECHA_ENT"), 'D', 8, 0},
+             {QStringLiteral("NOMBRE"), 'C', 10, 0},
+             {QStringLiteral("DESCRIP"), 'C', 80, 0}},
+            filas);
 }
 
 TDateTime dia(int d, int m, int a) {
@@ -63,12 +73,12 @@ protected:
     OficinaPrueba oficina{QString::fromUtf8(kConfig)};
 };
 
-TEST_F(Cabeceras, EnVigorPorFecha) {
+TEST_F(Cabeceras, EnVigorPorFechaYSinFilaNadaCambia) {
     Config.SetsNotario(QStringLiteral("1"));
     const std::pair<TDateTime, const char*> casos[] = {
-        {dia(1, 6, 2012), "Notaría Pérez 2012"}, // the day itself
-        {dia(31, 12, 2014) + 0.5, "Notaría Pérez 2012"},
-        {dia(2, 1, 2015), "Notaría Pérez 2015"},
+        {dia(31, 12, 2009), "Cabecera del INI 1"}, // no row in force yet: the line of the INI stays
+        {dia(1, 6, 2012), "Notaría Pérez 2012"},   // the day itself
+        {dia(31, 12, 2014) + 0.5, "Notaría Pérez 2012"}, {dia(2, 1, 2015), "Notaría Pérez 2015"},
         {dia(2, 1, 2011), "Notaría Pérez 2010"},
     };
     for (const auto& [fecha, texto] : casos) {
@@ -77,12 +87,7 @@ TEST_F(Cabeceras, EnVigorPorFecha) {
     }
     EXPECT_EQ(Config.GetFac_g_4(), QStringLiteral("Registro Mercantil"));
     EXPECT_TRUE(Config.GetFac_2().isEmpty());
-}
 
-TEST_F(Cabeceras, SinFilaAnteriorNadaCambia) {
-    Config.SetsNotario(QStringLiteral("1"));
-    ActualizaCabeceraFacturas(dia(31, 12, 2009), false);
-    EXPECT_EQ(Config.GetFac_1(), QStringLiteral("Cabecera del INI 1"));
     Config.SetsNotario(QStringLiteral("3")); // no alias, no table
     Config.SetFac_1(QStringLiteral("sin tocar"));
     ActualizaCabeceraFacturas(dia(1, 1, 2020), false);
@@ -104,23 +109,12 @@ TEST_F(Cabeceras, TodosLosNotariosTerminanEnElSeleccionado) {
 
 TEST(ActuacionINTI, DescripcionPorCodigo) {
     OficinaPrueba oficina(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
-    QDir().mkpath(oficina.ruta(QStringLiteral("DATOS")));
     const QString ruta = oficina.ruta(QStringLiteral("DATOS/Tipo_Int.dbf"));
-    CreaFicheroDbf(ruta, {{QStringLiteral("CODIGO"), 'N', 4, 0}, {QStringLiteral("DESCRIPCIO"), 'C', 60, 0}});
-    {
-        auto t = TTabla::AbreRuta(ruta);
-        for (const auto& [codigo, texto] :
-             {std::pair{3, "Mandatario verbal"}, std::pair{1, "En su nombre"}}) {
-            t->Append();
-            t->SetInteger(QStringLiteral("CODIGO"), codigo);
-            t->SetString(QStringLiteral("DESCRIPCIO"), QLatin1String(texto));
-            t->Post();
-        }
-    }
+    creaDbf(ruta, {{QStringLiteral("CODIGO"), 'N', 4, 0}, {QStringLiteral("DESCRIPCIO"), 'C', 60, 0}},
+            {{3, QStringLiteral("Mandatario verbal")}, {1, QStringLiteral("En su nombre")}});
     OlvidaTablasCargadas();
-    EXPECT_EQ(Actuacion_INTI(1), QStringLiteral("En su nombre"));
-    EXPECT_EQ(Actuacion_INTI(3), QStringLiteral("Mandatario verbal"));
-    EXPECT_EQ(Actuacion_INTI(2), QString());
+    EXPECT_EQ(QStringList({Actuacion_INTI(1), Actuacion_INTI(3), Actuacion_INTI(2)}),
+              QStringList({QStringLiteral("En su nombre"), QStringLiteral("Mandatario verbal"), QString()}));
     auto abierta = CreaTabla(QStringLiteral("DB"), QStringLiteral("Tipo_Int.dbf"), QStringLiteral("CODIGO"));
     EXPECT_EQ(Actuacion_INTI(3, *abierta), QStringLiteral("Mandatario verbal"));
     EXPECT_EQ(abierta->AsInteger(QStringLiteral("CODIGO")), 3); // left open, on the row found
@@ -144,30 +138,27 @@ TEST(OficinaMuestra, CabecerasDeLosDosNotariosYTiposDeIntervencion) {
         const char* fac_3;
         const char* fac_g_2;
     };
+    const char *ruiz = "IGNACIO RUIZ VALDÉS", *olmedo = "MARÍA DEL CARMEN OLMEDO SÁNCHEZ",
+               *principe = "C/ Príncipe de Vergara, 41, 2º dcha. 28001 MADRID",
+               *castellana = "Paseo de la Castellana, 118, 4º. 28046 MADRID";
     const Caso casos[] = {
-        {"1", dia(2, 1, 2015), "IGNACIO RUIZ VALDÉS", "C/ Príncipe de Vergara, 41, 2º dcha. 28001 MADRID",
-         "ES12 0049 1500 0512 3456 7890"},
-        {"1", dia(31, 5, 2021), "IGNACIO RUIZ VALDÉS", "C/ Príncipe de Vergara, 41, 2º dcha. 28001 MADRID",
-         "ES12 0049 1500 0512 3456 7890"},
-        {"1", dia(1, 6, 2021), "IGNACIO RUIZ VALDÉS", "Paseo de la Castellana, 118, 4º. 28046 MADRID",
-         "ES12 0049 1500 0512 3456 7890"},
-        {"1", dia(15, 3, 2025), "IGNACIO RUIZ VALDÉS", "Paseo de la Castellana, 118, 4º. 28046 MADRID",
-         "ES76 2100 0418 4502 0005 1332"},
-        {"2", dia(14, 9, 2023), "MARÍA DEL CARMEN OLMEDO SÁNCHEZ",
-         "C/ Príncipe de Vergara, 41, 2º dcha. 28001 MADRID", "ES91 0182 2370 4102 0150 3124"},
-        {"2", dia(15, 9, 2023), "MARÍA DEL CARMEN OLMEDO SÁNCHEZ",
-         "Paseo de la Castellana, 118, 4º. 28046 MADRID", "ES91 0182 2370 4102 0150 3124"},
+        {"1", dia(2, 1, 2015), ruiz, principe, "ES12 0049 1500 0512 3456 7890"},
+        {"1", dia(31, 5, 2021), ruiz, principe, "ES12 0049 1500 0512 3456 7890"},
+        {"1", dia(1, 6, 2021), ruiz, castellana, "ES12 0049 1500 0512 3456 7890"},
+        {"1", dia(15, 3, 2025), ruiz, castellana, "ES76 2100 0418 4502 0005 1332"},
+        {"2", dia(14, 9, 2023), olmedo, principe, "ES91 0182 2370 4102 0150 3124"},
+        {"2", dia(15, 9, 2023), olmedo, castellana, "ES91 0182 2370 4102 0150 3124"},
     };
     for (const Caso& c : casos) {
         Config.SetsNotario(QString::fromLatin1(c.notario));
         ActualizaCabeceraFacturas(c.fecha, false);
-        EXPECT_EQ(Config.GetFac_1(), QString::fromUtf8(c.fac_1)) << c.notario << ' ' << c.fecha;
-        EXPECT_EQ(Config.GetFac_3(), QString::fromUtf8(c.fac_3)) << c.notario << ' ' << c.fecha;
-        EXPECT_EQ(Config.GetFac_g_2(), QString::fromUtf8(c.fac_g_2)) << c.notario << ' ' << c.fecha;
+        EXPECT_EQ(QStringList({Config.GetFac_1(), Config.GetFac_3(), Config.GetFac_g_2()}),
+                  QStringList(
+                      {QString::fromUtf8(c.fac_1), QString::fromUtf8(c.fac_3), QString::fromUtf8(c.fac_g_2)}))
+            << c.notario << ' ' << c.fecha;
     }
-    EXPECT_EQ(Actuacion_INTI(1), QStringLiteral("En su nombre"));
-    EXPECT_EQ(Actuacion_INTI(7), QStringLiteral("Como apoderado de"));
-    EXPECT_EQ(Actuacion_INTI(20), QStringLiteral("Por sí y en representación de su cónyuge"));
-    EXPECT_TRUE(Actuacion_INTI(13).isEmpty());
+    EXPECT_EQ(QStringList({Actuacion_INTI(1), Actuacion_INTI(7), Actuacion_INTI(20), Actuacion_INTI(13)}),
+              QStringList({QStringLiteral("En su nombre"), QStringLiteral("Como apoderado de"),
+                           QStringLiteral("Por sí y en representación de su cónyuge"), QString()}));
     Config = anterior;
 }

@@ -22,9 +22,8 @@ template <typename F> void muestra(F& f) {
 }
 
 TEST(ConversorMoneda, ConvertsIntoTheEmptyField) {
-    const struct {
-        const char *pesetas, *euros, *quedaPesetas, *quedaEuros;
-    } casos[] = {
+    // Pesetas and euros typed; what each field shows after converting.
+    const std::tuple<const char*, const char*, const char*, const char*> casos[] = {
         {"", "1000", "166.386", "1000"},
         {"500", "0,0004", "500", "3,01"}, // 0,0004 € rounds to nothing: the euros are computed
         {"500", "2", "500", "2"},         // both filled: nothing changes
@@ -32,13 +31,13 @@ TEST(ConversorMoneda, ConvertsIntoTheEmptyField) {
         {"", "", "", ""},
         {"166386", "", "166386", "1.000,00"},
     };
-    for (const auto& c : casos) {
+    for (const auto& [pesetas, euros, quedaPesetas, quedaEuros] : casos) {
         TFConversorMoneda f;
-        f.ePesetas->setText(QString::fromUtf8(c.pesetas));
-        f.eEuros->setText(QString::fromUtf8(c.euros));
+        f.ePesetas->setText(QString::fromUtf8(pesetas));
+        f.eEuros->setText(QString::fromUtf8(euros));
         f.btnConvertir->click();
-        EXPECT_EQ(f.ePesetas->text(), QString::fromUtf8(c.quedaPesetas)) << c.pesetas << " / " << c.euros;
-        EXPECT_EQ(f.eEuros->text(), QString::fromUtf8(c.quedaEuros)) << c.pesetas << " / " << c.euros;
+        EXPECT_EQ(f.ePesetas->text(), QString::fromUtf8(quedaPesetas)) << pesetas << " / " << euros;
+        EXPECT_EQ(f.eEuros->text(), QString::fromUtf8(quedaEuros)) << pesetas << " / " << euros;
     }
 }
 
@@ -57,30 +56,23 @@ TEST(ConversorMoneda, FieldsTakeDigitsAndCommaAsTyped) {
 
 TEST(ConversorMoneda, TheReferenceCardReadsAsPrinted) {
     TFConversorMoneda f;
-    const struct {
-        QTableWidget* tabla;
-        const char *titulo, *izquierda, *derecha;
-        int fila;
-    } casos[] = {
+    const std::tuple<QTableWidget*, const char*, const char*, const char*, int> casos[] = {
         {f.ValueListEditor2, "Pesetas", "500", "3,01", 10},
         {f.ValueListEditor4, "Pesetas", "1.000.000", "6.010,12", 10},
         {f.ValueListEditor1, "Euros", "0,50", "83", 5},
         {f.ValueListEditor3, "Euros", "50,00", "8.319", 5}, // the card's figure, kept as printed
         {f.ValueListEditor3, "Euros", "1.000,00", "166.386", 9},
     };
-    for (const auto& c : casos) {
-        ASSERT_EQ(c.tabla->rowCount(), 11);
-        EXPECT_EQ(c.tabla->horizontalHeaderItem(0)->text(), QString::fromUtf8(c.titulo));
-        EXPECT_EQ(c.tabla->item(c.fila, 0)->text(), QString::fromUtf8(c.izquierda));
-        EXPECT_EQ(c.tabla->item(c.fila, 1)->text(), QString::fromUtf8(c.derecha));
+    for (const auto& [tabla, titulo, izquierda, derecha, fila] : casos) {
+        ASSERT_EQ(tabla->rowCount(), 11);
+        EXPECT_EQ(tabla->horizontalHeaderItem(0)->text(), QString::fromUtf8(titulo));
+        EXPECT_EQ(tabla->item(fila, 0)->text(), QString::fromUtf8(izquierda));
+        EXPECT_EQ(tabla->item(fila, 1)->text(), QString::fromUtf8(derecha));
     }
 }
 
 TEST(CalculaMetros, HundredthsOfSquareMetresIn32Bits) {
-    const struct {
-        qint32 ha, a, ca;
-        double metros;
-    } casos[] = {
+    const std::tuple<qint32, qint32, qint32, double> casos[] = {
         {2, 35, 12, 23512},
         {0, 0, 0, 0},
         {2147, 0, 0, 21470000},
@@ -88,8 +80,8 @@ TEST(CalculaMetros, HundredthsOfSquareMetresIn32Bits) {
         {0, 0, 21474837, -21474835.96},
         {1, -1, 0, 9900},
     };
-    for (const auto& c : casos)
-        EXPECT_DOUBLE_EQ(MetrosDeHectareas(c.ha, c.a, c.ca), c.metros) << c.ha << " " << c.a << " " << c.ca;
+    for (const auto& [ha, a, ca, metros] : casos)
+        EXPECT_DOUBLE_EQ(MetrosDeHectareas(ha, a, ca), metros) << ha << " " << a << " " << ca;
 }
 
 TEST(CalculaMetros, TheFormComputesAcceptsAndCancels) {
@@ -108,13 +100,11 @@ TEST(CalculaMetros, TheFormComputesAcceptsAndCancels) {
     f.BBCalcula->click();
     EXPECT_EQ(f.EMetros->text(), QStringLiteral("0"));
     f.BBAceptar->click();
-    EXPECT_EQ(f.Tag, 1);
-    EXPECT_EQ(f.result(), 1);
+    EXPECT_EQ(std::pair(f.Tag, f.result()), std::pair(1, 1));
 
     muestra(f);
     QTest::keyClick(f.EHectareas, Qt::Key_Escape);
-    EXPECT_EQ(f.Tag, 0);
-    EXPECT_EQ(f.result(), 2);
+    EXPECT_EQ(std::pair(f.Tag, f.result()), std::pair(0, 2));
 }
 
 // The sample office's images are real pictures: the generator's PNG and JPEG writers are checked by a

@@ -13,18 +13,16 @@
 
 #include <QDir>
 #include <QFile>
+#include <fcntl.h>
 #include <functional>
 #include <gtest/gtest.h>
+#include <linux/fs.h>
 #include <optional>
 #include <stdexcept>
-
-#ifdef Q_OS_LINUX
-#include <fcntl.h>
-#include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#endif
+#include <utility>
 
 using namespace nod;
 using nod::prueba::OficinaPrueba;
@@ -35,14 +33,10 @@ const QString kConfig = QStringLiteral("[GENERAL]\nNumeroNotarios=2\nNotario=1\n
                                        "[ENLACEWORD]\nCarpeta1=NOTARIA1\nCarpeta2=NOTARIA2\n"
                                        "[NOTARIO1]\nIniciales=JGP\n[NOTARIO2]\nIniciales=MLR\n");
 
-std::string s(const QString& q) {
-    return q.toStdString();
-}
-
 void crea(const QString& ruta, const QByteArray& contenido = "x") {
     QDir().mkpath(QFileInfo(ruta).absolutePath());
     QFile f(ruta);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly)) << s(ruta);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly)) << ruta.toStdString();
     f.write(contenido);
 }
 
@@ -53,6 +47,16 @@ QByteArray lee(const QString& ruta) {
 
 QStringList ficheros(const QString& carpeta) {
     return QDir(carpeta).entryList(QDir::Files, QDir::Name);
+}
+
+bool esCarpeta(const QString& ruta) {
+    return QFileInfo(RutaEnDisco(ruta)).isDir();
+}
+
+void esDialogo(const DialogoMostrado& d, const char* kind, const char* titulo, const QString& texto) {
+    EXPECT_EQ(d.kind, QLatin1String(kind));
+    EXPECT_EQ(d.title, QString::fromUtf8(titulo));
+    EXPECT_EQ(d.text, texto);
 }
 
 class Documentos : public ::testing::Test {
@@ -66,11 +70,7 @@ protected:
 };
 
 TEST_F(Documentos, NotaryImages) {
-    const struct {
-        QString (*rutina)(const QString&);
-        const char* notario;
-        const char* esperado;
-    } casos[] = {
+    const std::tuple<QString (*)(const QString&), const char*, const char*> casos[] = {
         {FicheroSello, "", "C:\\WORDZEB\\IMAGENES\\SELLO1.PNG"},
         {FicheroSello, "0", "C:\\WORDZEB\\IMAGENES\\SELLO1.PNG"},
         {FicheroSello, " 2 ", "C:\\WORDZEB\\IMAGENES\\SELLO2.PNG"},
@@ -81,8 +81,8 @@ TEST_F(Documentos, NotaryImages) {
         {FicheroRubrica, "", "C:\\WORDZEB\\IMAGENES\\RUBRICA1.JPG"},
         {FicheroSelloFirma, "3", "C:\\WORDZEB\\IMAGENES\\SELLO_FIRMA3.PNG"},
     };
-    for (const auto& c : casos)
-        EXPECT_EQ(c.rutina(QString::fromUtf8(c.notario)), QString::fromUtf8(c.esperado)) << c.esperado;
+    for (const auto& [rutina, notario, esperado] : casos)
+        EXPECT_EQ(rutina(QString::fromUtf8(notario)), QString::fromUtf8(esperado)) << esperado;
 
     // The office's images follow its folder; the signature images stay on the workstation's disk.
     Config.SetCarpetaImagenes(QStringLiteral("\\\\SERVIDOR\\IMAGENES\\"));
@@ -94,30 +94,22 @@ TEST_F(Documentos, NotaryImages) {
 }
 
 TEST_F(Documentos, TheThreeBisFamiliesStayApart) {
-    const struct {
-        int bis;
-        const char *documento, *copia, *electronica;
-    } casos[] = {
-        {0, "", "", ""},
-        {1, "_1Bis", "Bis", "-1Bis"},
-        {2, "_2Bis", "2Bis", "-2Bis"},
-        {3, "_3Bis", "3Bis", "-3Bis"},
-        {4, "", "", ""},
-        {-1, "", "", ""},
-    };
-    for (const auto& c : casos) {
-        EXPECT_EQ(SufijoBisDocumento(c.bis), QLatin1String(c.documento)) << c.bis;
-        EXPECT_EQ(SufijoBisCopia(c.bis), QLatin1String(c.copia)) << c.bis;
-        EXPECT_EQ(SufijoBisElectronico(c.bis), QLatin1String(c.electronica)) << c.bis;
+    const std::tuple<int, const char*, const char*, const char*> casos[] = {{0, "", "", ""},
+                                                                            {1, "_1Bis", "Bis", "-1Bis"},
+                                                                            {2, "_2Bis", "2Bis", "-2Bis"},
+                                                                            {3, "_3Bis", "3Bis", "-3Bis"},
+                                                                            {4, "", "", ""},
+                                                                            {-1, "", "", ""}};
+    for (const auto& [bis, documento, copia, electronica] : casos) {
+        EXPECT_EQ(SufijoBisDocumento(bis), QLatin1String(documento)) << bis;
+        EXPECT_EQ(SufijoBisCopia(bis), QLatin1String(copia)) << bis;
+        EXPECT_EQ(SufijoBisElectronico(bis), QLatin1String(electronica)) << bis;
     }
 }
 
 TEST_F(Documentos, DeedDocumentNamesFromTheTemplate) {
-    const struct {
-        const char* plantilla;
-        int modo, notario, numero, ano, bis;
-        const char* esperado;
-    } casos[] = {
+    // Template; mode, notary, number, year and bis; the name.
+    const std::tuple<const char*, int, int, int, int, int, const char*> casos[] = {
         {"<AÑO>-<NUMERO5>", 0, 1, 12, 2008, 1, "08-00012_1Bis"},
         {"<INICIALES NOTARIO>_<NUMERO4>_<AÑO4>", 0, 2, 12, 2008, 0, "MLR_0012_2008"},
         {"<NUMERO>", 0, 1, 123456, 2008, 3, "123456_3Bis"},
@@ -129,11 +121,11 @@ TEST_F(Documentos, DeedDocumentNamesFromTheTemplate) {
         {"<NUMERO>-<AÑO", 0, 1, 5, 2024, 0, "5-"},        // "<" never closed: the rest is left out
         {"", 0, 1, 5, 2024, 2, "_2Bis"},
     };
-    for (const auto& c : casos) {
-        Config.SetsEnlaceWordNombreFichero(QString::fromUtf8(c.plantilla));
-        EXPECT_EQ(DameNombreFicheroWordEscrituras(c.modo, c.notario, c.numero, c.ano, c.bis),
-                  QString::fromUtf8(c.esperado))
-            << c.plantilla;
+    for (const auto& [plantilla, modo, notario, numero, ano, bis, esperado] : casos) {
+        Config.SetsEnlaceWordNombreFichero(QString::fromUtf8(plantilla));
+        EXPECT_EQ(DameNombreFicheroWordEscrituras(modo, notario, numero, ano, bis),
+                  QString::fromUtf8(esperado))
+            << plantilla;
     }
 }
 
@@ -167,56 +159,46 @@ TEST_F(Documentos, CopyAndPolicyNames) {
     EXPECT_EQ(DameNombreFicheroCopiaSimple(123456, 3), QStringLiteral("COPSIM_234563Bis"));
 
     Config.SetsEnlaceWordNombreFicheroPoliza(QStringLiteral("<SECCION>-<AÑO>-<NUMERO5>"));
-    const struct {
-        const char* estilo;
-        int bis;
-        const char* esperado;
-    } casos[] = {
+    const std::tuple<const char*, int, const char*> casos[] = {
         {"0", 0, "A-24-00007N"}, {"0", 1, "A-24-00007A"},     {"0", 3, "A-24-00007C"},
         {"1", 0, "A-24-00007"},  {"1", 2, "A-24-00007_2Bis"}, {"", 0, "A-24-00007"},
         {"2", 2, "A-24-00007B"}, {"00", 0, "A-24-00007"},     {"0", 5, "A-24-00007N"},
     };
-    for (const auto& c : casos) {
-        Config.SetsEnlaceWordBisFicheroPoliza(QLatin1String(c.estilo));
-        EXPECT_EQ(DameNombreFicheroWordPolizas(QStringLiteral("A"), 1, 7, 2024, c.bis),
-                  QLatin1String(c.esperado))
-            << "style " << c.estilo << " bis " << c.bis;
+    for (const auto& [estilo, bis, esperado] : casos) {
+        Config.SetsEnlaceWordBisFicheroPoliza(QLatin1String(estilo));
+        EXPECT_EQ(DameNombreFicheroWordPolizas(QStringLiteral("A"), 1, 7, 2024, bis), QLatin1String(esperado))
+            << "style " << estilo << " bis " << bis;
     }
 }
 
 TEST_F(Documentos, FoldersWithoutAgreementAreCreated) {
-    EXPECT_EQ(DameCarpetaFicheroWordEscrituras(0, 1, 2008), QStringLiteral("C:\\NODRIM\\PROTOCOLO\\2008"));
-    EXPECT_EQ(DameCarpetaFicheroWordEscrituras(1, 1, 2008),
-              QStringLiteral("C:\\NODRIM\\EXPEDIENTES\\2008\\"));
-    EXPECT_EQ(DameCarpetaFicheroCopiaAutorizada(2, 2008), QStringLiteral("C:\\NODRIM\\ENVIOREGISTRO\\2008"));
-    EXPECT_EQ(DameCarpetaFicheroCopiaSimple(2, 2008), QStringLiteral("C:\\NODRIM\\CSIMPLEELECTRONICA\\2008"));
-    EXPECT_EQ(DameCarpetaFicheroWordPolizas(2024), QStringLiteral("C:\\NODRIM\\POLIZAS\\2024"));
-    for (const char* carpeta :
-         {"C/NODRIM/PROTOCOLO/2008", "C/NODRIM/EXPEDIENTES/2008", "C/NODRIM/ENVIOREGISTRO/2008",
-          "C/NODRIM/CSIMPLEELECTRONICA/2008", "C/NODRIM/POLIZAS/2024"})
-        EXPECT_TRUE(QFileInfo(disco(QLatin1String(carpeta))).isDir()) << carpeta;
+    const std::pair<QString, const char*> casos[] = {
+        {DameCarpetaFicheroWordEscrituras(0, 1, 2008), "C:\\NODRIM\\PROTOCOLO\\2008"},
+        {DameCarpetaFicheroWordEscrituras(1, 1, 2008), "C:\\NODRIM\\EXPEDIENTES\\2008\\"},
+        {DameCarpetaFicheroCopiaAutorizada(2, 2008), "C:\\NODRIM\\ENVIOREGISTRO\\2008"},
+        {DameCarpetaFicheroCopiaSimple(2, 2008), "C:\\NODRIM\\CSIMPLEELECTRONICA\\2008"},
+        {DameCarpetaFicheroWordPolizas(2024), "C:\\NODRIM\\POLIZAS\\2024"}};
+    for (const auto& [carpeta, esperada] : casos) {
+        EXPECT_EQ(carpeta, QLatin1String(esperada));
+        EXPECT_TRUE(esCarpeta(carpeta)) << esperada;
+    }
     EXPECT_TRUE(mensajes.mostrados().isEmpty());
 }
 
 TEST_F(Documentos, FoldersUnderTheAgreement) {
     Config.SetbEnlaceWordConvenio(true);
     Config.SetsEnlaceWordCarpetaBase(QStringLiteral("COMPARTIDA\\"));
-    const struct {
-        bool anoMasNotario;
-        int notario;
-        const char *esperado, *enDisco;
-    } casos[] = {
-        {false, 2, "COMPARTIDA\\NOTARIA2\\2008\\", "COMPARTIDA/NOTARIA2/2008"},
-        {true, 2, "COMPARTIDA\\2008\\NOTARIA2\\", "COMPARTIDA/2008/NOTARIA2"},
-        {false, 1, "COMPARTIDA\\NOTARIA1\\2008\\", "COMPARTIDA/NOTARIA1/2008"},
-        {false, 7, "COMPARTIDA\\2008\\", "COMPARTIDA/2008"}, // no folder of its own beyond notary 5
-        {true, 0, "COMPARTIDA\\2008\\", "COMPARTIDA/2008"},
-    };
-    for (const auto& c : casos) {
-        Config.SetbEnlaceWordAnoMasNotario(c.anoMasNotario);
-        EXPECT_EQ(DameCarpetaFicheroWordEscrituras(0, c.notario, 2008), QLatin1String(c.esperado))
-            << c.esperado;
-        EXPECT_TRUE(QFileInfo(disco(QLatin1String(c.enDisco))).isDir()) << c.enDisco;
+    // Year before notary, notary, folder (none of its own beyond notary 5).
+    const std::tuple<bool, int, const char*> casos[] = {{false, 2, "COMPARTIDA\\NOTARIA2\\2008\\"},
+                                                        {true, 2, "COMPARTIDA\\2008\\NOTARIA2\\"},
+                                                        {false, 1, "COMPARTIDA\\NOTARIA1\\2008\\"},
+                                                        {true, 0, "COMPARTIDA\\2008\\"},
+                                                        {false, 7, "COMPARTIDA\\2008\\"}};
+    for (const auto& [anoMasNotario, notario, esperado] : casos) {
+        Config.SetbEnlaceWordAnoMasNotario(anoMasNotario);
+        const QString carpeta = DameCarpetaFicheroWordEscrituras(0, notario, 2008);
+        EXPECT_EQ(carpeta, QLatin1String(esperado));
+        EXPECT_TRUE(esCarpeta(carpeta)) << esperado;
     }
     Config.SetbEnlaceWordAnoMasNotario(false);
     EXPECT_EQ(DameCarpetaFicheroCopiaAutorizada(1, 2008),
@@ -236,10 +218,8 @@ TEST_F(Documentos, AgreementWithoutNotariesIsReportedOncePerCall) {
         "Vaya a la configuración y modifique los datos.\rDesactive el convenio y revise la carpeta base.");
     EXPECT_EQ(DameCarpetaFicheroWordEscrituras(0, 1, 2008), QStringLiteral("C:\\NODRIM\\PROTOCOLO"));
     ASSERT_EQ(mensajes.mostrados().size(), 1);
-    EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
-    EXPECT_EQ(mensajes.mostrados()[0].title, QStringLiteral("Configuración errónea"));
-    EXPECT_EQ(mensajes.mostrados()[0].text, texto);
-    EXPECT_TRUE(QFileInfo(disco(QStringLiteral("C/NODRIM/PROTOCOLO"))).isDir());
+    esDialogo(mensajes.mostrados()[0], "Mensaje_Error", "Configuración errónea", texto);
+    EXPECT_TRUE(esCarpeta(QStringLiteral("C:\\NODRIM\\PROTOCOLO")));
 
     EXPECT_EQ(DameCarpetaFicheroCopiaAutorizada(1, 2008), QStringLiteral("C:\\NODRIM\\ENVIOREGISTRO"));
     EXPECT_EQ(DameCarpetaFicheroCopiaSimple(1, 2008), QStringLiteral("C:\\NODRIM\\CSIMPLEELECTRONICA"));
@@ -250,32 +230,23 @@ TEST_F(Documentos, AgreementWithoutNotariesIsReportedOncePerCall) {
 }
 
 TEST_F(Documentos, ElectronicFileFolders) {
-    const struct {
-        std::function<QString()> llamada;
-        const char* debajo;
-    } casos[] = {
-        {[] { return DameCarpetaFicherosElectronicosEscrituras(0, 1, 12, 1, 2008, {}); },
-         "Archivos\\Protocolo\\2008\\JGP00012-1Bis"},
-        {[] {
-             return DameCarpetaFicherosElectronicosEscrituras(0, 2, 12, 0, 2008, QStringLiteral("Firmadas"));
-         },
-         "Archivos\\Protocolo\\2008\\MLR00012\\Firmadas"},
-        {[] { return DameCarpetaFicherosElectronicosEscrituras(1, 2, 12, 3, 2008, {}); },
-         "Archivos\\Expediente\\2008\\000012-3Bis"},
-        {[] { return DameCarpetaFicherosElectronicosPolizas(0, 2, QStringLiteral("A"), 7, 2, 2024, {}); },
-         "Archivos\\Polizas\\2024\\A\\MLR00007-2Bis"},
-        {[] {
-             return DameCarpetaFicherosElectronicosPolizas(0, 1, {}, 7, 0, 2024, QStringLiteral("Escaneos"));
-         },
-         "Archivos\\Polizas\\2024\\JGP00007\\Escaneos"},
-        {[] { return DameCarpetaFicherosElectronicosPolizas(1, 1, QStringLiteral("A"), 12, 0, 2024, {}); },
-         "Archivos\\Expediente\\2024\\000012"},
+    // Policy or deed; mode, notary, section, number, bis and year; the subfolder asked for; the folder.
+    const std::tuple<bool, int, int, const char*, int, int, int, const char*, const char*> casos[] = {
+        {false, 0, 1, "", 12, 1, 2008, "", "Archivos\\Protocolo\\2008\\JGP00012-1Bis"},
+        {false, 0, 2, "", 12, 0, 2008, "Firmadas", "Archivos\\Protocolo\\2008\\MLR00012\\Firmadas"},
+        {false, 1, 2, "", 12, 3, 2008, "", "Archivos\\Expediente\\2008\\000012-3Bis"},
+        {true, 0, 2, "A", 7, 2, 2024, "", "Archivos\\Polizas\\2024\\A\\MLR00007-2Bis"},
+        {true, 0, 1, "", 7, 0, 2024, "Escaneos", "Archivos\\Polizas\\2024\\JGP00007\\Escaneos"},
+        {true, 1, 1, "A", 12, 0, 2024, "", "Archivos\\Expediente\\2024\\000012"},
     };
-    for (const auto& c : casos) {
-        const QString debajo = QString::fromUtf8(c.debajo);
-        EXPECT_EQ(c.llamada(), datos() + QLatin1Char('\\') + debajo);
-        EXPECT_TRUE(QFileInfo(disco(QStringLiteral("DATOS/") + QString(debajo).replace(u'\\', u'/'))).isDir())
-            << c.debajo;
+    for (const auto& [poliza, modo, notario, seccion, numero, bis, ano, sub, debajo] : casos) {
+        const QString carpeta =
+            poliza ? DameCarpetaFicherosElectronicosPolizas(modo, notario, QLatin1String(seccion), numero,
+                                                            bis, ano, QLatin1String(sub))
+                   : DameCarpetaFicherosElectronicosEscrituras(modo, notario, numero, bis, ano,
+                                                               QLatin1String(sub));
+        EXPECT_EQ(carpeta, datos() + QLatin1Char('\\') + QLatin1String(debajo));
+        EXPECT_TRUE(esCarpeta(carpeta)) << debajo;
     }
     EXPECT_EQ(Config.GetsNotario(), QStringLiteral("1"));
     EXPECT_EQ(Config.GetNombre_Inicial(), QStringLiteral("JGP"));
@@ -298,64 +269,33 @@ TEST_F(Documentos, FoldersTheFileSystemRefusesStillGiveTheirPath) {
     EXPECT_TRUE(mensajes.mostrados().isEmpty()) << "the caller meets it when writing the file";
 }
 
-#ifdef Q_OS_LINUX
-// Sets or clears the immutable attribute of a file or folder: nothing inside an immutable folder can be
-// created, renamed or deleted, and an immutable file cannot be deleted, even by root.
-bool ponInmutable(const QString& ruta, bool poner) {
-    const int fd = open(QFile::encodeName(ruta).constData(), O_RDONLY);
-    if (fd < 0) return false;
-    int flags = 0;
-    bool hecho = ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
-    if (hecho) {
-        flags = poner ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
-        hecho = ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
-    }
-    close(fd);
-    return hecho;
-}
-#endif
-
 // Holds a file against deletion, or a whole folder read-only, the way this machine allows: a folder
 // without write permission for an ordinary user; for root, whom permissions do not stop, the immutable
-// attribute of the file or folder itself.
-class Retencion {
-public:
+// attribute of the file or folder itself (nothing inside an immutable folder can be created, renamed or
+// deleted, and an immutable file cannot be deleted).
+struct Retencion {
     enum Que { Fichero, Carpeta };
-    explicit Retencion(const QString& ruta, Que que = Fichero) {
-#ifdef Q_OS_LINUX
-        if (geteuid() == 0) {
-            m_inmutable = ruta;
-            m_activa = ponInmutable(ruta, true);
-        } else {
-            m_carpeta = que == Carpeta ? ruta : QFileInfo(ruta).absolutePath();
-            m_activa = chmod(QFile::encodeName(m_carpeta).constData(), 0555) == 0;
-        }
-#endif
-    }
-    ~Retencion() {
-        suelta();
-    }
-    bool activa() const {
-        return m_activa;
-    }
-    /// Whether only the file is held (the rest of its folder stays writable).
-    bool soloElFichero() const {
-        return !m_inmutable.isEmpty();
-    }
+    explicit Retencion(const QString& r, Que que = Fichero)
+        : inmutable(geteuid() == 0)
+        , ruta(QFile::encodeName(inmutable || que == Carpeta ? r : QFileInfo(r).absolutePath()))
+        , activa(pon(true)) {}
+    ~Retencion() { suelta(); }
     void suelta() {
-#ifdef Q_OS_LINUX
-        if (!m_activa) return;
-        if (!m_inmutable.isEmpty())
-            ponInmutable(m_inmutable, false);
-        else
-            chmod(QFile::encodeName(m_carpeta).constData(), 0755);
-        m_activa = false;
-#endif
+        if (std::exchange(activa, false)) pon(false);
     }
-
-private:
-    QString m_inmutable, m_carpeta;
-    bool m_activa = false;
+    bool pon(bool poner) const {
+        if (!inmutable) return chmod(ruta.constData(), poner ? 0555 : 0755) == 0;
+        const int fd = open(ruta.constData(), O_RDONLY);
+        int flags = 0;
+        bool hecho = fd >= 0 && ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
+        flags = poner ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
+        hecho = hecho && ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
+        if (fd >= 0) close(fd);
+        return hecho;
+    }
+    const bool inmutable; // only the file is held: the rest of its folder stays writable
+    const QByteArray ruta;
+    bool activa;
 };
 
 // A clerk who answers each "Eliminar anexos" question through `responde`.
@@ -379,22 +319,19 @@ TEST_F(Documentos, DeleteAnexosDeletesTheAnnexesOnly) {
     DeleteAnexos(QStringLiteral("ESC\\NoExiste.docx"));
     DeleteAnexos(QStringLiteral("ESC\\"));
     DeleteAnexos(QString());
-    EXPECT_EQ(ficheros(disco(QStringLiteral("ESC"))),
-              (QStringList{QStringLiteral("Acta.doc.doc"), QStringLiteral("Acta.doc_Anexo.doc"),
-                           QStringLiteral("Doc.docx"), QStringLiteral("Doc2_Anexo.docx"),
-                           QStringLiteral("Doc_Anex.docx"), QStringLiteral("Doc_Anexo1.pdf"),
-                           QStringLiteral("a*b.doc"), QStringLiteral("aXb_Anexo.doc")}));
+    EXPECT_EQ(ficheros(disco(QStringLiteral("ESC"))).join(u'|'),
+              QStringLiteral("Acta.doc.doc|Acta.doc_Anexo.doc|Doc.docx|Doc2_Anexo.docx|Doc_Anex.docx|"
+                             "Doc_Anexo1.pdf|a*b.doc|aXb_Anexo.doc"));
     EXPECT_TRUE(mensajes.mostrados().isEmpty());
 }
 
 class AnexoRetenido : public Documentos {
 protected:
     void SetUp() override {
-        crea(disco(QStringLiteral("ESC/Doc.docx")));
-        crea(disco(QStringLiteral("ESC/Doc_Anexo1.docx")));
-        crea(disco(QStringLiteral("ESC/Doc_Anexo2.docx")));
+        for (const char* f : {"Doc.docx", "Doc_Anexo1.docx", "Doc_Anexo2.docx"})
+            crea(disco(QStringLiteral("ESC/") + QLatin1String(f)));
         retencion.emplace(disco(QStringLiteral("ESC/Doc_Anexo1.docx")));
-        if (!retencion->activa())
+        if (!retencion->activa)
             GTEST_SKIP() << "neither a read-only folder nor the immutable attribute holds a file here";
     }
     std::optional<Retencion> retencion;
@@ -412,9 +349,7 @@ TEST_F(AnexoRetenido, YesAfterClosingItDeletesIt) {
     };
     DeleteAnexos(QStringLiteral("ESC\\Doc.docx"));
     ASSERT_EQ(oficinista.mostrados().size(), 1);
-    EXPECT_EQ(oficinista.mostrados()[0].kind, QStringLiteral("Mensaje_SiNo"));
-    EXPECT_EQ(oficinista.mostrados()[0].title, QStringLiteral("Eliminar anexos"));
-    EXPECT_EQ(oficinista.mostrados()[0].text, pregunta);
+    esDialogo(oficinista.mostrados()[0], "Mensaje_SiNo", "Eliminar anexos", pregunta);
     EXPECT_EQ(ficheros(disco(QStringLiteral("ESC"))), QStringList{QStringLiteral("Doc.docx")});
 }
 
@@ -426,7 +361,7 @@ TEST_F(AnexoRetenido, YesWhileItStaysAsksAgainAndNoGoesOn) {
     EXPECT_TRUE(quedan.contains(QStringLiteral("Doc.docx")));
     ASSERT_GE(oficinista.mostrados().size(), 2);
     EXPECT_EQ(oficinista.mostrados()[1].text, pregunta);
-    if (retencion->soloElFichero()) {
+    if (retencion->inmutable) {
         EXPECT_EQ(oficinista.mostrados().size(), 2);
         EXPECT_FALSE(quedan.contains(QStringLiteral("Doc_Anexo2.docx"))) << "the next annex is still deleted";
     } else { // the read-only folder holds the second annex too: one more question, answered No
@@ -437,25 +372,43 @@ TEST_F(AnexoRetenido, YesWhileItStaysAsksAgainAndNoGoesOn) {
 class DocumentosUnidos : public Documentos {
 protected:
     void SetUp() override {
-        crea(disco(QStringLiteral("C/NODRIM/DOCUMENTOSUNIDOS/0007.JPG")), "siete");
-        crea(disco(QStringLiteral("C/NODRIM/DOCUMENTOSUNIDOS/12.jpeg")), "doce");
-        crea(disco(QStringLiteral("C/NODRIM/DOCUMENTOSUNIDOS/99.txt")), "no es una imagen");
-        crea(disco(QStringLiteral("EXP/DU/b.jpg")), "b");
-        crea(disco(QStringLiteral("EXP/DU/A.JPG")), "a");
-        crea(disco(QStringLiteral("EXP/DU/notas.txt")));
+        const std::pair<const char*, const char*> imagenes[] = {
+            {"C/NODRIM/DOCUMENTOSUNIDOS/0007.JPG", "siete"},
+            {"C/NODRIM/DOCUMENTOSUNIDOS/12.jpeg", "doce"},
+            {"C/NODRIM/DOCUMENTOSUNIDOS/99.txt", "no es una imagen"},
+            {"EXP/DU/b.jpg", "b"},
+            {"EXP/DU/A.JPG", "a"},
+            {"EXP/DU/notas.txt", "x"}};
+        for (const auto& [ruta, contenido] : imagenes)
+            crea(disco(QLatin1String(ruta)), contenido);
     }
     QString general(const QString& nombre = {}) const {
         return disco(QStringLiteral("C/NODRIM/DOCUMENTOSUNIDOS/") + nombre);
     }
+    void pasa(int respuesta, const QString& origen = QStringLiteral("EXP\\DU"),
+              const QString& mover = QStringLiteral("EXP\\INCORPORADOS")) {
+        mensajes.respuestas({respuesta});
+        PasaImagenesADU(origen, mover);
+    }
+    // The copy of `imagen` as `numero` failed: the clerk is told and nothing is left copied or moved.
+    void nadaCopiado(const char* imagen, const char* numero) {
+        pasa(6);
+        ASSERT_EQ(mensajes.mostrados().size(), 2);
+        EXPECT_EQ(mensajes.mostrados()[1].kind, QStringLiteral("Mensaje_Error"));
+        EXPECT_EQ(
+            mensajes.mostrados()[1].text,
+            QStringLiteral("No se ha podido copiar la imagen EXP\\DU\\%1 en C:\\NODRIM\\DOCUMENTOSUNIDOS\\%2")
+                .arg(QLatin1String(imagen), QLatin1String(numero)));
+        EXPECT_EQ(ficheros(general()).size(), 3);
+        EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3);
+        EXPECT_FALSE(QFileInfo::exists(disco(QStringLiteral("EXP/INCORPORADOS"))));
+    }
 };
 
 TEST_F(DocumentosUnidos, NumbersFollowTheHighestAndImagesMove) {
-    mensajes.respuestas({6});
-    PasaImagenesADU(QStringLiteral("EXP\\DU"), QStringLiteral("EXP\\INCORPORADOS"));
+    pasa(6);
     ASSERT_EQ(mensajes.mostrados().size(), 1);
-    EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_SiNo"));
-    EXPECT_EQ(mensajes.mostrados()[0].title, QStringLiteral("Incorporar Documentos Unidos"));
-    EXPECT_EQ(mensajes.mostrados()[0].text,
+    esDialogo(mensajes.mostrados()[0], "Mensaje_SiNo", "Incorporar Documentos Unidos",
               QStringLiteral("Hay documentos unidos asociados al protocolo\n"
                              "¿Desea incorporar los documentos unidos asociados al protocolo?"));
     EXPECT_EQ(lee(general(QStringLiteral("0013.jpg"))), "a");
@@ -467,54 +420,35 @@ TEST_F(DocumentosUnidos, NumbersFollowTheHighestAndImagesMove) {
 }
 
 TEST_F(DocumentosUnidos, NoCopiesNothingAndAnEmptyMoveFolderKeepsTheImages) {
-    mensajes.respuestas({7});
-    PasaImagenesADU(QStringLiteral("EXP\\DU"), QStringLiteral("EXP\\INCORPORADOS"));
+    pasa(7);
     EXPECT_EQ(ficheros(general()).size(), 3);
     EXPECT_FALSE(QFileInfo::exists(disco(QStringLiteral("EXP/INCORPORADOS"))));
-
-    mensajes.respuestas({6});
-    PasaImagenesADU(disco(QStringLiteral("EXP/DU")), {});
+    pasa(6, disco(QStringLiteral("EXP/DU")), {});
     EXPECT_EQ(ficheros(general()).size(), 5);
     EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3);
 }
 
 TEST_F(DocumentosUnidos, MissingFoldersAndImagesAreReported) {
-    const struct {
-        std::function<void()> prepara;
-        const char* origen;
-        const char *titulo, *texto;
-    } casos[] = {
+    const std::tuple<std::function<void()>, const char*, const char*, const char*> casos[] = {
         {[] {}, "EXP\\NO_EXISTE", "Sin DU asociados", "No hay DU asociados al expediente"},
         {[] {}, "EXP", "No hay DU asociados al expediente",
          "No se han encontrado imágenes en la carpeta EXP"},
         {[] { Config.SetCarpetaDocumentosUnidos(QStringLiteral("C:\\NODRIM\\NO_EXISTE")); }, "EXP\\DU",
          "Error consultar DU general", "No se ha encontrado la carpeta C:\\NODRIM\\NO_EXISTE"},
     };
-    for (const auto& c : casos) {
+    for (const auto& [prepara, origen, titulo, texto] : casos) {
         mensajes.limpia();
-        c.prepara();
-        PasaImagenesADU(QString::fromUtf8(c.origen), QStringLiteral("EXP\\INCORPORADOS"));
-        ASSERT_EQ(mensajes.mostrados().size(), 1) << c.texto;
-        EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_Error"));
-        EXPECT_EQ(mensajes.mostrados()[0].title, QString::fromUtf8(c.titulo));
-        EXPECT_EQ(mensajes.mostrados()[0].text, QString::fromUtf8(c.texto));
+        prepara();
+        PasaImagenesADU(QString::fromUtf8(origen), QStringLiteral("EXP\\INCORPORADOS"));
+        ASSERT_EQ(mensajes.mostrados().size(), 1) << texto;
+        esDialogo(mensajes.mostrados()[0], "Mensaje_Error", titulo, QString::fromUtf8(texto));
     }
     EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3);
 }
 
 TEST_F(DocumentosUnidos, AFailedCopyUndoesTheCallsCopiesAndMovesNothing) {
     QDir().mkpath(general(QStringLiteral("0014.jpg"))); // a folder takes the second image's name
-    mensajes.respuestas({6});
-    PasaImagenesADU(QStringLiteral("EXP\\DU"), QStringLiteral("EXP\\INCORPORADOS"));
-    ASSERT_EQ(mensajes.mostrados().size(), 2);
-    EXPECT_EQ(mensajes.mostrados()[1].kind, QStringLiteral("Mensaje_Error"));
-    EXPECT_EQ(
-        mensajes.mostrados()[1].text,
-        QStringLiteral(
-            "No se ha podido copiar la imagen EXP\\DU\\b.jpg en C:\\NODRIM\\DOCUMENTOSUNIDOS\\0014.jpg"));
-    EXPECT_FALSE(QFileInfo::exists(general(QStringLiteral("0013.jpg"))));
-    EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3);
-    EXPECT_FALSE(QFileInfo::exists(disco(QStringLiteral("EXP/INCORPORADOS"))));
+    nadaCopiado("b.jpg", "0014.jpg");
 }
 
 // A read-only folder of joined documents: nothing copied into it, the clerk told, the dossier's images
@@ -522,25 +456,14 @@ TEST_F(DocumentosUnidos, AFailedCopyUndoesTheCallsCopiesAndMovesNothing) {
 TEST_F(DocumentosUnidos, ReadOnlyDestinationsLoseNothing) {
     {
         Retencion soloLectura(general(), Retencion::Carpeta);
-        if (!soloLectura.activa()) GTEST_SKIP() << "no way to make a folder read-only here";
-        mensajes.respuestas({6});
-        PasaImagenesADU(QStringLiteral("EXP\\DU"), QStringLiteral("EXP\\INCORPORADOS"));
-        ASSERT_EQ(mensajes.mostrados().size(), 2);
-        EXPECT_EQ(mensajes.mostrados()[1].kind, QStringLiteral("Mensaje_Error"));
-        EXPECT_EQ(mensajes.mostrados()[1].text,
-                  QStringLiteral("No se ha podido copiar la imagen EXP\\DU\\A.JPG en "
-                                 "C:\\NODRIM\\DOCUMENTOSUNIDOS\\0013.jpg"));
+        if (!soloLectura.activa) GTEST_SKIP() << "no way to make a folder read-only here";
+        nadaCopiado("A.JPG", "0013.jpg");
     }
-    EXPECT_EQ(ficheros(general()).size(), 3);
-    EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3);
-    EXPECT_FALSE(QFileInfo::exists(disco(QStringLiteral("EXP/INCORPORADOS"))));
-
     QDir().mkpath(disco(QStringLiteral("EXP/INCORPORADOS")));
     Retencion soloLectura(disco(QStringLiteral("EXP/INCORPORADOS")), Retencion::Carpeta);
-    ASSERT_TRUE(soloLectura.activa());
+    ASSERT_TRUE(soloLectura.activa);
     mensajes.limpia();
-    mensajes.respuestas({6});
-    PasaImagenesADU(QStringLiteral("EXP\\DU"), QStringLiteral("EXP\\INCORPORADOS"));
+    pasa(6);
     EXPECT_EQ(mensajes.mostrados().size(), 1);
     EXPECT_EQ(lee(general(QStringLiteral("0013.jpg"))), "a");
     EXPECT_EQ(ficheros(disco(QStringLiteral("EXP/DU"))).size(), 3) << "the images stay where they were";

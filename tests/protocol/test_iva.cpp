@@ -24,63 +24,38 @@ protected:
     ServicioMensajesInstalado instalado{mensajes};
 };
 
-struct CasoIva {
-    int colegio;
-    const char* lugar;
-    TDateTime fecha;
-    double porcentaje;
-    const char* texto; // empty: no question
-    const char* titulo;
-};
-
 TEST_F(Iva, PorcentajeEnVigorYPregunta) {
-    const CasoIva casos[] = {
-        {0, "", fecha(31, 8, 2012), 18, "", ""},
-        {0, "", fecha(1, 9, 2012) + 0.75, 21, "", ""},
-        {0, "", fecha(30, 6, 2010), 16, "", ""},
-        {0, "", fecha(1, 7, 2010), 18, "", ""},
-        {0, "", fecha(1, 9, 2012), 18,
-         "¿Seguro que el IVA a aplicar es el 18% y no el 21%?\rLa fecha es posterior al 01/09/2012",
-         "Aplicación de IVA"},
-        {0, "", fecha(15, 3, 2011), 21,
-         "¿Seguro que el IVA a aplicar es el 21% y no el 18%?\rLa fecha es posterior al 01/07/2010 y "
-         "anterior al "
-         "01/09/2012",
-         "Aplicación de IVA"},
-        {0, "", fecha(30, 6, 2010), 7.5,
-         "¿Seguro que el IVA a aplicar es el 7,5% y no el 16%?\rLa fecha es anterior al 01/07/2010",
-         "Aplicación de IVA"},
-        {5, "", fecha(1, 9, 2012), 7, "", ""},
-        {5, "CEUTA", fecha(31, 8, 2012), 4, // association 5 wins over the town
-         "¿Seguro que el IGIC a aplicar es el 4% y no el 5%?\rLa fecha es anterior al 01/09/2012",
-         "Aplicación del IGIC"},
-        {5, "", fecha(2, 1, 2020), 21,
-         "¿Seguro que el IGIC a aplicar es el 21% y no el 7%?\rLa fecha es posterior al 01/09/2012",
-         "Aplicación del IGIC"},
-        {0, "MELILLA", fecha(1, 7, 2018), 6, "", ""},
-        {0, "MELILLA", fecha(30, 6, 2018), 6,
-         "¿Seguro que el IPSI a aplicar es el 6% y no el 9%?\rLa fecha es posterior al 24/09/2012",
-         "Aplicación del IPSI"},
-        {0, "CEUTA", fecha(2, 7, 2018), 21,
-         "¿Seguro que el IPSI a aplicar es el 21% y no el 6%?\rLa fecha es posterior al 01/07/2018",
-         "Aplicación del IPSI"},
-        {0, "CEUTA", fecha(23, 9, 2012), 9,
-         "¿Seguro que el IPSI a aplicar es el 9% y no el 4%?\rLa fecha es anterior al 24/09/2012",
-         "Aplicación de IPSI"},
-        {0, "Ceuta", fecha(1, 1, 2020), 6, // only the exact upper-case town selects IPSI
-         "¿Seguro que el IVA a aplicar es el 6% y no el 21%?\rLa fecha es posterior al 01/09/2012",
-         "Aplicación de IVA"},
+    // Association, town, date, percentage; in the question (none when empty) the percentages compared and
+    // the date's period, and the title after "Aplicación ", whose last word names the tax.
+    const std::tuple<int, const char*, TDateTime, double, const char*, const char*, const char*> casos[] = {
+        {0, "", fecha(31, 8, 2012), 18, "", "", ""},
+        {0, "", fecha(1, 9, 2012) + 0.75, 21, "", "", ""},
+        {0, "", fecha(30, 6, 2010), 16, "", "", ""},
+        {0, "", fecha(1, 7, 2010), 18, "", "", ""},
+        {0, "", fecha(1, 9, 2012), 18, "18% y no el 21%", "posterior al 01/09/2012", "de IVA"},
+        {0, "", fecha(15, 3, 2011), 21, "21% y no el 18%", "posterior al 01/07/2010 y anterior al 01/09/2012",
+         "de IVA"},
+        {0, "", fecha(30, 6, 2010), 7.5, "7,5% y no el 16%", "anterior al 01/07/2010", "de IVA"},
+        {5, "", fecha(1, 9, 2012), 7, "", "", ""},
+        // Association 5 wins over the town.
+        {5, "CEUTA", fecha(31, 8, 2012), 4, "4% y no el 5%", "anterior al 01/09/2012", "del IGIC"},
+        {5, "", fecha(2, 1, 2020), 21, "21% y no el 7%", "posterior al 01/09/2012", "del IGIC"},
+        {0, "MELILLA", fecha(1, 7, 2018), 6, "", "", ""},
+        {0, "MELILLA", fecha(30, 6, 2018), 6, "6% y no el 9%", "posterior al 24/09/2012", "del IPSI"},
+        {0, "CEUTA", fecha(2, 7, 2018), 21, "21% y no el 6%", "posterior al 01/07/2018", "del IPSI"},
+        {0, "CEUTA", fecha(23, 9, 2012), 9, "9% y no el 4%", "anterior al 24/09/2012", "de IPSI"},
+        // Only the exact upper-case town selects IPSI.
+        {0, "Ceuta", fecha(1, 1, 2020), 6, "6% y no el 21%", "posterior al 01/09/2012", "de IVA"},
     };
-    for (const auto& c : casos) {
-        SCOPED_TRACE(testing::Message()
-                     << c.colegio << " " << c.lugar << " " << c.fecha << " " << c.porcentaje);
-        Config.SetnColegio(c.colegio);
-        Config.SetLugar1(QLatin1String(c.lugar));
+    for (const auto& [colegio, lugar, fecha, porcentaje, porcentajes, periodo, titulo] : casos) {
+        SCOPED_TRACE(testing::Message() << colegio << " " << lugar << " " << fecha << " " << porcentaje);
+        Config.SetnColegio(colegio);
+        Config.SetLugar1(QLatin1String(lugar));
         for (int respuesta : {1, 2}) {
             mensajes.limpia();
             mensajes.respuestas({respuesta});
-            const bool preguntado = *c.texto != 0;
-            EXPECT_EQ(CompruebaIVA(c.fecha, c.porcentaje), !preguntado || respuesta == 1);
+            const bool preguntado = *titulo != 0;
+            EXPECT_EQ(CompruebaIVA(fecha, porcentaje), !preguntado || respuesta == 1);
             if (!preguntado) {
                 EXPECT_TRUE(mensajes.mostrados().isEmpty());
                 continue;
@@ -88,52 +63,48 @@ TEST_F(Iva, PorcentajeEnVigorYPregunta) {
             ASSERT_EQ(mensajes.mostrados().size(), 1);
             const DialogoMostrado& d = mensajes.mostrados()[0];
             EXPECT_EQ(d.kind, QStringLiteral("Mensaje_NoSi"));
-            EXPECT_EQ(d.title, QString::fromUtf8(c.titulo));
+            EXPECT_EQ(d.title, QStringLiteral("Aplicación ") + QLatin1String(titulo));
             // The message service shows the text, then the question on a line of its own.
-            EXPECT_EQ(d.text, QString::fromUtf8(c.texto) + QStringLiteral("\n¿Desea continuar (S/N)?"));
+            EXPECT_EQ(d.text,
+                      QStringLiteral(
+                          "¿Seguro que el %1 a aplicar es el %2?\rLa fecha es %3\n¿Desea continuar (S/N)?")
+                          .arg(QString::fromLatin1(titulo).section(u' ', -1), QLatin1String(porcentajes),
+                               QLatin1String(periodo)));
         }
     }
 }
 
-struct CasoRetencion {
-    const char* lugar;
-    TDateTime a, b;
-    double porcentaje;
-    const char* mensaje; // empty: accepted
-};
-
 TEST_F(Iva, Retencion) {
     Config.SetTipoRet(18);
-    const CasoRetencion casos[] = {
-        {"", fecha(15, 6, 2015), fecha(20, 7, 2015), 19,
-         "Compruebe que la retención a aplicar no sería del 15%"},
+    // Town, the two dates, percentage; the percentage the clerk is asked to consider (empty: accepted).
+    const std::tuple<const char*, TDateTime, TDateTime, double, const char*> casos[] = {
+        {"", fecha(15, 6, 2015), fecha(20, 7, 2015), 19, "15"},
         {"", fecha(15, 6, 2015), fecha(20, 7, 2015), 15, ""},
-        {"", fecha(20, 7, 2015), fecha(15, 6, 2015), 19,
-         "Compruebe que la retención a aplicar no sería del 15%"},
-        {"", fecha(20, 7, 2015), fecha(20, 7, 2015) + 0.9, 19, // same day: the issue date is judged
-         "Compruebe que la retención a aplicar no sería del 15%"},
+        {"", fecha(20, 7, 2015), fecha(15, 6, 2015), 19, "15"},
+        {"", fecha(20, 7, 2015), fecha(20, 7, 2015) + 0.9, 19, "15"}, // same day: the issue date is judged
         {"", fecha(15, 6, 2015), 0, 19, ""},
-        {"", fecha(11, 7, 2015), 0, 15, "Compruebe que la retención a aplicar no sería del 19%"},
-        {"", fecha(1, 1, 2015), 0, 21, "Compruebe que la retención a aplicar no sería del 19%"},
+        {"", fecha(11, 7, 2015), 0, 15, "19"},
+        {"", fecha(1, 1, 2015), 0, 21, "19"},
         {"", fecha(31, 12, 2014), 0, 21, ""},
-        {"", fecha(1, 9, 2012), 0, 15, "Compruebe que la retención a aplicar no sería del 21%"},
+        {"", fecha(1, 9, 2012), 0, 15, "21"},
         {"", fecha(31, 8, 2012), 0, 15, ""},
-        {"", fecha(1, 3, 2010), 0, 18, "Compruebe que la retención a aplicar no sería del 15%"},
-        {"", fecha(1, 3, 2016), 0, 18, "Compruebe que la retención a aplicar no sería del 15%"},
+        {"", fecha(1, 3, 2010), 0, 18, "15"},
+        {"", fecha(1, 3, 2016), 0, 18, "15"},
         {"", fecha(1, 3, 2016), 0, 15, ""},
-        {"MELILLA", fecha(2, 7, 2018), 0, 6, "Compruebe que la retención a aplicar no sería del 7,5%"},
-        {"MELILLA", fecha(2, 7, 2018), 0, 7.5, "Compruebe que la retención a aplicar no sería del 6%"},
+        {"MELILLA", fecha(2, 7, 2018), 0, 6, "7,5"},
+        {"MELILLA", fecha(2, 7, 2018), 0, 7.5, "6"},
         {"CEUTA", fecha(30, 6, 2018), 0, 7.5, ""},
-        {"CEUTA", fecha(30, 6, 2018), fecha(1, 7, 2018), 7.5,
-         "Compruebe que la retención a aplicar no sería del 6%"},
-        {"CEUTA", fecha(1, 1, 2014), 0, 15, "Compruebe que la retención a aplicar no sería del 7,5%"},
+        {"CEUTA", fecha(30, 6, 2018), fecha(1, 7, 2018), 7.5, "6"},
+        {"CEUTA", fecha(1, 1, 2014), 0, 15, "7,5"},
     };
-    for (const auto& c : casos) {
-        SCOPED_TRACE(testing::Message() << c.lugar << " " << c.a << " " << c.b << " " << c.porcentaje);
-        Config.SetLugar1(QLatin1String(c.lugar));
+    for (const auto& [lugar, a, b, porcentaje, otro] : casos) {
+        SCOPED_TRACE(testing::Message() << lugar << " " << a << " " << b << " " << porcentaje);
+        Config.SetLugar1(QLatin1String(lugar));
         QString mensaje = QStringLiteral("sin tocar");
-        EXPECT_EQ(CompruebaRetencion(c.a, c.b, c.porcentaje, mensaje), *c.mensaje == 0);
-        EXPECT_EQ(mensaje, QString::fromUtf8(c.mensaje));
+        EXPECT_EQ(CompruebaRetencion(a, b, porcentaje, mensaje), *otro == 0);
+        EXPECT_EQ(mensaje, *otro ? QStringLiteral("Compruebe que la retención a aplicar no sería del %1%")
+                                       .arg(QLatin1String(otro))
+                                 : QString());
     }
     EXPECT_TRUE(mensajes.mostrados().isEmpty());
 }
@@ -142,15 +113,15 @@ TEST_F(Iva, RetencionPorDefectoSoloConLaFechaDeEmision) {
     // A date that is no day falls in no period: only the default-rate test can judge it.
     const double nan = std::numeric_limits<double>::quiet_NaN();
     Config.SetTipoRet(18);
+    const QString aviso =
+        QStringLiteral("La retención aplicada no coincide con la configurada por defecto (%1)");
     QString mensaje;
     EXPECT_TRUE(CompruebaRetencion(nan, 0, 18, mensaje));
     EXPECT_FALSE(CompruebaRetencion(nan, 0, 17.5, mensaje));
-    EXPECT_EQ(mensaje,
-              QStringLiteral("La retención aplicada no coincide con la configurada por defecto (18)"));
+    EXPECT_EQ(mensaje, aviso.arg(QStringLiteral("18")));
     Config.SetTipoRet(7.5);
     EXPECT_FALSE(CompruebaRetencion(nan, 0, 17.5, mensaje));
-    EXPECT_EQ(mensaje,
-              QStringLiteral("La retención aplicada no coincide con la configurada por defecto (7,5)"));
+    EXPECT_EQ(mensaje, aviso.arg(QStringLiteral("7,5")));
 }
 
 TEST_F(Iva, IvaPorCaja) {
@@ -198,16 +169,11 @@ TEST(Sujeto, Euros) {
     ConfigGuardada guardada;
     Config.SetPesetasPorEuro(166.386); // tolerance 3.125 pesetas is 0.02 euros
     const std::tuple<double, double, double, const char*, double> casos[] = {
-        {1000, 80, 16, "S", 500},
-        {1000, 160, 16, "S", 1000},
-        {1000, 160.01, 16, "S", 1000},
-        {1000, 160.03, 16, "S", 1000.19},
-        {1000, 160.03, 16, "N", -0.19},
-        {1000, 0, 16, "N", 1000},
-        {std::numeric_limits<double>::infinity(), 80, 16, "S", 0},
-    };
+        {1000, 80, 16, "S", 500},         {1000, 160, 16, "S", 1000},     {1000, 160.01, 16, "S", 1000},
+        {1000, 160.03, 16, "S", 1000.19}, {1000, 160.03, 16, "N", -0.19}, {1000, 0, 16, "N", 1000}};
     for (const auto& [importe, cuota, p, parte, esperado] : casos)
         EXPECT_NEAR(Sujeto_E(importe, cuota, p, QLatin1String(parte)), esperado, 1e-9) << cuota;
+    EXPECT_EQ(Sujeto_E(std::numeric_limits<double>::infinity(), 80, 16, QStringLiteral("S")), 0);
 }
 
 TEST(Sujeto, MiSujeto) {

@@ -23,16 +23,10 @@ QStringList lista(std::initializer_list<const char*> l) {
 }
 
 TEST(FincasRegistrales, DecodingAsWritten) {
-    const std::pair<const char*, QStringList> casos[] =
-        {
-            {"A|B|", lista({"A", "B"})},
-            {"|A", lista({"", "A"})},
-            {"A||B", lista({"A", "", "B"})},
-            {"", {}},
-            {"A", lista({"A"})},
-            {"|", lista({""})},
-            {" A | B ", lista({" A ", " B "})}, // the form trims the whole string, never the items
-        };
+    // The form trims the whole string, never the items.
+    const std::pair<const char*, QStringList> casos[] = {
+        {"A|B|", lista({"A", "B"})}, {"|A", lista({"", "A"})}, {"A||B", lista({"A", "", "B"})},   {"", {}},
+        {"A", lista({"A"})},         {"|", lista({""})},       {" A | B ", lista({" A ", " B "})}};
     for (const auto& [guardado, esperado] : casos)
         EXPECT_EQ(Form::DescodificaFincasRegistrales(QString::fromUtf8(guardado)), esperado) << guardado;
 }
@@ -72,9 +66,8 @@ protected:
 TEST_F(FormFincas, ShowsTheEntryAndTheSortedList) {
     abre(QStringLiteral("  b-22|A-7|c-3 "));
     EXPECT_EQ(f->windowTitle(), QStringLiteral("Información de Fincas Registrales"));
-    EXPECT_EQ(f->STNumero->text(), QStringLiteral("1234"));
-    EXPECT_EQ(f->STAno->text(), QStringLiteral("2008"));
-    EXPECT_EQ(f->LBis->text(), QStringLiteral("bis"));
+    EXPECT_EQ(QStringList({f->STNumero->text(), f->STAno->text(), f->LBis->text()}),
+              QStringList({QStringLiteral("1234"), QStringLiteral("2008"), QStringLiteral("bis")}));
     EXPECT_EQ(f->STConcepto->textFormat(), Qt::PlainText);
     EXPECT_EQ(f->Fincas, QStringLiteral("b-22|A-7|c-3"));
     EXPECT_EQ(f->Lista(), lista({"A-7", "b-22", "c-3"})) << "sorted without regard to case";
@@ -100,28 +93,24 @@ TEST_F(FormFincas, InsertTypesAnIdentifierWithBlanksAndInsertAcceptsIt) {
 
 TEST_F(FormFincas, DuplicatesAreExactAndEmptyIsRefused) {
     abre(QStringLiteral("A-7"));
-    const struct {
-        const char* tecleado;
-        const char* mensaje; // nullptr: accepted
-    } casos[] = {
-        {"a-7", nullptr},
-        {" A-7 ", "Ya está insertada esta Finca Registral"},
-        {"   ", "No ha escrito ninguna Finca Registral"},
-    };
-    for (const auto& c : casos) {
+    // The identifier typed and why it is refused (nullptr: accepted).
+    const std::pair<const char*, const char*> casos[] = {{"a-7", nullptr},
+                                                         {" A-7 ", "Ya está insertada esta Finca Registral"},
+                                                         {"   ", "No ha escrito ninguna Finca Registral"}};
+    for (const auto& [tecleado, mensaje] : casos) {
         mensajes.limpia();
         f->BBAnadir->click();
-        f->EFincaRegistral->setText(QString::fromUtf8(c.tecleado));
+        f->EFincaRegistral->setText(QString::fromUtf8(tecleado));
         f->BBAceptarCambios->click();
-        if (!c.mensaje) {
-            EXPECT_TRUE(mensajes.mostrados().isEmpty()) << c.tecleado;
+        if (!mensaje) {
+            EXPECT_TRUE(mensajes.mostrados().isEmpty()) << tecleado;
             EXPECT_FALSE(editando());
             continue;
         }
-        ASSERT_EQ(mensajes.mostrados().size(), 1) << c.tecleado;
+        ASSERT_EQ(mensajes.mostrados().size(), 1) << tecleado;
         EXPECT_EQ(mensajes.mostrados()[0].kind, QStringLiteral("Mensaje_Info"));
         EXPECT_EQ(mensajes.mostrados()[0].title, QStringLiteral("Finca Registral no válida"));
-        EXPECT_EQ(mensajes.mostrados()[0].text, QString::fromUtf8(c.mensaje));
+        EXPECT_EQ(mensajes.mostrados()[0].text, QString::fromUtf8(mensaje));
         EXPECT_TRUE(editando()) << "a refused identifier stays in the edit";
         tecla(Qt::Key_Escape);
     }

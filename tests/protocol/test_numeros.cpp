@@ -66,19 +66,15 @@ INSTANTIATE_TEST_SUITE_P(
                     Desempaquetado{1e15 + 1234, 0, 1234, 0, 1234, false}));
 
 TEST(Desempaquetado, FormatosEnteros) {
-    int a = -1, n = -1;
-    DecodeCod4(20080015, a, n);
-    EXPECT_EQ(a, 2008);
-    EXPECT_EQ(n, 15);
-    DecodeCod6(1999000012, a, n);
-    EXPECT_EQ(a, 1999);
-    EXPECT_EQ(n, 12);
-    DecodeCor(200800012, a, n);
-    EXPECT_EQ(a, 2008);
-    EXPECT_EQ(n, 12);
-    DecodeCor(std::numeric_limits<int>::min(), a, n);
-    EXPECT_EQ(a, -21474);
-    EXPECT_EQ(n, -83648);
+    const auto par = [](void (*decodifica)(int, int&, int&), int codigo) {
+        int a = -1, n = -1;
+        decodifica(codigo, a, n);
+        return std::pair(a, n);
+    };
+    EXPECT_EQ(par(DecodeCod4, 20080015), std::pair(2008, 15));
+    EXPECT_EQ(par(DecodeCod6, 1999000012), std::pair(1999, 12));
+    EXPECT_EQ(par(DecodeCor, 200800012), std::pair(2008, 12));
+    EXPECT_EQ(par(DecodeCor, std::numeric_limits<int>::min()), std::pair(-21474, -83648));
 }
 
 TEST(CodToAno5, AnchoDelNumeroPorElPivote3000) {

@@ -36,8 +36,8 @@ TEST_F(FormNumeroFactura, OpensOnTheSeriesWithTheCurrentYearAndNoNumber) {
     EXPECT_EQ(QApplication::focusWidget(), f->ESerie);
     EXPECT_EQ(f->EAno->text(), QStringLiteral("2024"));
     EXPECT_TRUE(f->ENumero->text().isEmpty());
-    EXPECT_EQ(f->BBAceptar->text(), QStringLiteral("&Aceptar"));
-    EXPECT_EQ(f->BBCancelar->text(), QStringLiteral("&Cancelar"));
+    EXPECT_EQ(std::pair(f->BBAceptar->text(), f->BBCancelar->text()),
+              std::pair(QStringLiteral("&Aceptar"), QStringLiteral("&Cancelar")));
     EXPECT_FALSE(f->BBAceptar->isEnabled()) << "no invoice without a number";
     QTest::keyClicks(f->ENumero, QStringLiteral("7"));
     EXPECT_TRUE(f->BBAceptar->isEnabled());
@@ -45,57 +45,41 @@ TEST_F(FormNumeroFactura, OpensOnTheSeriesWithTheCurrentYearAndNoNumber) {
     EXPECT_FALSE(f->BBAceptar->isEnabled());
 }
 
+// What each field keeps of what is typed, once the clerk has left it (a short year is completed then).
 TEST_F(FormNumeroFactura, FieldsTakeOnlyWhatAnInvoiceNumberHolds) {
-    struct Caso {
-        QLineEdit* campo;
-        const char* tecleado;
-        const char* queda;
+    const std::tuple<QLineEdit*, const char*, const char*> casos[] = {
+        {f->ESerie, "a1b", "A1"},    // two characters, in capitals
+        {f->ESerie, "-x", "X"},      // no punctuation
+        {f->EAno, "20a245", "2024"}, // four digits
+        {f->EAno, "24", "2024"},     {f->EAno, "5", "2005"},
+        {f->EAno, "98", "1998"},     {f->EAno, "1999", "1999"},
+        {f->EAno, "", ""},           {f->ENumero, "12.3456789", "123456"}, // six digits, no grouping
+        {f->EBis, "1b c", "B"},                                            // one letter
     };
-    const Caso casos[] = {
-        {f->ESerie, "a1b", "A1"},             // two characters, in capitals
-        {f->ESerie, "-x", "X"},               // no punctuation
-        {f->EAno, "20a245", "2024"},          // four digits
-        {f->ENumero, "12.3456789", "123456"}, // six digits, no grouping
-        {f->EBis, "1b c", "B"},               // one letter
-    };
-    for (const Caso& c : casos) {
-        c.campo->clear();
-        enfoca(c.campo);
-        QTest::keyClicks(c.campo, QString::fromLatin1(c.tecleado));
-        EXPECT_EQ(c.campo->text(), QString::fromLatin1(c.queda)) << c.campo->objectName().toStdString();
-    }
-}
-
-TEST_F(FormNumeroFactura, AShortYearIsCompletedOnLeavingTheField) {
-    const std::pair<const char*, const char*> casos[] = {
-        {"24", "2024"}, {"5", "2005"}, {"98", "1998"}, {"1999", "1999"}, {"", ""}};
-    for (const auto& [tecleado, queda] : casos) {
-        enfoca(f->EAno);
-        f->EAno->clear();
-        QTest::keyClicks(f->EAno, QString::fromLatin1(tecleado));
-        enfoca(f->ENumero);
-        EXPECT_EQ(f->EAno->text(), QString::fromLatin1(queda)) << tecleado;
+    for (const auto& [campo, tecleado, queda] : casos) {
+        enfoca(campo);
+        campo->clear();
+        QTest::keyClicks(campo, QString::fromLatin1(tecleado));
+        enfoca(campo == f->ESerie ? f->EBis : f->ESerie);
+        EXPECT_EQ(campo->text(), QString::fromLatin1(queda))
+            << campo->objectName().toStdString() << " " << tecleado;
     }
 }
 
 TEST_F(FormNumeroFactura, EnteringAControlShowsItsHintAndMarksFieldsOnly) {
-    struct Caso {
-        QWidget* control;
-        bool marcado;
-    };
     f->ENumero->setText(QStringLiteral("1")); // "&Aceptar" can take the focus
-    const Caso casos[] = {{f->ESerie, true}, {f->EAno, true},       {f->ENumero, true},
-                          {f->EBis, true},   {f->BBAceptar, false}, {f->BBCancelar, false}};
-    for (const Caso& c : casos) {
-        enfoca(c.control);
-        ASSERT_EQ(QApplication::focusWidget(), c.control);
-        EXPECT_FALSE(c.control->toolTip().isEmpty());
-        EXPECT_EQ(f->SBExplica->currentMessage(), c.control->toolTip())
-            << c.control->objectName().toStdString();
-        EXPECT_EQ(TieneFocoMarcado(c.control), c.marcado) << c.control->objectName().toStdString();
+    const std::pair<QWidget*, bool> casos[] = {{f->ESerie, true},     {f->EAno, true},
+                                               {f->ENumero, true},    {f->EBis, true},
+                                               {f->BBAceptar, false}, {f->BBCancelar, false}};
+    for (const auto& [control, marcado] : casos) {
+        enfoca(control);
+        ASSERT_EQ(QApplication::focusWidget(), control);
+        EXPECT_FALSE(control->toolTip().isEmpty());
+        EXPECT_EQ(f->SBExplica->currentMessage(), control->toolTip()) << control->objectName().toStdString();
+        EXPECT_EQ(TieneFocoMarcado(control), marcado) << control->objectName().toStdString();
     }
-    for (const Caso& c : casos)
-        EXPECT_FALSE(TieneFocoMarcado(c.control) && c.control != QApplication::focusWidget());
+    for (const auto& [control, marcado] : casos)
+        EXPECT_FALSE(TieneFocoMarcado(control) && control != QApplication::focusWidget());
     // Leaving towards something outside the form's controls clears the status bar and the mark.
     enfoca(f->ESerie);
     f->ESerie->clearFocus();
@@ -104,7 +88,7 @@ TEST_F(FormNumeroFactura, EnteringAControlShowsItsHintAndMarksFieldsOnly) {
     EXPECT_FALSE(TieneFocoMarcado(f->ESerie));
 }
 
-TEST_F(FormNumeroFactura, EnterMovesOnAndSkipsADisabledAceptar) {
+TEST_F(FormNumeroFactura, EnterMovesOnSkipsADisabledAceptarAndPressesNoButton) {
     const auto recorrido = [&](QWidget* final) {
         enfoca(f->ESerie);
         std::vector<QWidget*> visitados;
@@ -118,10 +102,8 @@ TEST_F(FormNumeroFactura, EnterMovesOnAndSkipsADisabledAceptar) {
     recorrido(f->BBCancelar);
     f->ENumero->setText(QStringLiteral("15"));
     recorrido(f->BBAceptar);
-}
 
-TEST_F(FormNumeroFactura, EnterOnAButtonMovesOnWithoutPressingIt) {
-    f->ENumero->setText(QStringLiteral("15"));
+    // Enter on a button moves on without pressing it.
     const std::pair<QWidget*, QWidget*> casos[] = {{f->BBAceptar, f->BBCancelar}, {f->BBCancelar, f->ESerie}};
     for (const auto& [desde, hacia] : casos) {
         for (int tecla : {int(Qt::Key_Return), int(Qt::Key_Enter)}) {
@@ -136,12 +118,7 @@ TEST_F(FormNumeroFactura, EnterOnAButtonMovesOnWithoutPressingIt) {
 }
 
 TEST_F(FormNumeroFactura, ModalResultsOfTheButtonsAndEscape) {
-    struct Caso {
-        const char* como;
-        std::function<void()> accion;
-        int resultado;
-    };
-    const Caso casos[] = {
+    const std::tuple<const char*, std::function<void()>, int> casos[] = {
         {"click on Aceptar", [&] { QTest::mouseClick(f->BBAceptar, Qt::LeftButton); }, 1},
         {"click on Cancelar", [&] { QTest::mouseClick(f->BBCancelar, Qt::LeftButton); }, 2},
         {"Escape in a field", [&] { QTest::keyClick(f->ENumero, Qt::Key_Escape); }, 2},
@@ -149,30 +126,27 @@ TEST_F(FormNumeroFactura, ModalResultsOfTheButtonsAndEscape) {
         {"Space on Aceptar", [&] { QTest::keyClick(f->BBAceptar, Qt::Key_Space); }, 1},
         {"Space on Cancelar", [&] { QTest::keyClick(f->BBCancelar, Qt::Key_Space); }, 2},
     };
-    for (const Caso& c : casos) {
+    for (const auto& [como, accion, resultado] : casos) {
         f->setResult(-1);
         f->ENumero->setText(QStringLiteral("3"));
         f->show();
         QApplication::setActiveWindow(f.get());
-        c.accion();
-        EXPECT_EQ(f->result(), c.resultado) << c.como;
-        EXPECT_FALSE(f->isVisible()) << c.como;
+        accion();
+        EXPECT_EQ(f->result(), resultado) << como;
+        EXPECT_FALSE(f->isVisible()) << como;
     }
 }
 
 TEST_F(FormNumeroFactura, ValuesShownAreNormalisedAndReadBack) {
-    f->PonValores(QStringLiteral("r12"), 0, 0, QStringLiteral(" b "));
-    EXPECT_EQ(f->Serie(), QStringLiteral("R1"));
-    EXPECT_EQ(f->Ano(), 2024) << "no year proposes the current one";
-    EXPECT_EQ(f->Numero(), 0);
-    EXPECT_TRUE(f->ENumero->text().isEmpty());
-    EXPECT_EQ(f->Bis(), QStringLiteral("B"));
-    f->PonValores(QStringLiteral("A"), 2019, 1234567, {});
-    EXPECT_EQ(f->Ano(), 2019);
-    EXPECT_TRUE(f->ENumero->text().isEmpty()) << "a number of seven digits does not fit the field";
+    const auto valores = [&] {
+        return std::tuple(f->Serie(), f->Ano(), f->Numero(), f->ENumero->text(), f->Bis());
+    };
+    f->PonValores(QStringLiteral("r12"), 0, 0, QStringLiteral(" b ")); // no year proposes the current one
+    EXPECT_EQ(valores(), std::tuple(QStringLiteral("R1"), 2024, 0, QString(), QStringLiteral("B")));
+    f->PonValores(QStringLiteral("A"), 2019, 1234567, {}); // seven digits do not fit the field
+    EXPECT_EQ(valores(), std::tuple(QStringLiteral("A"), 2019, 0, QString(), QString()));
     f->PonValores(QStringLiteral("A"), 2019, 999999, {});
-    EXPECT_EQ(f->Numero(), 999999);
-    EXPECT_TRUE(f->Bis().isEmpty());
+    EXPECT_EQ(valores(), std::tuple(QStringLiteral("A"), 2019, 999999, QStringLiteral("999999"), QString()));
 }
 
 TEST(PreguntaNumeroFacturaForm, AcceptingReturnsTheTypedValues) {
@@ -201,10 +175,8 @@ TEST(PreguntaNumeroFacturaForm, AcceptingReturnsTheTypedValues) {
     EXPECT_TRUE(PreguntaNumeroFacturaForm(serie, ano, numero, bis, QStringLiteral("Factura a rectificar")));
     EXPECT_TRUE(vistoAbierto);
     EXPECT_TRUE(FPreguntaNumeroFactura.isNull());
-    EXPECT_EQ(serie, QStringLiteral("A"));
-    EXPECT_EQ(ano, 2023);
-    EXPECT_EQ(numero, 15);
-    EXPECT_EQ(bis, QStringLiteral("C"));
+    EXPECT_EQ(std::tuple(serie, ano, numero, bis),
+              std::tuple(QStringLiteral("A"), 2023, 15, QStringLiteral("C")));
     EXPECT_EQ(prueba::VentanasVisibles(), 0);
     FijaAhora(std::nullopt);
 }
@@ -220,10 +192,8 @@ TEST(PreguntaNumeroFacturaForm, CancellingLeavesTheValuesAsTheyCame) {
         QTest::keyClick(f->ENumero, Qt::Key_Escape);
     });
     EXPECT_FALSE(PreguntaNumeroFacturaForm(serie, ano, numero, bis));
-    EXPECT_EQ(serie, QStringLiteral("B"));
-    EXPECT_EQ(ano, 2020);
-    EXPECT_EQ(numero, 44);
-    EXPECT_EQ(bis, QStringLiteral("D"));
+    EXPECT_EQ(std::tuple(serie, ano, numero, bis),
+              std::tuple(QStringLiteral("B"), 2020, 44, QStringLiteral("D")));
     EXPECT_EQ(prueba::VentanasVisibles(), 0);
 }
 

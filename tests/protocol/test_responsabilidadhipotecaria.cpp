@@ -20,11 +20,19 @@ protected:
         QApplication::setActiveWindow(f.get());
         ASSERT_TRUE(QTest::qWaitForWindowActive(f.get()));
     }
+    static void enfoca(QWidget* w) {
+        w->setFocus(Qt::TabFocusReason);
+        QApplication::processEvents();
+    }
+    static void pulsa(QWidget* w, Qt::Key tecla) {
+        enfoca(w);
+        QTest::keyClick(w, tecla);
+        QApplication::processEvents();
+    }
     // Types `texto` into `campo` as the clerk does: the field takes the focus, its figure is selected
     // and typed over.
-    void teclea(QLineEdit* campo, const QString& texto) {
-        campo->setFocus(Qt::TabFocusReason);
-        QApplication::processEvents();
+    static void teclea(QLineEdit* campo, const QString& texto) {
+        enfoca(campo);
         campo->selectAll();
         QTest::keyClicks(campo, texto);
     }
@@ -39,22 +47,9 @@ protected:
 TEST_F(Hipoteca, OpensInEurosWithTheCallersPrincipalInBothColumns) {
     EXPECT_EQ(f->windowTitle(), QStringLiteral("Responsabilidad Hipotecaria"));
     EXPECT_EQ(f->IBMONEDAS->currentText(), QStringLiteral("Euros"));
-    EXPECT_EQ(f->EPrincipal_E->Valor(), 100000.0);
-    EXPECT_EQ(f->EPrincipal->Valor(), 16638600.0);
-    EXPECT_TRUE(f->ERes1_E->isEnabled());
-    EXPECT_FALSE(f->ERes1->isEnabled());
+    EXPECT_EQ(std::pair(f->EPrincipal_E->Valor(), f->EPrincipal->Valor()), std::pair(100000.0, 16638600.0));
+    EXPECT_TRUE(f->ERes1_E->isEnabled() && !f->ERes1->isEnabled()) << "only the euros column is typed in";
     EXPECT_EQ(f->EAno1->Valor(), 0.0);
-}
-
-TEST_F(Hipoteca, FivePerCentOverTwoYears) {
-    teclea(f->EInteresesOrd, QStringLiteral("5"));
-    teclea(f->EAno1, QStringLiteral("2"));
-    EXPECT_EQ(f->ERes1_E->Valor(), 10000.0);
-    EXPECT_EQ(f->ERes1_E->text(), QStringLiteral("10.000,00"));
-    EXPECT_EQ(f->EDias1->Valor(), 730.0);
-    EXPECT_EQ(f->ERes1->Valor(), 1663860.0) << "the peseta twin in whole pesetas";
-    EXPECT_EQ(f->ETotal_E->Valor(), 110000.0);
-    EXPECT_EQ(f->ETotal->Valor(), 16638600.0 + 1663860.0);
 }
 
 TEST_F(Hipoteca, DaysCountExactlyWhileTheYearsShowOneDecimal) {
@@ -67,40 +62,35 @@ TEST_F(Hipoteca, DaysCountExactlyWhileTheYearsShowOneDecimal) {
     EXPECT_EQ(f->ERes2_E->Valor(), 5500.0);
 }
 
-TEST_F(Hipoteca, AZeroRateLeftWithTabLandsOnTheAmount) {
+TEST_F(Hipoteca, AZeroRateLeftWithTabLandsOnTheAmountAndZeroYearsOnTheDays) {
     teclea(f->EAno3, QStringLiteral("2"));
     ASSERT_EQ(f->EDias3->Valor(), 730.0);
     for (int moneda : {1, 0}) {
         eligeMoneda(moneda);
-        f->ECostesGastos->setFocus(Qt::TabFocusReason);
-        QApplication::processEvents();
-        QTest::keyClick(f->ECostesGastos, Qt::Key_Tab);
-        QApplication::processEvents();
+        pulsa(f->ECostesGastos, Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), moneda == 1 ? f->ERes3_E : f->ERes3) << moneda;
-        EXPECT_EQ(f->EAno3->Valor(), 0.0);
-        EXPECT_EQ(f->EDias3->Valor(), 0.0);
+        EXPECT_EQ(std::pair(f->EAno3->Valor(), f->EDias3->Valor()), std::pair(0.0, 0.0)) << moneda;
     }
-}
-
-TEST_F(Hipoteca, ZeroYearsLeftGoToTheDays) {
-    f->EAno4->setFocus(Qt::TabFocusReason);
-    QApplication::processEvents();
-    QTest::keyClick(f->EAno4, Qt::Key_Backtab);
-    QApplication::processEvents();
+    pulsa(f->EAno4, Qt::Key_Backtab); // zero years left backwards go to the days
     EXPECT_EQ(QApplication::focusWidget(), f->EDias4);
 }
 
-TEST_F(Hipoteca, SwitchingTheCurrencyRecomputesNothing) {
+TEST_F(Hipoteca, FivePerCentOverTwoYearsAndSwitchingTheCurrencyRecomputesNothing) {
     teclea(f->EInteresesOrd, QStringLiteral("5"));
     teclea(f->EAno1, QStringLiteral("2"));
+    EXPECT_EQ(f->ERes1_E->Valor(), 10000.0);
+    EXPECT_EQ(f->ERes1_E->text(), QStringLiteral("10.000,00"));
+    EXPECT_EQ(f->EDias1->Valor(), 730.0);
+    EXPECT_EQ(f->ERes1->Valor(), 1663860.0) << "the peseta twin in whole pesetas";
+    EXPECT_EQ(std::pair(f->ETotal_E->Valor(), f->ETotal->Valor()),
+              std::pair(110000.0, 16638600.0 + 1663860.0));
     QList<double> antes;
     const QList<TEditFlotante*> campos = f->findChildren<TEditFlotante*>();
     for (const TEditFlotante* e : campos)
         antes << e->ValorExacto();
     eligeMoneda(0);
     EXPECT_EQ(QApplication::focusWidget(), f->EPrincipal);
-    EXPECT_TRUE(f->ERes1->isEnabled());
-    EXPECT_FALSE(f->ERes1_E->isEnabled());
+    EXPECT_TRUE(f->ERes1->isEnabled() && !f->ERes1_E->isEnabled()) << "now the pesetas column is typed in";
     for (qsizetype i = 0; i < campos.size(); ++i)
         EXPECT_EQ(campos[i]->ValorExacto(), antes[i]) << campos[i]->objectName().toStdString();
 }
@@ -128,22 +118,16 @@ TEST_F(Hipoteca, AnAmountTypedByHandSetsItsTwinAndTheTotal) {
 }
 
 TEST_F(Hipoteca, EnterFromDaysGoesToTheAmountAndFromTheLastAmountAccepts) {
-    const auto enter = [](QWidget* w) {
-        w->setFocus(Qt::TabFocusReason);
-        QApplication::processEvents();
-        QTest::keyClick(w, Qt::Key_Return);
-        QApplication::processEvents();
-    };
-    enter(f->EDias2);
+    pulsa(f->EDias2, Qt::Key_Return);
     EXPECT_EQ(QApplication::focusWidget(), f->ERes2_E);
-    enter(f->EAno2);
+    pulsa(f->EAno2, Qt::Key_Return);
     EXPECT_EQ(QApplication::focusWidget(), f->EDias2) << "elsewhere Enter is the next control";
     f->BACEPTAR->hide();
-    enter(f->EOtros_E);
+    pulsa(f->EOtros_E, Qt::Key_Return);
     EXPECT_EQ(QApplication::focusWidget(), f->BCancelar);
     EXPECT_TRUE(f->isVisible());
     f->BACEPTAR->show();
-    enter(f->EOtros_E);
+    pulsa(f->EOtros_E, Qt::Key_Return);
     EXPECT_FALSE(f->isVisible());
     EXPECT_EQ(f->result(), 1);
 }

@@ -26,16 +26,13 @@ void compruebaTabla(QString (*rutina)(const QString&), const Caso (&casos)[N], c
 
 } // namespace
 
-TEST(Limpieza, Accents) {
+TEST(Limpieza, AccentsBlanksAndLetterSpacedHeadings) {
     const Caso quitaAcentos[] = {{"ÁRBOL ácido", "ARBOL ácido"}, {"ÉÍÓÚ", "EIOU"}, {"ÀÜÑ", "ÀÜÑ"}, {"", ""}};
     compruebaTabla(&QuitaAcentos, quitaAcentos, "QuitaAcentos");
     const Caso mayMin[] = {{"Camión Àngel pingüino", "Camion Angel pingüino"},
                            {"áàéèíìóòúù ÁÀÉÈÍÌÓÒÚÙ", "aaeeiioouu AAEEIIOOUU"},
                            {"ÑüÜç", "ÑüÜç"}};
     compruebaTabla(&QuitaAcentoMayMin, mayMin, "QuitaAcentoMayMin");
-}
-
-TEST(Limpieza, Blanks) {
     const Caso dobles[] = {{"  a   b ", " a b "}, {"ab", "ab"}, {"", ""}, {"    ", " "}};
     compruebaTabla(&ConvertirDoblesEspaciosEnUno, dobles, "ConvertirDoblesEspaciosEnUno");
     const Caso sinDobles[] = {{"  a   b ", "a b"}, {"   ", ""}, {"\ta  b\n", "a b"}};
@@ -46,23 +43,20 @@ TEST(Limpieza, Blanks) {
     compruebaTabla(&QuitaNumeros, numeros, "QuitaNumeros");
     const Caso neto[] = {{" 12.345.678-Z ", "12345678Z"}, {"a_b,c/d\\e", "abcde"}, {"A B", "A B"}};
     compruebaTabla(&StrNeto, neto, "StrNeto");
-}
-
-TEST(Limpieza, LetterSpacedHeadings) {
-    const Caso casos[] = {
-        {"E S C R I T U R A", "ESCRITURA"},
-        {"  E   S C  R I T U R A  ", "ESCRITURA"},
-        {"A B CASA", "ABCASA"}, // the words of a letter-spaced text run together
-        {"D E  C O M P R A", "DECOMPRA"},
-        {"ESCRITURA DE COMPRA", "ESCRITURA DE COMPRA"},
-        {"A B", "A B"}, // the last character is never looked at
-        {"A BC D", "A BC D"},
-        {"Á B", "A B"}, // accents go in both cases
-        {"É S T E", "ESTE"},
-        {"", ""},
-        {"X", "X"},
-    };
-    compruebaTabla(&QuitaEspaciosIntermedios, casos, "QuitaEspaciosIntermedios");
+    // The words of a letter-spaced text run together ("A B CASA"), the last character is never looked at
+    // ("A B"), and accents go in both cases.
+    const Caso espaciados[] = {{"E S C R I T U R A", "ESCRITURA"},
+                               {"  E   S C  R I T U R A  ", "ESCRITURA"},
+                               {"A B CASA", "ABCASA"},
+                               {"D E  C O M P R A", "DECOMPRA"},
+                               {"ESCRITURA DE COMPRA", "ESCRITURA DE COMPRA"},
+                               {"A B", "A B"},
+                               {"A BC D", "A BC D"},
+                               {"Á B", "A B"},
+                               {"É S T E", "ESTE"},
+                               {"", ""},
+                               {"X", "X"}};
+    compruebaTabla(&QuitaEspaciosIntermedios, espaciados, "QuitaEspaciosIntermedios");
 }
 
 TEST(Limpieza, FinalBackslash) {
@@ -70,13 +64,11 @@ TEST(Limpieza, FinalBackslash) {
         const char* ruta;
         const char* con;
         const char* sin;
-    } casos[] = {
-        {"", "", ""},
-        {" C:\\DATOS ", "C:\\DATOS\\", "C:\\DATOS"},
-        {"C:\\DATOS\\", "C:\\DATOS\\", "C:\\DATOS"},
-        {"C:\\DATOS\\\\", "C:\\DATOS\\\\", "C:\\DATOS\\"},
-        {"/home/datos", "/home/datos\\", "/home/datos"},
-    };
+    } casos[] = {{"", "", ""},
+                 {" C:\\DATOS ", "C:\\DATOS\\", "C:\\DATOS"},
+                 {"C:\\DATOS\\", "C:\\DATOS\\", "C:\\DATOS"},
+                 {"C:\\DATOS\\\\", "C:\\DATOS\\\\", "C:\\DATOS\\"},
+                 {"/home/datos", "/home/datos\\", "/home/datos"}};
     for (const auto& c : casos) {
         EXPECT_EQ(PonBarraFinal(u8(c.ruta), QStringLiteral("ignored")), u8(c.con)) << c.ruta;
         EXPECT_EQ(QuitaBarraFinal(u8(c.ruta)), u8(c.sin)) << c.ruta;
@@ -88,26 +80,22 @@ TEST(Mayusculas, MayusMinusAndCapitalCase) {
         const char* texto;
         char caso;
         const char* esperado;
-    } casos[] = {
-        {"quince DE marzo", 'N', "QUINCE DE MARZO"},
-        {"CAMIÓN Ñandú", 'S', "camión ñandú"},
-        {"camión ñandú", 'N', "CAMIÓN ÑANDÚ"},
-        {"QUINCE DE MARZO", 'C', "Quince De Marzo"},
-        {"Tal Cual", 'X', "Tal Cual"},
-        {"Tal Cual", 's', "Tal Cual"},
-    };
+    } casos[] = {{"quince DE marzo", 'N', "QUINCE DE MARZO"},
+                 {"CAMIÓN Ñandú", 'S', "camión ñandú"},
+                 {"camión ñandú", 'N', "CAMIÓN ÑANDÚ"},
+                 {"QUINCE DE MARZO", 'C', "Quince De Marzo"},
+                 {"Tal Cual", 'X', "Tal Cual"},
+                 {"Tal Cual", 's', "Tal Cual"}};
     for (const auto& c : casos)
         EXPECT_EQ(MayusMinus(u8(c.texto), QLatin1Char(c.caso)), u8(c.esperado)) << c.texto << ' ' << c.caso;
 
-    const Caso capital[] = {
-        {"MARIA-JOSE DE LA FUENTE", "Maria-jose De La Fuente"},
-        {"JOSE MARIA-LUISA", "Jose Maria-Luisa"},
-        {"ÁNGEL ÑÚÑEZ", "Ángel Ñúñez"},
-        {"a  b", "A  B"},
-        {"ANA-MARIA-JOSE", "Ana-Maria-Jose"},
-        {"", ""},
-        {" x", " X"},
-    };
+    const Caso capital[] = {{"MARIA-JOSE DE LA FUENTE", "Maria-jose De La Fuente"},
+                            {"JOSE MARIA-LUISA", "Jose Maria-Luisa"},
+                            {"ÁNGEL ÑÚÑEZ", "Ángel Ñúñez"},
+                            {"a  b", "A  B"},
+                            {"ANA-MARIA-JOSE", "Ana-Maria-Jose"},
+                            {"", ""},
+                            {" x", " X"}};
     compruebaTabla(&CapitalCase, capital, "CapitalCase");
 }
 
@@ -118,23 +106,21 @@ TEST(Alineacion, PaddingAndCutting) {
         const char* texto;
         int ancho;
         const char* esperado;
-    } casos[] = {
-        {&StrCentra, "StrCentra", "AB", 5, " AB  "},
-        {&StrCentra, "StrCentra", "AB", 6, "  AB  "},
-        {&StrCentra, "StrCentra", "ABC", 2, "ABC"},
-        {&StrCentra, "StrCentra", "AB", -4, "AB"},
-        {&JustificaDer, "JustificaDer", "AB", 4, "  AB"},
-        {&JustificaDer, "JustificaDer", "ABCDEF", 3, "ABC"},
-        {&JustificaDer, "JustificaDer", "AB", 2, "AB"},
-        {&JustificaDer, "JustificaDer", "AB", -1, ""},
-        {&JustificaIzq, "JustificaIzq", "AB", 4, "AB   "},
-        {&JustificaIzq, "JustificaIzq", "AB", 2, "AB "},
-        {&JustificaIzq, "JustificaIzq", "ABC", 2, "ABC"},
-        {&AlineaDecha, "AlineaDecha", "AB", 4, "  AB"},
-        {&AlineaDecha, "AlineaDecha", "ABC", 2, "ABC"},
-        {&AlineaIzda, "AlineaIzda", "AB", 4, "AB  "},
-        {&AlineaIzda, "AlineaIzda", "ABC", 2, "ABC"},
-    };
+    } casos[] = {{&StrCentra, "StrCentra", "AB", 5, " AB  "},
+                 {&StrCentra, "StrCentra", "AB", 6, "  AB  "},
+                 {&StrCentra, "StrCentra", "ABC", 2, "ABC"},
+                 {&StrCentra, "StrCentra", "AB", -4, "AB"},
+                 {&JustificaDer, "JustificaDer", "AB", 4, "  AB"},
+                 {&JustificaDer, "JustificaDer", "ABCDEF", 3, "ABC"},
+                 {&JustificaDer, "JustificaDer", "AB", 2, "AB"},
+                 {&JustificaDer, "JustificaDer", "AB", -1, ""},
+                 {&JustificaIzq, "JustificaIzq", "AB", 4, "AB   "},
+                 {&JustificaIzq, "JustificaIzq", "AB", 2, "AB "},
+                 {&JustificaIzq, "JustificaIzq", "ABC", 2, "ABC"},
+                 {&AlineaDecha, "AlineaDecha", "AB", 4, "  AB"},
+                 {&AlineaDecha, "AlineaDecha", "ABC", 2, "ABC"},
+                 {&AlineaIzda, "AlineaIzda", "AB", 4, "AB  "},
+                 {&AlineaIzda, "AlineaIzda", "ABC", 2, "ABC"}};
     for (const auto& c : casos)
         EXPECT_EQ(c.rutina(u8(c.texto), c.ancho), u8(c.esperado))
             << c.nombre << "(\"" << c.texto << "\", " << c.ancho << ')';
@@ -157,35 +143,21 @@ TEST(Alineacion, Fault3ExtremeWidthsAnswerAtOnce) {
                  {-7, 4, "-007"}};
     for (const auto& c : ceros)
         EXPECT_EQ(StrCeros(c.valor, c.ancho), QLatin1String(c.esperado)) << c.valor << " width " << c.ancho;
+    // Beyond the widest column a width leaves the text as it is.
     const struct {
         QString (*rutina)(const QString&, int);
         const char* nombre;
-        const char* esperado;
-    } rutinas[] = {{&StrCentra, "StrCentra", "AB"},
-                   {&JustificaDer, "JustificaDer", ""},
-                   {&JustificaIzq, "JustificaIzq", "AB"},
-                   {&AlineaDecha, "AlineaDecha", "AB"},
-                   {&AlineaIzda, "AlineaIzda", "AB"}};
-    for (const auto& r : rutinas)
-        for (int ancho : {kMin, kMin + 1})
-            EXPECT_EQ(r.rutina(QStringLiteral("AB"), ancho), QLatin1String(r.esperado))
-                << r.nombre << ' ' << ancho;
-}
-
-TEST(Alineacion, WidthBeyondTheMaximumLeavesTheText) {
-    const struct {
-        QString (*rutina)(const QString&, int);
-        const char* nombre;
+        const char* enElMinimo;
         qsizetype largoEnElMaximo; // padded length at exactly kAnchoMaximoTexto
-    } rutinas[] = {
-        {&StrCentra, "StrCentra", kAnchoMaximoTexto},
-        {&JustificaDer, "JustificaDer", kAnchoMaximoTexto},
-        {&JustificaIzq, "JustificaIzq", kAnchoMaximoTexto + 1},
-        {&AlineaDecha, "AlineaDecha", kAnchoMaximoTexto},
-        {&AlineaIzda, "AlineaIzda", kAnchoMaximoTexto},
-    };
+    } rutinas[] = {{&StrCentra, "StrCentra", "AB", kAnchoMaximoTexto},
+                   {&JustificaDer, "JustificaDer", "", kAnchoMaximoTexto},
+                   {&JustificaIzq, "JustificaIzq", "AB", kAnchoMaximoTexto + 1},
+                   {&AlineaDecha, "AlineaDecha", "AB", kAnchoMaximoTexto},
+                   {&AlineaIzda, "AlineaIzda", "AB", kAnchoMaximoTexto}};
     const QString s = QStringLiteral("AB");
     for (const auto& r : rutinas) {
+        for (int ancho : {kMin, kMin + 1})
+            EXPECT_EQ(r.rutina(s, ancho), QLatin1String(r.enElMinimo)) << r.nombre << ' ' << ancho;
         EXPECT_EQ(r.rutina(s, kAnchoMaximoTexto).size(), r.largoEnElMaximo) << r.nombre;
         for (int ancho : {kAnchoMaximoTexto + 1, std::numeric_limits<int>::max()})
             EXPECT_EQ(r.rutina(s, ancho), s) << r.nombre << " width " << ancho;

@@ -8,7 +8,7 @@
 using namespace nod;
 using nod::prueba::OficinaPrueba;
 
-TEST(Moneda, PesetasToEurosAsText) {
+TEST(Moneda, PesetasToEurosAsTextAndAsAFigureAndBack) {
     OficinaPrueba o;
     const struct {
         qint64 pesetas;
@@ -22,41 +22,32 @@ TEST(Moneda, PesetasToEurosAsText) {
                  {1663860000000, "10.000.000.000,00"}};
     for (const auto& c : casos)
         EXPECT_EQ(PesetasEurosNod(c.pesetas), QString::fromLatin1(c.esperado)) << c.pesetas;
-}
-
-TEST(Moneda, PesetasToEurosRoundedThroughText) {
-    OficinaPrueba o;
+    // The figure is rounded through its text.
     const struct {
         qint64 pesetas;
         int decimales;
         double esperado;
-    } casos[] = {
-        {166386, 2, 1000.0},
-        {1, 2, 0.01},
-        {166, 2, 1.0}, // 0,9977 carries into the units
-        {500, 2, 3.01},
-        {500, 0, 500 / 166.386},
-        {500, -3, 500 / 166.386},
-        {500, 4, 3.0051},
-        {-166386, 2, -1000.0},
-        {-500, 2, -3.01},
-        {0, 2, 0.0},
-        {500, 400, 500 / 166.386},
-    };
-    for (const auto& c : casos)
+    } redondeos[] = {{166386, 2, 1000.0},
+                     {1, 2, 0.01},
+                     {166, 2, 1.0}, // 0,9977 carries into the units
+                     {500, 2, 3.01},
+                     {500, 0, 500 / 166.386},
+                     {500, -3, 500 / 166.386},
+                     {500, 4, 3.0051},
+                     {-166386, 2, -1000.0},
+                     {-500, 2, -3.01},
+                     {0, 2, 0.0},
+                     {500, 400, 500 / 166.386}};
+    for (const auto& c : redondeos)
         EXPECT_DOUBLE_EQ(PesetasEurosNod(c.pesetas, c.decimales), c.esperado)
             << c.pesetas << ' ' << c.decimales;
-}
-
-TEST(Moneda, EurosToPesetas) {
-    OficinaPrueba o;
     const struct {
         double euros;
         qint64 pesetas;
-    } casos[] = {
+    } aPesetas[] = {
         {1000.0, 166386}, {0.01, 2},  {1.0, 166}, {0, 0}, {std::numeric_limits<double>::quiet_NaN(), 0},
         {1e300, 0},       {-1e300, 0}};
-    for (const auto& c : casos)
+    for (const auto& c : aPesetas)
         EXPECT_EQ(EurosPesetasNod(c.euros), c.pesetas) << c.euros;
 }
 
@@ -75,40 +66,35 @@ TEST(Moneda, RateIsReadOnEveryCall) {
     }
 }
 
-TEST(Moneda, PuntosNodGroupsDigits) {
+TEST(Moneda, PuntosNodGroupsDigitsAndStaysBoundedWithManyPoints) {
     const struct {
         const char* numero;
         bool decimal;
         const char* esperado;
-    } casos[] = {
-        {"123", false, "123"},
-        {"1 234", false, "1.234"},
-        {"1234567", false, "1.234.567"},
-        {"-1234", false, "-1.234"},
-        {"-123456", false, "-123.456"},
-        {"-123", false, "-123"},
-        {"", false, ""},
-        {"1234567.89", true, "1.234.567,89"},
-        {"1234", true, "1.234"},
-        {"1234.5", true, "1.234,5"},
-        {".5", true, ",5"},
-        {"-1234.5", true, "-1.234,5"},
-        {"", true, ""},
-        {"1234,5", true, "1234,5"}, // a "," and no "." is left as it stands
-        {"1234.", true, "1.234,"},
-        // Every "." regroups what has been written so far, the "," included.
-        {"1.234.567", true, "1,.234,567"},
-        {"1234.5.6", true, "1..23.4,5,6"},
-        {"1234567.8901.2", true, "1..234..56.7,8.901,2"},
-    };
+    } casos[] = {{"123", false, "123"},
+                 {"1 234", false, "1.234"},
+                 {"1234567", false, "1.234.567"},
+                 {"-1234", false, "-1.234"},
+                 {"-123456", false, "-123.456"},
+                 {"-123", false, "-123"},
+                 {"", false, ""},
+                 {"1234567.89", true, "1.234.567,89"},
+                 {"1234", true, "1.234"},
+                 {"1234.5", true, "1.234,5"},
+                 {".5", true, ",5"},
+                 {"-1234.5", true, "-1.234,5"},
+                 {"", true, ""},
+                 {"1234,5", true, "1234,5"}, // a "," and no "." is left as it stands
+                 {"1234.", true, "1.234,"},
+                 // Every "." regroups what has been written so far, the "," included.
+                 {"1.234.567", true, "1,.234,567"},
+                 {"1234.5.6", true, "1..23.4,5,6"},
+                 {"1234567.8901.2", true, "1..234..56.7,8.901,2"}};
     for (const auto& c : casos)
         EXPECT_EQ(PuntosNod(QString::fromLatin1(c.numero), c.decimal), QString::fromLatin1(c.esperado))
             << c.numero << ' ' << c.decimal;
-}
-
-// Each "." regroups the whole text written before it, which grows by a third every time: a text made of
-// many points stops being regrouped once it is wider than any column instead of growing without bound.
-TEST(Moneda, PuntosNodWithManyPointsStaysBounded) {
+    // Each "." regroups the whole text written before it, which grows by a third every time: a text made of
+    // many points stops being regrouped once it is wider than any column instead of growing without bound.
     const QString r = PuntosNod(QStringLiteral("1234567890") + QString(400, QLatin1Char('.')), true);
     EXPECT_LE(r.size(), 2 * kAnchoMaximoTexto);
     EXPECT_GE(r.size(), kAnchoMaximoTexto);
