@@ -62,6 +62,7 @@ json valorTipico(const std::string& tipo) {
     if (t == "number") return 1.5;
     if (t == "boolean") return true;
     if (t == "character") return "S";
+    if (t == "array of strings") return json::array({"28"});
     return "28";
 }
 
@@ -75,6 +76,12 @@ json valorDe(const std::string& tipo, FuzzedDataProvider& datos) {
                                    : json(datos.ConsumeIntegral<std::int32_t>());
     if (t == "boolean") return datos.ConsumeBool();
     if (t == "character") return QString(QChar(datos.ConsumeIntegral<char16_t>())).toStdString();
+    if (t == "array of strings") {
+        json lista = json::array();
+        for (int n = datos.ConsumeIntegralInRange(0, 3); n > 0; --n)
+            lista.push_back(datos.ConsumeRandomLengthString(64));
+        return lista;
+    }
     return datos.ConsumeRandomLengthString(256);
 }
 
@@ -179,11 +186,12 @@ void siembra(const std::filesystem::path& carpeta) {
     for (std::size_t i = 0; i < todas.size(); ++i) {
         const std::string indice = std::to_string(i);
         // '3' is odd: the data provider, which takes flags and numbers from the end, picks 32-bit
-        // integers; a backslash and another character end each text taken from the front.
+        // integers (enough of them for the longest signature); a backslash and another character end
+        // each text taken from the front.
         std::string llamada{'\x01', char(i & 0xFF), char(i >> 8)};
         for (int k = 0; k < 8; ++k)
             llamada += "2833\\x";
-        llamada += std::string(16, '3');
+        llamada += std::string(64, '3');
         fuzz::EscribeSemilla(carpeta, "llamada_" + indice, llamada);
         json args = json::array();
         for (const auto& tipo : todas[i].forma->parametros)
