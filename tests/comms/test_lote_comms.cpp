@@ -61,10 +61,7 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
 TEST(LoteComms, AScriptSendsAFaxAndChecksTheGateway) {
     prueba::OficinaPrueba oficina;
     prueba::ServidorHttp servidor;
-    prueba::RespuestaHttp aceptado;
-    aceptado.estado = 201;
-    aceptado.cabeceras = {{"Location", "/outbound/faxes/555"}};
-    servidor.respondeCon(aceptado);
+    servidor.respondeCon({.estado = 201, .cabeceras = {{"Location", "/outbound/faxes/555"}}});
     QTemporaryDir programa;
     FijaCarpetaPrograma(programa.path());
     const QString doc = prueba::EscribeFichero(QDir(programa.path()).filePath(u"a.pdf"_s), "%PDF");
@@ -76,9 +73,7 @@ TEST(LoteComms, AScriptSendsAFaxAndChecksTheGateway) {
     ASSERT_FALSE(fax.contains("error")) << fax.dump();
     EXPECT_EQ(fax["result"], json({"555", "555"}));
 
-    prueba::RespuestaHttp plantilla;
-    plantilla.cuerpo = "<xml/>";
-    servidor.respondeCon(plantilla);
+    servidor.respondeCon("<xml/>");
     const json pasarela = lote::Atiende({{"fn", "CompruebaFicherosPasarelaParaEnviosUnicos"},
                                          {"args", json::array()},
                                          {"config", {{"PortalFabricante", servidor.base().toStdString()}}},

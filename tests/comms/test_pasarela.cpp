@@ -29,11 +29,7 @@ const QByteArray kRuta = "/modules/Programas/NODRIM/Actualizaciones/Download/08t
 
 RespuestaHttp fichero(const QByteArray& contenido, const QByteArray& tipo = "application/octet-stream",
                       int estado = 200) {
-    RespuestaHttp r;
-    r.cuerpo = contenido;
-    r.tipo = tipo;
-    r.estado = estado;
-    return r;
+    return {.estado = estado, .cuerpo = contenido, .tipo = tipo};
 }
 
 QByteArray lee(const QString& ruta) {
@@ -155,8 +151,7 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
     RespuestaHttp htmlSinTipo =
         fichero("\xef\xbb\xbf  <HTML><body>Acceso</body></HTML>", "application/octet-stream");
     const RespuestaHttp noEsta = fichero("no", "text/plain", 404);
-    RespuestaHttp cortada = fichero(QByteArray(64 * 1024, 'x'), "text/xml");
-    cortada.corta = true;
+    const RespuestaHttp cortada{.cuerpo = QByteArray(64 * 1024, 'x'), .tipo = "text/xml", .corta = true};
     const Caso casos[] = {
         {"answered no", {7}, -1, {}},
         {"Escape", {}, -1, {}},
@@ -404,9 +399,7 @@ TEST(DescargarFichero, ReportsProgressKeepsTheOldFileOnFailureAndTakesPagesOnlyA
     EXPECT_EQ(ultimo, contenido.size());
     EXPECT_EQ(total, contenido.size());
 
-    RespuestaHttp cortada = fichero(QByteArray(300 * 1024, 'n'));
-    cortada.corta = true;
-    servidor.respondeEn("/datos.bin", cortada);
+    servidor.respondeEn("/datos.bin", {.cuerpo = QByteArray(300 * 1024, 'n'), .corta = true});
     EXPECT_FALSE(DescargarFichero(servidor.base() + u"/datos.bin"_s, destino));
     EXPECT_EQ(lee(destino), contenido) << "the old file stays whole";
     EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"datos.bin"_s});
