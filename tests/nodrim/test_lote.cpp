@@ -4,9 +4,7 @@
 #include "tests/support/oficina_prueba.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
-#include <QFileInfo>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -16,37 +14,33 @@ using nod::prueba::OficinaPrueba;
 
 namespace {
 
+// A lambda as the plain function the routine table takes.
+template <class F> auto puntero(F f) {
+    return +f;
+}
+
 Rutinas rutinasDePrueba() {
     Rutinas r;
-    r.agrega(
-        "incrementa", +[](int& n) { return ++n; });
-    r.agrega(
-        "mitad", +[](double x) { return x / 2; });
-    r.agrega(
-        "doble", +[](const QString& s) { return s + s; });
-    r.agrega(
-        "forma", +[](int) { return QStringLiteral("int"); });
-    r.agrega(
-        "forma", +[](double) { return QStringLiteral("double"); });
-    r.agrega(
-        "caracter", +[](QChar c) { return QString(c); });
-    r.agrega(
-        "lanza", +[](int) -> bool { throw std::runtime_error("boom"); });
+    r.agrega("incrementa", puntero([](int& n) { return ++n; }));
+    r.agrega("mitad", puntero([](double x) { return x / 2; }));
+    r.agrega("doble", puntero([](const QString& s) { return s + s; }));
+    r.agrega("forma", puntero([](int) { return QStringLiteral("int"); }));
+    r.agrega("forma", puntero([](double) { return QStringLiteral("double"); }));
+    r.agrega("caracter", puntero([](QChar c) { return QString(c); }));
+    r.agrega("lanza", puntero([](int) -> bool { throw std::runtime_error("boom"); }));
     // Asks `n` yes/no questions after an error box (which asks nothing) and counts the yeses.
-    r.agrega(
-        "pregunta", +[](int n) {
-            Mensaje_Error(QStringLiteral("Aviso"), QStringLiteral("Error"));
-            int sies = 0;
-            for (int i = 0; i < n; ++i)
-                sies += NoSi(QStringLiteral("¿Seguro?"));
-            return sies;
-        });
-    r.agrega(
-        "avisa", +[](const QString& texto) {
-            if (!texto.isEmpty()) qCWarning(lcTablas).noquote() << texto;
-            qCInfo(lcTablas) << "only an information line";
-            return true;
-        });
+    r.agrega("pregunta", puntero([](int n) {
+                 Mensaje_Error(QStringLiteral("Aviso"), QStringLiteral("Error"));
+                 int sies = 0;
+                 for (int i = 0; i < n; ++i)
+                     sies += NoSi(QStringLiteral("¿Seguro?"));
+                 return sies;
+             }));
+    r.agrega("avisa", puntero([](const QString& texto) {
+                 if (!texto.isEmpty()) qCWarning(lcTablas).noquote() << texto;
+                 qCInfo(lcTablas) << "only an information line";
+                 return true;
+             }));
     return r;
 }
 
@@ -254,21 +248,16 @@ TEST(Lote, WarningsLoggedWhileARequestRunsAreReportedWithIt) {
 }
 
 TEST(Lote, DamagedTableIsToldApartFromNotFoundByTheWarnings) {
-    OficinaPrueba o;
-    const QDir muestra(prueba::OficinaMuestra());
-    for (QDirIterator it(muestra.path(), QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
-        const QString destino = o.ruta(muestra.relativeFilePath(it.next()));
-        QDir().mkpath(QFileInfo(destino).absolutePath());
-        QFile::remove(destino);
-        ASSERT_TRUE(QFile::copy(it.filePath(), destino));
-    }
-    o.recarga();
+    OficinaPrueba o(QStringLiteral("[ALIAS]\nDB=DATOS\n"));
+    QDir().mkpath(o.ruta(QStringLiteral("DATOS")));
+    QFile municipios(o.ruta(QStringLiteral("DATOS/MUNICIPI.DBF")));
+    ASSERT_TRUE(
+        QFile::copy(prueba::OficinaMuestra() + QStringLiteral("/DATOS/MUNICIPI.DBF"), municipios.fileName()));
     const char* peticion = R"({"fn":"BusquedaMunicipio","args":["28","999"]})";
     const json noEsta = AtiendeLinea(peticion, 1);
     EXPECT_EQ(noEsta["result"], "");
     EXPECT_FALSE(noEsta.contains("warnings")) << noEsta.dump();
 
-    QFile municipios(o.ruta(QStringLiteral("DATOS/MUNICIPI.DBF")));
     ASSERT_TRUE(municipios.resize(5000));
     const json danada = AtiendeLinea(peticion, 2);
     EXPECT_EQ(danada["result"], "");
