@@ -115,15 +115,11 @@ TEST_F(PasarelaTest, MissingSingleSendingFilesAreDownloadedIntoTheBaseFolder) {
     instalaTodo({kEnviosUnicos[2]});
     guion.respuestas({6});
     EXPECT_TRUE(CompruebaFicherosPasarela());
-    QStringList pedidas;
-    for (const prueba::PeticionHttp& p : servidor.peticiones())
-        pedidas.append(QString::fromLatin1(p.ruta));
-    QStringList esperadas;
-    for (const QString& f : kEnviosUnicos)
-        esperadas.append(QString::fromLatin1(kRuta) + f);
-    EXPECT_EQ(pedidas, esperadas);
-    for (const QString& f : kEnviosUnicos)
-        EXPECT_EQ(lee(base(f)), "contenido de " + f.toLatin1()) << f.toStdString();
+    ASSERT_EQ(servidor.peticiones().size(), kEnviosUnicos.size());
+    for (qsizetype i = 0; i < kEnviosUnicos.size(); ++i) {
+        EXPECT_EQ(servidor.peticiones()[i].ruta, kRuta + kEnviosUnicos[i].toLatin1());
+        EXPECT_EQ(lee(base(kEnviosUnicos[i])), "contenido de " + kEnviosUnicos[i].toLatin1());
+    }
     EXPECT_FALSE(QFileInfo::exists(QDir(programa.path()).filePath(kEnviosUnicos[2])))
         << "downloads go to the base folder, not the program folder";
     const QStringList d = Dialogos(guion);
