@@ -337,11 +337,5 @@ TEST_F(CorreoTest, AuthenticatesWithoutEverLoggingThePassword) {
     EXPECT_EQ(servidor.mensajes().front()[u"mail_from"].toString(), u"notaria@example.es"_s);
 }
 
-// With a support desk configured the link carries its address too (test_comms_ui).
-TEST(EnviarMail, WithoutASupportDeskTheLinkCarriesTheSubjectOnly) {
-    prueba::OficinaPrueba oficina;
-    EXPECT_EQ(EnlaceEnviarMail().toEncoded(), "mailto:?subject=Notario%20rectificaci%C3%B3n");
-}
-
 } // namespace
 } // namespace nod

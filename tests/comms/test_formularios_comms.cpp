@@ -47,15 +47,10 @@ TEST(FormulariosComms, MobileAndMailFormAnsweredFromAScript) {
 TEST(FormulariosComms, MailEditorSendsFromAScript) {
     prueba::ServidorCorreo servidor;
     ASSERT_NE(servidor.puerto(), 0) << servidor.error().toStdString();
-    const json correo = {{"ServidorCorreo", "127.0.0.1"},
-                         {"PuertoCorreo", servidor.puerto()},
-                         {"SeguridadCorreo", "NINGUNA"},
-                         {"RemitenteCorreo", "notaria@example.es"},
-                         {"EsperaCorreoMs", 3000}};
     const auto editor = [&](json respuestas) {
         return json{{"fn", "MuestraEmail"},
                     {"args", {"ana@example.es"}},
-                    {"config", correo},
+                    {"config", servidor.configuracion()},
                     {"answers", std::move(respuestas)}};
     };
     const std::vector<json> r = ejecuta({

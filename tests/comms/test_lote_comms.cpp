@@ -20,14 +20,6 @@ namespace {
 
 using lote::json;
 
-json correo(const prueba::ServidorCorreo& s) {
-    return {{"ServidorCorreo", "127.0.0.1"},
-            {"PuertoCorreo", s.puerto()},
-            {"SeguridadCorreo", "NINGUNA"},
-            {"RemitenteCorreo", "notaria@example.es"},
-            {"EsperaCorreoMs", 2000}};
-}
-
 TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     prueba::OficinaPrueba oficina;
     prueba::ServidorCorreo servidor;
@@ -39,7 +31,7 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     const json r = lote::Atiende(
         {{"fn", "EnviarEmail"},
          {"args", {"ana@example.es;", "Factura 7/2024", "Adjunta.", {adjunto.toStdString()}, "", "", false}},
-         {"config", correo(servidor)}});
+         {"config", servidor.configuracion()}});
     ASSERT_FALSE(r.contains("error")) << r.dump();
     EXPECT_EQ(r["result"], true);
     ASSERT_EQ(servidor.mensajes().size(), 1);
@@ -47,7 +39,7 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     EXPECT_EQ(m[u"subject"].toString(), u"Factura 7/2024"_s);
     EXPECT_EQ(m[u"attachments"].toArray().at(0)[u"filename"].toString(), u"factura.pdf"_s);
 
-    json config = correo(servidor);
+    json config = servidor.configuracion();
     config["PuertoCorreo"] = prueba::ServidorHttp::puertoCerrado();
     const json fallo = lote::Atiende({{"fn", "EnviarEmail"},
                                       {"args", {"ana@example.es", "a", "b", json::array(), "", "", false}},
@@ -98,6 +90,7 @@ TEST(LoteComms, PlainRoutinesAnswerWithTheirJsonTypes) {
           {"args", json::array()},
           {"config", {{"CorreoFabricante", "soporte@example.com"}}}},
          "mailto:soporte@example.com?subject=Notario%20rectificaci%C3%B3n"},
+        {{{"fn", "EnviarMail"}, {"args", json::array()}}, "mailto:?subject=Notario%20rectificaci%C3%B3n"},
         {{{"fn", "tbInteresadosCalcFields"}, {"args", {0}}}, ""},
     };
     for (const auto& [peticion, resultado] : casos) {
