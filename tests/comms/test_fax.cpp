@@ -98,28 +98,25 @@ TEST_F(FaxTest, AccountAndInitialisationFileFollowTheirRules) {
     oficina.escribe(u"C/FAX.INI"_s, u"[INTERFAX]\nCSID=UNIDAD C\n"_s);
     const QString doc = documento(u"a.pdf"_s, "%PDF");
     struct Caso {
-        const char *nombre, *usuario, *password;
-        QString ini;
+        const char* nombre;
+        QString usuario, password, ini;
         const char *cuenta, *consulta; // cuenta: "user:password" of the authorisation
     };
     const char* const varios = "faxNumber=915551212&csid=NOTARIA%20MADRID&pageHeader=Notar%C3%ADa%20de%20"
                                "Pruebas&retriesToPerform=3";
     const Caso casos[] = {
-        {"no user, no file", "", "ignorada", {}, "notaria_cfg:clave_cfg", varios},
-        {"a user of its own", "otro", "x", {}, "otro:x", varios},
-        {"a file given, retries out of range", "", "", oficina.ruta(u"otro.ini"_s), "notaria_cfg:clave_cfg",
-         "faxNumber=915551212&csid=OTRA"},
-        {"a drive-C file", "", "", u"C:\\FAX.INI"_s, "notaria_cfg:clave_cfg",
+        {"no user, no file", u""_s, u"ignorada"_s, u""_s, "notaria_cfg:clave_cfg", varios},
+        {"a user of its own", u"otro"_s, u"x"_s, u""_s, "otro:x", varios},
+        {"a file given, retries out of range", u""_s, u""_s, oficina.ruta(u"otro.ini"_s),
+         "notaria_cfg:clave_cfg", "faxNumber=915551212&csid=OTRA"},
+        {"a drive-C file", u""_s, u""_s, u"C:\\FAX.INI"_s, "notaria_cfg:clave_cfg",
          "faxNumber=915551212&csid=UNIDAD%20C"},
-        {"a file that does not exist", "", "", u"CONFIG\\NOEXISTE.INI"_s, "notaria_cfg:clave_cfg",
+        {"a file that does not exist", u""_s, u""_s, u"CONFIG\\NOEXISTE.INI"_s, "notaria_cfg:clave_cfg",
          "faxNumber=915551212"},
     };
     for (const Caso& c : casos) {
         const qsizetype antes = servidor.peticiones().size();
-        EXPECT_EQ(
-            fax({doc}, {u"915551212"_s}, QString::fromUtf8(c.usuario), QString::fromUtf8(c.password), c.ini),
-            QString())
-            << c.nombre;
+        EXPECT_EQ(fax({doc}, {u"915551212"_s}, c.usuario, c.password, c.ini), QString()) << c.nombre;
         ASSERT_EQ(servidor.peticiones().size(), antes + 1) << c.nombre;
         const prueba::PeticionHttp& p = servidor.peticiones().last();
         EXPECT_EQ(p.cabeceras.value("authorization"), "Basic " + QByteArray(c.cuenta).toBase64()) << c.nombre;

@@ -286,24 +286,21 @@ TEST_F(PasarelaTest, GatewayIniThatCannotBeWrittenIsReported) {
 
 TEST(DameContenidoXML, CutsBetweenTheFirstTags) {
     const struct {
-        const char *texto, *inicio, *fin, *resultado;
+        QString texto, inicio, fin, resultado;
     } casos[] = {
-        {"<a>1</a>", "<a>", "</a>", "1"},
-        {"<a>1", "<a>", "</a>", ""},
-        {"1</a>", "<a>", "</a>", ""},
-        {"<r><a>uno</a><a>dos</a></r>", "<a>", "</a>", "uno"},
-        {"</a><a>1</a>", "<a>", "</a>", ""}, // the end tag is searched from the beginning
-        {"<a></a>", "<a>", "</a>", ""},
-        {"<id>ñandú</id>", "<id>", "</id>", "ñandú"},
-        {"<a>1</a>", "", "</a>", ""},
-        {"<a>1</a>", "<a>", "", ""},
-        {"xax", "xa", "ax", ""}, // the end tag overlaps the start tag
+        {u"<a>1</a>"_s, u"<a>"_s, u"</a>"_s, u"1"_s},
+        {u"<a>1"_s, u"<a>"_s, u"</a>"_s, u""_s},
+        {u"1</a>"_s, u"<a>"_s, u"</a>"_s, u""_s},
+        {u"<r><a>uno</a><a>dos</a></r>"_s, u"<a>"_s, u"</a>"_s, u"uno"_s},
+        {u"</a><a>1</a>"_s, u"<a>"_s, u"</a>"_s, u""_s}, // the end tag is searched from the beginning
+        {u"<a></a>"_s, u"<a>"_s, u"</a>"_s, u""_s},
+        {u"<id>ñandú</id>"_s, u"<id>"_s, u"</id>"_s, u"ñandú"_s},
+        {u"<a>1</a>"_s, u""_s, u"</a>"_s, u""_s},
+        {u"<a>1</a>"_s, u"<a>"_s, u""_s, u""_s},
+        {u"xax"_s, u"xa"_s, u"ax"_s, u""_s}, // the end tag overlaps the start tag
     };
     for (const auto& c : casos)
-        EXPECT_EQ(DameContenidoXML(QString::fromUtf8(c.texto), QString::fromUtf8(c.inicio),
-                                   QString::fromUtf8(c.fin)),
-                  QString::fromUtf8(c.resultado))
-            << c.texto;
+        EXPECT_EQ(DameContenidoXML(c.texto, c.inicio, c.fin), c.resultado) << c.texto.toStdString();
 }
 
 TEST(PuedeActualizarEsteEquipo, TodosOnlyInCapitalsElseTheComputerName) {
