@@ -132,19 +132,23 @@ TEST(Lote, ErrorsNameTheRoutineAndWhatItExpects) {
     }
 }
 
-// Every request answered in order, blank lines skipped but counted; a broken or an overlong line is refused
-// and the stream goes on (an overlong last line without its newline too).
+// Every request answered in order, blank lines skipped but counted, each response with the warnings logged
+// while its request ran; a broken or an overlong line is refused and the stream goes on (an overlong last
+// line without its newline too).
 TEST(Lote, StreamAnswersEveryRequestInOrderAndGoesOnAfterErrors) {
     const std::string peticion = R"({"fn":"doble","args":["ab"]})";
     const std::string justa = peticion + std::string(kLineaMaxima - peticion.size(), ' ');
     const auto r = procesa(justa + "\n\nbroken\n" + justa + " \n" + R"({"fn":"caracter","args":["Ñ"]})" +
-                           "\n" + justa + "x");
-    ASSERT_EQ(r.size(), 5u);
+                           "\n" + R"({"fn":"avisa","args":["La tabla X.DBF está dañada"]})" + "\n" +
+                           R"({"fn":"avisa","args":[""]})" + "\n" + justa + "x");
+    ASSERT_EQ(r.size(), 7u);
     EXPECT_EQ(r[0]["result"], "abab");
     EXPECT_NE(error(r[1]).find("line 3: not valid JSON"), std::string::npos) << error(r[1]);
     EXPECT_NE(error(r[2]).find("line 4: longer than 1048576 bytes"), std::string::npos) << error(r[2]);
     EXPECT_EQ(r[3]["result"], "Ñ");
-    EXPECT_NE(error(r[4]).find("line 6: longer than"), std::string::npos) << "a last line without newline";
+    EXPECT_EQ(r[4].value("warnings", json()), json::array({"La tabla X.DBF está dañada"}));
+    EXPECT_FALSE(r[5].contains("warnings")) << "no warning, no list; information lines are not warnings";
+    EXPECT_NE(error(r[6]).find("line 8: longer than"), std::string::npos) << "a last line without newline";
 }
 
 TEST(Lote, ConfigAppliesToOneRequestOnly) {
@@ -230,16 +234,6 @@ TEST(Lote, AnswersLeaveATraceInEveryDialog) {
             dialogos.push_back({d["kind"], d.value("answer", json("none")), d.value("defaulted", json())});
         EXPECT_EQ(dialogos, json::parse(c.dialogos)) << c.linea;
     }
-}
-
-TEST(Lote, WarningsLoggedWhileARequestRunsAreReportedWithIt) {
-    const auto r = procesa(R"({"fn":"avisa","args":["La tabla X.DBF está dañada"]})"
-                           "\n"
-                           R"({"fn":"avisa","args":[""]})"
-                           "\n");
-    ASSERT_EQ(r.size(), 2u);
-    EXPECT_EQ(r[0].value("warnings", json()), json::array({"La tabla X.DBF está dañada"}));
-    EXPECT_FALSE(r[1].contains("warnings")) << "no warning, no list; information lines are not warnings";
 }
 
 TEST(Lote, DamagedTableIsToldApartFromNotFoundByTheWarnings) {
