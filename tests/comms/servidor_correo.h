@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <nlohmann/json.hpp>
 
 namespace nod::prueba {
 
@@ -63,6 +64,14 @@ public:
         Config.SetSeguridadCorreo(QStringLiteral("NINGUNA"));
         Config.SetRemitenteCorreo(QStringLiteral("notaria@example.es"));
         Config.SetEsperaCorreoMs(1000);
+    }
+    /// The same settings as the "config" of a `nodrim batch` request, with three seconds of wait.
+    nlohmann::json configuracion() const {
+        return {{"ServidorCorreo", "127.0.0.1"},
+                {"PuertoCorreo", m_puerto},
+                {"SeguridadCorreo", "NINGUNA"},
+                {"RemitenteCorreo", "notaria@example.es"},
+                {"EsperaCorreoMs", 3000}};
     }
 
 private:

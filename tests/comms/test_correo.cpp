@@ -12,7 +12,6 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -336,12 +335,6 @@ TEST_F(CorreoTest, AuthenticatesWithoutEverLoggingThePassword) {
     EXPECT_FALSE(todo.contains(QString::fromLatin1(password.toUtf8().toBase64().left(12))));
     ASSERT_EQ(servidor.mensajes().size(), 1);
     EXPECT_EQ(servidor.mensajes().front()[u"mail_from"].toString(), u"notaria@example.es"_s);
-}
-
-// With a support desk configured the link carries its address too (test_comms_ui).
-TEST(EnviarMail, WithoutASupportDeskTheLinkCarriesTheSubjectOnly) {
-    prueba::OficinaPrueba oficina;
-    EXPECT_EQ(EnlaceEnviarMail().toEncoded(), "mailto:?subject=Notario%20rectificaci%C3%B3n");
 }
 
 } // namespace

@@ -16,32 +16,24 @@ class EmailDmTest : public ::testing::Test {
 protected:
     void SetUp() override {
         QDir().mkpath(oficina.ruta(u"DATOS"_s));
-        CreaFicheroDbf(oficina.ruta(u"DATOS/CLIENTES.DBF"_s),
-                       {{u"CODIGO"_s, 'N', 8, 0}, {u"APELLIDOS"_s, 'C', 40, 0}, {u"NOMBRE"_s, 'C', 30, 0}});
-        auto clientes = TTabla::AbreRuta(oficina.ruta(u"DATOS/CLIENTES.DBF"_s));
-        const struct {
-            int codigo;
-            const char *apellidos, *nombre;
-        } filas[] = {{7, "GARCÍA LÓPEZ", "MARÍA"},
-                     {3, "", "JUAN"},
-                     {12, "PÉREZ & CÍA, S.L.", ""},
-                     {5, "", ""},
-                     {9, "  MUÑOZ", "ÁNGEL  "}};
-        for (const auto& f : filas) {
-            clientes->Append();
-            clientes->SetInteger(u"CODIGO"_s, f.codigo);
-            clientes->SetString(u"APELLIDOS"_s, QString::fromUtf8(f.apellidos));
-            clientes->SetString(u"NOMBRE"_s, QString::fromUtf8(f.nombre));
-            clientes->Post();
-        }
+        tabla(u"DATOS/CLIENTES.DBF"_s,
+              {{u"CODIGO"_s, 'N', 8, 0}, {u"APELLIDOS"_s, 'C', 40, 0}, {u"NOMBRE"_s, 'C', 30, 0}},
+              {{u"7"_s, u"GARCÍA LÓPEZ"_s, u"MARÍA"_s},
+               {u"3"_s, {}, u"JUAN"_s},
+               {u"12"_s, u"PÉREZ & CÍA, S.L."_s},
+               {u"5"_s},
+               {u"9"_s, u"  MUÑOZ"_s, u"ÁNGEL  "_s}});
     }
-    // A table at `ruta` of the office whose first field `campo` holds `codigos`, one record each.
-    std::unique_ptr<TTabla> tabla(const QString& ruta, const QList<TCampoDbf>& campos, QList<int> codigos) {
+    // A table at `ruta` of the office, its first field a number and the others text; a record per row.
+    std::unique_ptr<TTabla> tabla(const QString& ruta, const QList<TCampoDbf>& campos,
+                                  const QList<QStringList>& filas) {
         CreaFicheroDbf(oficina.ruta(ruta), campos);
         auto t = TTabla::AbreRuta(oficina.ruta(ruta));
-        for (int cod : codigos) {
+        for (const QStringList& fila : filas) {
             t->Append();
-            t->SetInteger(campos[0].nombre, cod);
+            t->SetInteger(campos[0].nombre, fila[0].toInt());
+            for (qsizetype i = 1; i < fila.size(); ++i)
+                t->SetString(campos[i].nombre, fila[i]);
             t->Post();
         }
         return t;
@@ -71,8 +63,8 @@ TEST_F(EmailDmTest, CalculatedFieldFollowsTheCurrentParty) {
     TDMEmail dm;
     dm.tbInteresadosCalcFields();
     EXPECT_EQ(dm.CLIENTE(), QString()) << "no table yet";
-    dm.AsignaInteresados(
-        tabla(u"INTERESA.DBF"_s, {{u"CODCLIENTE"_s, 'N', 8, 0}, {u"CALIDAD"_s, 'C', 20, 0}}, {7, 0, 12, 99}));
+    dm.AsignaInteresados(tabla(u"INTERESA.DBF"_s, {{u"CODCLIENTE"_s, 'N', 8, 0}, {u"CALIDAD"_s, 'C', 20, 0}},
+                               {{u"7"_s}, {u"0"_s}, {u"12"_s}, {u"99"_s}}));
     QStringList clientes;
     for (dm.tbInteresados()->First(); !dm.tbInteresados()->Eof(); dm.tbInteresados()->Next()) {
         dm.tbInteresadosCalcFields();
@@ -87,7 +79,7 @@ TEST_F(EmailDmTest, UnreadableTablesGiveAnEmptyName) {
     EXPECT_EQ(ClienteInteresado(7), QString());
 
     TDMEmail dm;
-    dm.AsignaInteresados(tabla(u"OTRA.DBF"_s, {{u"CODIGO"_s, 'N', 8, 0}}, {7}));
+    dm.AsignaInteresados(tabla(u"OTRA.DBF"_s, {{u"CODIGO"_s, 'N', 8, 0}}, {{u"7"_s}}));
     dm.tbInteresadosCalcFields();
     EXPECT_EQ(dm.CLIENTE(), QString()) << "a table without CODCLIENTE";
 }

@@ -9,7 +9,6 @@
 #include "tests/support/oficina_prueba.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -22,23 +21,13 @@ namespace {
 using prueba::RespuestaHttp;
 
 RespuestaHttp aceptado(const QByteArray& id) {
-    RespuestaHttp r;
-    r.estado = 201;
-    r.tipo = "application/json";
-    r.cabeceras = {{"Location", "https://rest.interfax.net/outbound/faxes/" + id}};
-    return r;
+    return {.estado = 201,
+            .tipo = "application/json",
+            .cabeceras = {{"Location", "https://rest.interfax.net/outbound/faxes/" + id}}};
 }
 
 RespuestaHttp rechazado(int estado, const QByteArray& json) {
-    RespuestaHttp r;
-    r.estado = estado;
-    r.cuerpo = json;
-    r.tipo = "application/json";
-    return r;
-}
-
-template <class... R> QList<RespuestaHttp> cola(const R&... r) {
-    return {r...};
+    return {.estado = estado, .cuerpo = json, .tipo = "application/json"};
 }
 
 class FaxTest : public ::testing::Test {
@@ -109,28 +98,25 @@ TEST_F(FaxTest, AccountAndInitialisationFileFollowTheirRules) {
     oficina.escribe(u"C/FAX.INI"_s, u"[INTERFAX]\nCSID=UNIDAD C\n"_s);
     const QString doc = documento(u"a.pdf"_s, "%PDF");
     struct Caso {
-        const char *nombre, *usuario, *password;
-        QString ini;
+        const char* nombre;
+        QString usuario, password, ini;
         const char *cuenta, *consulta; // cuenta: "user:password" of the authorisation
     };
     const char* const varios = "faxNumber=915551212&csid=NOTARIA%20MADRID&pageHeader=Notar%C3%ADa%20de%20"
                                "Pruebas&retriesToPerform=3";
     const Caso casos[] = {
-        {"no user, no file", "", "ignorada", {}, "notaria_cfg:clave_cfg", varios},
-        {"a user of its own", "otro", "x", {}, "otro:x", varios},
-        {"a file given, retries out of range", "", "", oficina.ruta(u"otro.ini"_s), "notaria_cfg:clave_cfg",
-         "faxNumber=915551212&csid=OTRA"},
-        {"a drive-C file", "", "", u"C:\\FAX.INI"_s, "notaria_cfg:clave_cfg",
+        {"no user, no file", u""_s, u"ignorada"_s, u""_s, "notaria_cfg:clave_cfg", varios},
+        {"a user of its own", u"otro"_s, u"x"_s, u""_s, "otro:x", varios},
+        {"a file given, retries out of range", u""_s, u""_s, oficina.ruta(u"otro.ini"_s),
+         "notaria_cfg:clave_cfg", "faxNumber=915551212&csid=OTRA"},
+        {"a drive-C file", u""_s, u""_s, u"C:\\FAX.INI"_s, "notaria_cfg:clave_cfg",
          "faxNumber=915551212&csid=UNIDAD%20C"},
-        {"a file that does not exist", "", "", u"CONFIG\\NOEXISTE.INI"_s, "notaria_cfg:clave_cfg",
+        {"a file that does not exist", u""_s, u""_s, u"CONFIG\\NOEXISTE.INI"_s, "notaria_cfg:clave_cfg",
          "faxNumber=915551212"},
     };
     for (const Caso& c : casos) {
         const qsizetype antes = servidor.peticiones().size();
-        EXPECT_EQ(
-            fax({doc}, {u"915551212"_s}, QString::fromUtf8(c.usuario), QString::fromUtf8(c.password), c.ini),
-            QString())
-            << c.nombre;
+        EXPECT_EQ(fax({doc}, {u"915551212"_s}, c.usuario, c.password, c.ini), QString()) << c.nombre;
         ASSERT_EQ(servidor.peticiones().size(), antes + 1) << c.nombre;
         const prueba::PeticionHttp& p = servidor.peticiones().last();
         EXPECT_EQ(p.cabeceras.value("authorization"), "Basic " + QByteArray(c.cuenta).toBase64()) << c.nombre;
@@ -182,18 +168,24 @@ TEST_F(FaxTest, FailuresSayWhatWasSentAndWhatWasNot) {
         QList<RespuestaHttp> respuestas = {};
     };
     const Caso casos[] = {
-        {"account refused", 'a', 1,
+        {"account refused",
+         'a',
+         1,
          "No se ha podido enviar el fax al 911111111 (HTTP 401: Authentication error). No se ha enviado a: "
          "922222222, 933333333.",
-         cola(rechazado(401, R"({"code":-1003,"message":"Authentication error"})"))},
-        {"second number refused", 'a', 2,
+         {rechazado(401, R"({"code":-1003,"message":"Authentication error"})")}},
+        {"second number refused",
+         'a',
+         2,
          "No se ha podido enviar el fax al 922222222 (HTTP 400: Invalid fax number). Sí se ha enviado a: "
          "911111111. No se ha enviado a: 933333333.",
-         cola(aceptado("7"), rechazado(400, R"({"code":-112,"message":"Invalid fax number"})"))},
-        {"last one answers an error page", 'a', 3,
+         {aceptado("7"), rechazado(400, R"({"code":-112,"message":"Invalid fax number"})")}},
+        {"last one answers an error page",
+         'a',
+         3,
          "al 933333333 (HTTP 503: <html><body>Service Unavailable</body></html>). Sí se ha enviado a: "
          "911111111, 922222222.",
-         cola(aceptado("7"), aceptado("8"), rechazado(503, "<html><body>Service Unavailable</body></html>"))},
+         {aceptado("7"), aceptado("8"), rechazado(503, "<html><body>Service Unavailable</body></html>")}},
         // Qt's HTTP client sends a request once more when the connection closes without an answer.
         {"dropped connection", 'c', 2,
          "No se ha podido enviar el fax al 911111111 (el servidor ha cerrado la conexión sin responder). "

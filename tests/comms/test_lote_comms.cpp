@@ -20,14 +20,6 @@ namespace {
 
 using lote::json;
 
-json correo(const prueba::ServidorCorreo& s) {
-    return {{"ServidorCorreo", "127.0.0.1"},
-            {"PuertoCorreo", s.puerto()},
-            {"SeguridadCorreo", "NINGUNA"},
-            {"RemitenteCorreo", "notaria@example.es"},
-            {"EsperaCorreoMs", 2000}};
-}
-
 TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     prueba::OficinaPrueba oficina;
     prueba::ServidorCorreo servidor;
@@ -39,7 +31,7 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     const json r = lote::Atiende(
         {{"fn", "EnviarEmail"},
          {"args", {"ana@example.es;", "Factura 7/2024", "Adjunta.", {adjunto.toStdString()}, "", "", false}},
-         {"config", correo(servidor)}});
+         {"config", servidor.configuracion()}});
     ASSERT_FALSE(r.contains("error")) << r.dump();
     EXPECT_EQ(r["result"], true);
     ASSERT_EQ(servidor.mensajes().size(), 1);
@@ -47,7 +39,7 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
     EXPECT_EQ(m[u"subject"].toString(), u"Factura 7/2024"_s);
     EXPECT_EQ(m[u"attachments"].toArray().at(0)[u"filename"].toString(), u"factura.pdf"_s);
 
-    json config = correo(servidor);
+    json config = servidor.configuracion();
     config["PuertoCorreo"] = prueba::ServidorHttp::puertoCerrado();
     const json fallo = lote::Atiende({{"fn", "EnviarEmail"},
                                       {"args", {"ana@example.es", "a", "b", json::array(), "", "", false}},
@@ -61,10 +53,7 @@ TEST(LoteComms, AScriptSendsAMailWithAttachments) {
 TEST(LoteComms, AScriptSendsAFaxAndChecksTheGateway) {
     prueba::OficinaPrueba oficina;
     prueba::ServidorHttp servidor;
-    prueba::RespuestaHttp aceptado;
-    aceptado.estado = 201;
-    aceptado.cabeceras = {{"Location", "/outbound/faxes/555"}};
-    servidor.respondeCon(aceptado);
+    servidor.respondeCon({.estado = 201, .cabeceras = {{"Location", "/outbound/faxes/555"}}});
     QTemporaryDir programa;
     FijaCarpetaPrograma(programa.path());
     const QString doc = prueba::EscribeFichero(QDir(programa.path()).filePath(u"a.pdf"_s), "%PDF");
@@ -76,9 +65,7 @@ TEST(LoteComms, AScriptSendsAFaxAndChecksTheGateway) {
     ASSERT_FALSE(fax.contains("error")) << fax.dump();
     EXPECT_EQ(fax["result"], json({"555", "555"}));
 
-    prueba::RespuestaHttp plantilla;
-    plantilla.cuerpo = "<xml/>";
-    servidor.respondeCon(plantilla);
+    servidor.respondeCon("<xml/>");
     const json pasarela = lote::Atiende({{"fn", "CompruebaFicherosPasarelaParaEnviosUnicos"},
                                          {"args", json::array()},
                                          {"config", {{"PortalFabricante", servidor.base().toStdString()}}},
@@ -103,6 +90,7 @@ TEST(LoteComms, PlainRoutinesAnswerWithTheirJsonTypes) {
           {"args", json::array()},
           {"config", {{"CorreoFabricante", "soporte@example.com"}}}},
          "mailto:soporte@example.com?subject=Notario%20rectificaci%C3%B3n"},
+        {{{"fn", "EnviarMail"}, {"args", json::array()}}, "mailto:?subject=Notario%20rectificaci%C3%B3n"},
         {{{"fn", "tbInteresadosCalcFields"}, {"args", {0}}}, ""},
     };
     for (const auto& [peticion, resultado] : casos) {

@@ -29,11 +29,7 @@ const QByteArray kRuta = "/modules/Programas/NODRIM/Actualizaciones/Download/08t
 
 RespuestaHttp fichero(const QByteArray& contenido, const QByteArray& tipo = "application/octet-stream",
                       int estado = 200) {
-    RespuestaHttp r;
-    r.cuerpo = contenido;
-    r.tipo = tipo;
-    r.estado = estado;
-    return r;
+    return {.estado = estado, .cuerpo = contenido, .tipo = tipo};
 }
 
 QByteArray lee(const QString& ruta) {
@@ -119,15 +115,11 @@ TEST_F(PasarelaTest, MissingSingleSendingFilesAreDownloadedIntoTheBaseFolder) {
     instalaTodo({kEnviosUnicos[2]});
     guion.respuestas({6});
     EXPECT_TRUE(CompruebaFicherosPasarela());
-    QStringList pedidas;
-    for (const prueba::PeticionHttp& p : servidor.peticiones())
-        pedidas.append(QString::fromLatin1(p.ruta));
-    QStringList esperadas;
-    for (const QString& f : kEnviosUnicos)
-        esperadas.append(QString::fromLatin1(kRuta) + f);
-    EXPECT_EQ(pedidas, esperadas);
-    for (const QString& f : kEnviosUnicos)
-        EXPECT_EQ(lee(base(f)), "contenido de " + f.toLatin1()) << f.toStdString();
+    ASSERT_EQ(servidor.peticiones().size(), kEnviosUnicos.size());
+    for (qsizetype i = 0; i < kEnviosUnicos.size(); ++i) {
+        EXPECT_EQ(servidor.peticiones()[i].ruta, kRuta + kEnviosUnicos[i].toLatin1());
+        EXPECT_EQ(lee(base(kEnviosUnicos[i])), "contenido de " + kEnviosUnicos[i].toLatin1());
+    }
     EXPECT_FALSE(QFileInfo::exists(QDir(programa.path()).filePath(kEnviosUnicos[2])))
         << "downloads go to the base folder, not the program folder";
     const QStringList d = Dialogos(guion);
@@ -155,8 +147,7 @@ TEST_F(PasarelaTest, FailedDownloadsStopThereAndLeaveNoPartialFile) {
     RespuestaHttp htmlSinTipo =
         fichero("\xef\xbb\xbf  <HTML><body>Acceso</body></HTML>", "application/octet-stream");
     const RespuestaHttp noEsta = fichero("no", "text/plain", 404);
-    RespuestaHttp cortada = fichero(QByteArray(64 * 1024, 'x'), "text/xml");
-    cortada.corta = true;
+    const RespuestaHttp cortada{.cuerpo = QByteArray(64 * 1024, 'x'), .tipo = "text/xml", .corta = true};
     const Caso casos[] = {
         {"answered no", {7}, -1, {}},
         {"Escape", {}, -1, {}},
@@ -295,24 +286,21 @@ TEST_F(PasarelaTest, GatewayIniThatCannotBeWrittenIsReported) {
 
 TEST(DameContenidoXML, CutsBetweenTheFirstTags) {
     const struct {
-        const char *texto, *inicio, *fin, *resultado;
+        QString texto, inicio, fin, resultado;
     } casos[] = {
-        {"<a>1</a>", "<a>", "</a>", "1"},
-        {"<a>1", "<a>", "</a>", ""},
-        {"1</a>", "<a>", "</a>", ""},
-        {"<r><a>uno</a><a>dos</a></r>", "<a>", "</a>", "uno"},
-        {"</a><a>1</a>", "<a>", "</a>", ""}, // the end tag is searched from the beginning
-        {"<a></a>", "<a>", "</a>", ""},
-        {"<id>ñandú</id>", "<id>", "</id>", "ñandú"},
-        {"<a>1</a>", "", "</a>", ""},
-        {"<a>1</a>", "<a>", "", ""},
-        {"xax", "xa", "ax", ""}, // the end tag overlaps the start tag
+        {u"<a>1</a>"_s, u"<a>"_s, u"</a>"_s, u"1"_s},
+        {u"<a>1"_s, u"<a>"_s, u"</a>"_s, u""_s},
+        {u"1</a>"_s, u"<a>"_s, u"</a>"_s, u""_s},
+        {u"<r><a>uno</a><a>dos</a></r>"_s, u"<a>"_s, u"</a>"_s, u"uno"_s},
+        {u"</a><a>1</a>"_s, u"<a>"_s, u"</a>"_s, u""_s}, // the end tag is searched from the beginning
+        {u"<a></a>"_s, u"<a>"_s, u"</a>"_s, u""_s},
+        {u"<id>ñandú</id>"_s, u"<id>"_s, u"</id>"_s, u"ñandú"_s},
+        {u"<a>1</a>"_s, u""_s, u"</a>"_s, u""_s},
+        {u"<a>1</a>"_s, u"<a>"_s, u""_s, u""_s},
+        {u"xax"_s, u"xa"_s, u"ax"_s, u""_s}, // the end tag overlaps the start tag
     };
     for (const auto& c : casos)
-        EXPECT_EQ(DameContenidoXML(QString::fromUtf8(c.texto), QString::fromUtf8(c.inicio),
-                                   QString::fromUtf8(c.fin)),
-                  QString::fromUtf8(c.resultado))
-            << c.texto;
+        EXPECT_EQ(DameContenidoXML(c.texto, c.inicio, c.fin), c.resultado) << c.texto.toStdString();
 }
 
 TEST(PuedeActualizarEsteEquipo, TodosOnlyInCapitalsElseTheComputerName) {
@@ -404,9 +392,7 @@ TEST(DescargarFichero, ReportsProgressKeepsTheOldFileOnFailureAndTakesPagesOnlyA
     EXPECT_EQ(ultimo, contenido.size());
     EXPECT_EQ(total, contenido.size());
 
-    RespuestaHttp cortada = fichero(QByteArray(300 * 1024, 'n'));
-    cortada.corta = true;
-    servidor.respondeEn("/datos.bin", cortada);
+    servidor.respondeEn("/datos.bin", {.cuerpo = QByteArray(300 * 1024, 'n'), .corta = true});
     EXPECT_FALSE(DescargarFichero(servidor.base() + u"/datos.bin"_s, destino));
     EXPECT_EQ(lee(destino), contenido) << "the old file stays whole";
     EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"datos.bin"_s});

@@ -272,8 +272,6 @@ TEST(Formularios, TheOtherFormsAndTheConfirmations) {
          pide("IValidaReferenciaCatastral", {"1234"},
               {fija({{"ERCRefCatastral", "9872023vh5797s0001wx"}}, "BBAceptar")}),
          sale({"9872023VH5797S0001WX"}, nullptr)},
-        {"ConfirmaBorradoApuntes of today", pide("ConfirmaBorradoApuntes", {serie(2024, 3, 10)}, {6}),
-         sale(json::array())},
         {"ConfirmaBorradoApuntes of last year",
          pide("ConfirmaBorradoApuntes", {serie(2023, 12, 20)}, {6, 6, 6, 7}),
          [](const json& r) {

@@ -71,11 +71,9 @@ TEST(NodrimCommandLine, UsageOfficeAndStreamErrorsGiveTheirExitStatusAndMessage)
     };
     for (const auto& c : casos) {
         const Resultado r = ejecuta(c.guion);
-        EXPECT_EQ(r.estado, c.estado) << c.guion << "\n" << r.errores.toStdString();
-        if (c.errores.empty())
-            EXPECT_TRUE(r.errores.isEmpty()) << c.guion << "\n" << r.errores.toStdString();
-        else
-            EXPECT_TRUE(encaja(r.errores, c.errores)) << c.guion << "\n" << r.errores.toStdString();
+        const std::string donde = c.guion + "\n" + r.errores.toStdString();
+        EXPECT_EQ(r.estado, c.estado) << donde;
+        EXPECT_TRUE(c.errores.empty() ? r.errores.isEmpty() : encaja(r.errores, c.errores)) << donde;
         EXPECT_TRUE(encaja(r.salida, c.salida)) << c.guion << "\n" << r.salida.toStdString();
     }
 }

@@ -75,22 +75,20 @@ TEST_F(Borrado, ASerialBeyondAnyDayIsAskedAboutNormally) {
     }
 }
 
+// A "No" to any question, or Escape (no answer), cancels with a message.
 TEST_F(Borrado, ANoAnywhereCancelsWithAMessage) {
     FijaAhora(EncodeDate(2024, 2, 15));
-    for (int enPregunta = 0; enPregunta < 4; ++enPregunta) {
-        std::deque<int> respuestas(std::size_t(enPregunta), 6);
-        respuestas.push_back(7);
-        ServicioMensajesGuionado s(respuestas);
-        ServicioMensajesInstalado instalado(s);
-        EXPECT_FALSE(ConfirmaBorradoApuntes(nullptr, EncodeDate(2023, 12, 31)));
-        ASSERT_EQ(s.mostrados().size(), enPregunta + 2);
-        EXPECT_EQ(s.mostrados().back().text, QStringLiteral("Proceso cancelado."));
-        EXPECT_EQ(s.mostrados().back().title, QStringLiteral("Atención"));
-    }
-    // Escape (no answer) is a "No" too.
-    ServicioMensajesGuionado s;
-    ServicioMensajesInstalado instalado(s);
-    EXPECT_FALSE(ConfirmaBorradoApuntes(nullptr, EncodeDate(2024, 2, 15)));
+    for (const bool escape : {false, true})
+        for (int enPregunta = 0; enPregunta < 4; ++enPregunta) {
+            std::deque<int> respuestas(std::size_t(enPregunta), 6);
+            if (!escape) respuestas.push_back(7);
+            ServicioMensajesGuionado s(respuestas);
+            ServicioMensajesInstalado instalado(s);
+            EXPECT_FALSE(ConfirmaBorradoApuntes(nullptr, EncodeDate(2023, 12, 31)));
+            ASSERT_EQ(s.mostrados().size(), enPregunta + 2) << escape;
+            EXPECT_EQ(s.mostrados().back().text, QStringLiteral("Proceso cancelado.")) << escape;
+            EXPECT_EQ(s.mostrados().back().title, QStringLiteral("Atención"));
+        }
 }
 
 TEST_F(Borrado, TheClosingDayOfAQuarterIsConfigured) {

@@ -16,6 +16,8 @@
 using namespace nod;
 using namespace nod::prueba;
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QVariant valor(const FormularioMostrado& m, const char* control) {
@@ -27,39 +29,39 @@ QVariant valor(const FormularioMostrado& m, const char* control) {
 // What the form reports is its visible panel with the values as shown; what goes in passes its handlers.
 TEST(RespuestaFormulario, DescribesTheVisiblePanelAndValuesGoInThroughTheHandlers) {
     Hoy hoy(2024, 3, 10);
-    FormularioVisible f(QStringLiteral("TrimestralSinNif"));
+    FormularioVisible f(u"TrimestralSinNif"_s);
     const FormularioMostrado m = DescribeFormulario(f);
-    EXPECT_EQ(m.titulo, QStringLiteral("Indique el trimestre y el año."));
-    EXPECT_EQ(m.panel, QStringLiteral("pnlTrimestralSinNif"));
-    EXPECT_EQ(valor(m, "cbTrimestre2"), QVariant(QStringLiteral("CUARTO")));
-    EXPECT_EQ(valor(m, "seAno12"), QVariant(QStringLiteral("2023")));
+    EXPECT_EQ(m.titulo, u"Indique el trimestre y el año."_s);
+    EXPECT_EQ(m.panel, u"pnlTrimestralSinNif"_s);
+    EXPECT_EQ(valor(m, "cbTrimestre2"), QVariant(u"CUARTO"_s));
+    EXPECT_EQ(valor(m, "seAno12"), QVariant(u"2023"_s));
     EXPECT_EQ(valor(m, "rbModeloApaisado"), QVariant(true));
     EXPECT_EQ(valor(m, "CBExclusion"), QVariant(true));
     EXPECT_EQ(valor(m, "ELetraNIF"), QVariant(QString()));
     EXPECT_FALSE(valor(m, "seAno").isValid()); // controls of other panels do not exist
     EXPECT_EQ(m.valores.size(), 6);
-    const QString e = RespondeFormulario(f, {{{QStringLiteral("cbTrimestre2"), 1},
-                                              {QStringLiteral("seAno12"), QStringLiteral("05")},
-                                              {QStringLiteral("CBExclusion"), false},
-                                              {QStringLiteral("ELetraNIF"), QStringLiteral("x9")}},
+    const QString e = RespondeFormulario(f, {{{u"cbTrimestre2"_s, 1},
+                                              {u"seAno12"_s, u"05"_s},
+                                              {u"CBExclusion"_s, false},
+                                              {u"ELetraNIF"_s, u"x9"_s}},
                                              {}});
     EXPECT_TRUE(e.isEmpty()) << e.toStdString();
     EXPECT_EQ(f.result(), 1);
-    EXPECT_EQ(f.cbTrimestre2->currentText(), QStringLiteral("SEGUNDO"));
-    EXPECT_EQ(f.seAno12->value(), 2005);                 // completed on leaving the field
-    EXPECT_EQ(f.ELetraNIF->text(), QStringLiteral("x")); // one character: the second key is refused
+    EXPECT_EQ(f.cbTrimestre2->currentText(), u"SEGUNDO"_s);
+    EXPECT_EQ(f.seAno12->value(), 2005);    // completed on leaving the field
+    EXPECT_EQ(f.ELetraNIF->text(), u"x"_s); // one character: the second key is refused
 }
 
 TEST(RespuestaFormulario, ValuesGoInInTabOrderSoAFieldIsEnabledBeforeItIsFilled) {
     QDialog d;
-    auto* todas = new QRadioButton(QStringLiteral("Todas"), &d);
-    auto* una = new QRadioButton(QStringLiteral("Una"), &d);
+    auto* todas = new QRadioButton(u"Todas"_s, &d);
+    auto* una = new QRadioButton(u"Una"_s, &d);
     auto* tablas = new QComboBox(&d);
-    auto* aceptar = new QPushButton(QStringLiteral("&Aceptar"), &d);
-    todas->setObjectName(QStringLiteral("RBTodas"));
-    una->setObjectName(QStringLiteral("RBUna"));
-    tablas->setObjectName(QStringLiteral("CBTablas"));
-    tablas->addItems({QStringLiteral("ACTIVOS"), QStringLiteral("CLIENTES")});
+    auto* aceptar = new QPushButton(u"&Aceptar"_s, &d);
+    todas->setObjectName(u"RBTodas"_s);
+    una->setObjectName(u"RBUna"_s);
+    tablas->setObjectName(u"CBTablas"_s);
+    tablas->addItems({u"ACTIVOS"_s, u"CLIENTES"_s});
     todas->setChecked(true);
     tablas->setEnabled(false);
     QObject::connect(una, &QRadioButton::toggled, tablas, &QComboBox::setEnabled);
@@ -69,17 +71,16 @@ TEST(RespuestaFormulario, ValuesGoInInTabOrderSoAFieldIsEnabledBeforeItIsFilled)
         capa->addWidget(w);
     muestra(d);
     // The list first, as a JSON object's sorted keys would give it: it is still entered after the radio.
-    const QString e = RespondeFormulario(
-        d, {{{QStringLiteral("CBTablas"), QStringLiteral("CLIENTES")}, {QStringLiteral("RBUna"), true}}, {}});
+    const QString e = RespondeFormulario(d, {{{u"CBTablas"_s, u"CLIENTES"_s}, {u"RBUna"_s, true}}, {}});
     EXPECT_TRUE(e.isEmpty()) << e.toStdString();
     EXPECT_EQ(d.result(), 1);
-    EXPECT_EQ(tablas->currentText(), QStringLiteral("CLIENTES"));
+    EXPECT_EQ(tablas->currentText(), u"CLIENTES"_s);
 }
 
 TEST(RespuestaFormulario, AnswersThatDoNotFitAreRefusedNamingTheControl) {
-    prueba::OficinaPrueba oficina; // no invoice table: "&Aceptar" of the invoice number is disabled
-    // An unknown control, a boolean for a year, an item not in the list and a disabled "&Aceptar" are
-    // refused the same way through `nodrim batch` (tests/nodrim/test_formularios.cpp).
+    prueba::OficinaPrueba oficina;
+    // An unknown control, a boolean for a year, an item not in the list, a disabled field and a disabled
+    // "&Aceptar" are refused the same way through `nodrim batch` (tests/nodrim/test_formularios.cpp).
     const auto fija = [](const char* control, const QVariant& v) {
         return RespuestaFormulario{{{QString::fromUtf8(control), v}}, {}};
     };
@@ -89,18 +90,14 @@ TEST(RespuestaFormulario, AnswersThatDoNotFitAreRefusedNamingTheControl) {
         const char* error;
     } casos[] = {
         {"MesAño", fija("cbMes", 12), "control \"cbMes\" has no item 12"},
-        {"MesAño",
-         {{}, QStringLiteral("btnNada")},
-         "the form \"Indique el mes y el año.\" has no button \"btnNada\""},
+        {"MesAño", {{}, u"btnNada"_s}, "the form \"Indique el mes y el año.\" has no button \"btnNada\""},
         {"MesAño", fija("btnAceptar", true), "control \"btnAceptar\" takes no value"},
         {"SerieGastos", fija("rbSerieR", false),
          "radio button \"rbSerieR\" is cleared by choosing another one"},
-        {"DesdeDia", fija("dtpDesdeFecha", QStringLiteral("15/03/2024")),
+        {"DesdeDia", fija("dtpDesdeFecha", u"15/03/2024"_s),
          "control \"dtpDesdeFecha\" takes a date \"YYYY-MM-DD\", not a string"},
         {"Texto", fija("eTexto", 12), "control \"eTexto\" takes a string, not an integer"},
-        {"PideNumeroFactura", fija("ENUMEROFAC", 7), "control \"ENUMEROFAC\" is disabled"},
-        {"CantidadMaxMin", fija("lblCantidad", QStringLiteral("1")),
-         "control \"lblCantidad\" takes no value"},
+        {"CantidadMaxMin", fija("lblCantidad", u"1"_s), "control \"lblCantidad\" takes no value"},
         {"Cantidad", fija("FECantidadMaxima", 5), "control \"FECantidadMaxima\" is not shown"},
     };
     for (const Caso& c : casos) {
@@ -113,12 +110,10 @@ TEST(RespuestaFormulario, AnswersThatDoNotFitAreRefusedNamingTheControl) {
 
 TEST(RespuestaFormulario, APasswordIsNeverReported) {
     TFPideClave f;
-    f.setWindowTitle(QStringLiteral("Facturación"));
+    f.setWindowTitle(u"Facturación"_s);
     muestra(f);
-    ASSERT_TRUE(RespondeFormulario(
-                    f, {{{QStringLiteral("EClave"), QStringLiteral("ZEB")}}, QStringLiteral("BBCancelar")})
-                    .isEmpty());
-    EXPECT_EQ(f.EClave->text(), QStringLiteral("ZEB"));
+    ASSERT_TRUE(RespondeFormulario(f, {{{u"EClave"_s, u"ZEB"_s}}, u"BBCancelar"_s}).isEmpty());
+    EXPECT_EQ(f.EClave->text(), u"ZEB"_s);
     EXPECT_EQ(valor(DescribeFormulario(f), "EClave"), QVariant(QString()));
     EXPECT_EQ(f.result(), 2);
 }
