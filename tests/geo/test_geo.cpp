@@ -48,8 +48,8 @@ TEST_F(Geo, CountryAndProvinceCodesAndNames) {
     EXPECT_EQ(Cod_PaisToNombre(codigo), QStringLiteral("ESPAÑA"));
     EXPECT_EQ(Cod_PaisISO3166PorCodigo(codigo), QStringLiteral("ESP"));
     EXPECT_EQ(Cod_PaisISO3166PorCodigo(QStringLiteral("99")), QStringLiteral("ESP"));
-    for (const char* codigo : {"0", "28", "9999"}) // a province (28) is not a country
-        EXPECT_EQ(Cod_PaisToNombre(QString::fromLatin1(codigo)), QStringLiteral("999")) << codigo;
+    for (const char* otro : {"0", "28", "9999"}) // a province (28) is not a country
+        EXPECT_EQ(Cod_PaisToNombre(QString::fromLatin1(otro)), QStringLiteral("999")) << otro;
     for (const Caso& c :
          {Caso{"28", "MADRID"}, Caso{"028", "MADRID"}, Caso{"15", "A CORUÑA"}, Caso{"52", "MELILLA"},
           Caso{"000", ""}, Caso{"", ""}, Caso{"53", ""}, Caso{"XX", ""}})

@@ -23,9 +23,9 @@ struct PeticionHttp {
 struct RespuestaHttp {
     int estado = 200;
     int retrasoMs = 0;
-    QByteArray cuerpo;
+    QByteArray cuerpo{};
     QByteArray tipo = "text/xml; charset=utf-8";
-    QList<QPair<QByteArray, QByteArray>> cabeceras;
+    QList<QPair<QByteArray, QByteArray>> cabeceras{};
     bool corta = false;
 };
 

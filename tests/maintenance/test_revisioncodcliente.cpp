@@ -255,10 +255,10 @@ TEST(RevisionCodigos, EveryShapeOfCodeIsSearchedExactly) {
     OficinaPrueba o(ConfigOficinaRevision());
     ServicioMensajesGuionado mensajes;
     ServicioMensajesInstalado instalado(mensajes);
-    const QList<TCampoDbf> campos = {{u"CODIGO"_s, 'N', 12, 1},
-                                     {u"APELLIDOS"_s, 'C', 10, 0},
-                                     {u"NOMBRE"_s, 'C', 10, 0},
-                                     {u"CONYUGE"_s, 'N', 12, 1}};
+    const QList<TCampoDbf> camposClientes = {{u"CODIGO"_s, 'N', 12, 1},
+                                             {u"APELLIDOS"_s, 'C', 10, 0},
+                                             {u"NOMBRE"_s, 'C', 10, 0},
+                                             {u"CONYUGE"_s, 'N', 12, 1}};
     const double clientes[] = {1, 64, 2.5, -7, 200000000, 99999999};
     const double referidos[] = {1, 64, 63, 65, 2.5, 2.4, -7, -8, 200000000, 300000000, 99999999, 99999998};
     QDir().mkpath(o.ruta(u"COMUN"_s));
@@ -271,7 +271,7 @@ TEST(RevisionCodigos, EveryShapeOfCodeIsSearchedExactly) {
             tb->Post();
         }
     };
-    escribe(u"CLIENTES.DBF"_s, campos, clientes);
+    escribe(u"CLIENTES.DBF"_s, camposClientes, clientes);
     escribe(u"TIT_CLI.DBF"_s, {{u"CODCLIENTE"_s, 'N', 12, 1}}, referidos);
     TRevisionCodCliente revision;
     ASSERT_TRUE(revision.Prepara());
