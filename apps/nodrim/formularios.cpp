@@ -117,20 +117,31 @@ int respondeFormulario(QDialog& d) {
     json& anotado = peticion->anotaFormulario(describe(d));
     const json* respuesta = peticion->siguienteParaFormulario();
     std::string fallo;
+    json luego = json::array();
     if (!respuesta) {
         fallo = "the form \"" + titulo + "\" would wait for a clerk: no answer is left for it";
     } else {
         Vigilante& vigilante = Vigilante::instala();
         vigilante.respondiendo(&d);
         fallo = entra(d, *respuesta);
+        // A button that leaves the form open (the registered properties' "A&ñadir") is followed by the
+        // clerk's next step on the same form: the next answer, as long as it is a form's.
+        while (fallo.empty() && d.isVisible() && vigilante.cajaPropia().empty()) {
+            const json* otra = peticion->otraParaFormularioAbierto();
+            if (!otra) break;
+            luego.push_back(*otra);
+            fallo = entra(d, *otra);
+        }
         vigilante.respondiendo(nullptr);
         if (!vigilante.cajaPropia().empty())
             fallo = "the form \"" + titulo +
                     "\" opened a box of its own, closed as cancelled: " + vigilante.cajaPropia();
         else if (fallo.empty() && d.isVisible())
-            fallo = "the form \"" + titulo + "\" is still open after its button was pressed";
+            fallo = "the form \"" + titulo +
+                    "\" is still open after its button was pressed, and no form answer follows";
     }
     anotado["answer"] = respuesta ? *respuesta : json(nullptr);
+    if (!luego.empty()) anotado["then"] = std::move(luego);
     anotado["defaulted"] = respuesta == nullptr;
     if (!fallo.empty()) {
         peticion->falla(fallo);

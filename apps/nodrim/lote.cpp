@@ -183,6 +183,11 @@ public:
         return &r;
     }
 
+    /// The next answer when it is a form's; null, and nothing taken, otherwise.
+    const json* siguienteSiEsDeFormulario() {
+        return sinUsar() > 0 && (*m_lista)[m_siguiente].is_object() ? &(*m_lista)[m_siguiente++] : nullptr;
+    }
+
     /// The next answer, for a message box of the given kind; nullopt when none is left.
     std::optional<int> paraMensaje(const QString& kind) {
         if (sinUsar() == 0) return std::nullopt;
@@ -341,6 +346,10 @@ PeticionEnCurso* PeticionEnCurso::Actual() {
 
 const json* PeticionEnCurso::siguienteParaFormulario() {
     return m_estado->respuestas.paraFormulario();
+}
+
+const json* PeticionEnCurso::otraParaFormularioAbierto() {
+    return m_estado->respuestas.siguienteSiEsDeFormulario();
 }
 
 json& PeticionEnCurso::anotaFormulario(json entrada) {

@@ -49,6 +49,9 @@ public:
     /// The next entry of "answers", for a form: null when none is left. An entry that is not an object
     /// is not taken and makes the request fail (a form asks for {"set", "press"}).
     const json* siguienteParaFormulario();
+    /// The next entry of "answers" when it is an object, for a form still open after its button (an
+    /// "Añadir" that adds a line): null, and nothing taken, when none is left or the next is a modal result.
+    const json* otraParaFormularioAbierto();
     /// Records a form for "dialogs", after the dialogs shown before it; the entry stays where it is
     /// returned while the request runs, to be completed once the form is answered.
     json& anotaFormulario(json entrada);

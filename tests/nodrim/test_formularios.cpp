@@ -342,6 +342,18 @@ TEST(Formularios, TheFormsOfADeed) {
         {"FincasAceptar",
          pide("TFMasDatosFincasRegistrales", {202401234.1, "COMPRAVENTA", " B|a|A| "}, {fija({})}),
          sale({"a|A|B"}, 1)}, // the list sorts as the clerk reads, "a" before "A"
+        // "A&ñadir" leaves the form open: the clerk's next steps are the next answers, listed under "then".
+        {"FincasAnadir",
+         pide("TFMasDatosFincasRegistrales", {202401234.1, "COMPRAVENTA", "B|A"},
+              {fija({}, "BBAnadir"), fija({{"EFincaRegistral", "C"}}, "BBAceptarCambios"),
+               fija({}, "BBAceptar")}),
+         [](const json& r) {
+             sale({"A|B|C"}, 1)(r);
+             EXPECT_EQ(formulario(r)["then"].size(), 2u) << r.dump();
+         }},
+        {"FincasAnadirSinMas",
+         pide("TFMasDatosFincasRegistrales", {202401234.1, "COMPRAVENTA", "B|A"}, {fija({}, "BBAnadir")}),
+         falla("is still open after its button was pressed, and no form answer follows")},
         {"FincasCancelar",
          pide("TFMasDatosFincasRegistrales", {202401234.1, "COMPRAVENTA", "B|A"}, {fija({}, "BBCancelar")}),
          sale({"B|A"}, 2)},
