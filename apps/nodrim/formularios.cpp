@@ -155,6 +155,13 @@ int respondeFormulario(QDialog& d) {
 } // namespace
 
 void InstalaRespuestaFormularios() {
+    // The offscreen platform lacks what a desktop has (raising a window, grabbing the keyboard, passing
+    // size hints on) and says so each time a form asks for it: nothing a script should read as a
+    // warning of its request.
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        FijaAvisosSinInteres([](const QString& mensaje) {
+            return mensaje.startsWith(QLatin1String("This plugin does not support "));
+        });
     Vigilante::instala();
     FijaEjecutorModal(&respondeFormulario);
 }

@@ -211,6 +211,8 @@ private:
     std::string m_error;
 };
 
+bool (*g_avisoSinInteres)(const QString&) = nullptr; // set once at start-up
+
 // Collects what the library logs as a warning (or worse) while one request runs, and passes every
 // message on to the handler installed before (the log on standard error).
 class CapturaAvisos {
@@ -237,7 +239,8 @@ private:
     static void maneja(QtMsgType tipo, const QMessageLogContext& contexto, const QString& texto) {
         CapturaAvisos* c = t_actual;
         if (!c) return; // another thread, after the request: nothing to record and nowhere to pass
-        if (tipo == QtWarningMsg || tipo == QtCriticalMsg || tipo == QtFatalMsg) {
+        if ((tipo == QtWarningMsg || tipo == QtCriticalMsg || tipo == QtFatalMsg) &&
+            !(g_avisoSinInteres && g_avisoSinInteres(texto))) {
             if (c->m_avisos.size() < kAvisosPorPeticion)
                 c->m_avisos.push_back(recorta(texto.toStdString(), kLargoMensaje));
             else
@@ -346,6 +349,10 @@ PeticionEnCurso* PeticionEnCurso::Actual() {
 
 const json* PeticionEnCurso::siguienteParaFormulario() {
     return m_estado->respuestas.paraFormulario();
+}
+
+void FijaAvisosSinInteres(bool (*esRuido)(const QString& mensaje)) {
+    g_avisoSinInteres = esRuido;
 }
 
 const json* PeticionEnCurso::otraParaFormularioAbierto() {

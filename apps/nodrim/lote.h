@@ -39,6 +39,10 @@ using Reenvio = std::function<std::optional<json>(const json& peticion)>;
 /// Installs `r` for every request from now on (an empty one: none); returns the one it replaces.
 Reenvio FijaReenvio(Reenvio r);
 
+/// Makes the warnings of a response leave out the log messages `esRuido` picks (null: none): notices of
+/// the windowing platform that say nothing of the request. They still reach the log.
+void FijaAvisosSinInteres(bool (*esRuido)(const QString& mensaje));
+
 /// The request being answered, for a form layer that answers the forms its routine shows. Exists only
 /// while `Atiende` runs a routine.
 class PeticionEnCurso {

@@ -69,11 +69,13 @@ void compruebaFormulario(const json& r, const json& valores, const char* titulo)
     }
 }
 
-// Accepted, with these out values; the form showed `mostrados`.
+// Accepted, with these out values and no warning (not even the offscreen platform's notices); the form
+// showed `mostrados`.
 std::function<void(const json&)> sale(json out, json resultado = true, json mostrados = json::object(),
                                       const char* titulo = nullptr) {
     return [=](const json& r) {
         EXPECT_FALSE(r.contains("error")) << r.dump();
+        EXPECT_FALSE(r.contains("warnings")) << r.dump();
         EXPECT_EQ(r["out"], out) << r.dump();
         EXPECT_EQ(r["result"], resultado);
         compruebaFormulario(r, mostrados, titulo);
